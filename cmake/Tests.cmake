@@ -1,0 +1,21 @@
+# Tests. One program for each folder below tests/; `ctest` runs them all.
+
+find_package(GTest REQUIRED)
+
+# quarn_add_test_program(NAME): tests/NAME/*.cpp, linked to the archives so that internals can be tested
+function(quarn_add_test_program folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${folder}/*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(quarn_test_${folder} ${sources})
+  target_include_directories(quarn_test_${folder} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(quarn_test_${folder} PRIVATE quarn_flags quarn_asn1_static quarn_util_static
+                        GTest::gtest GTest::gtest_main)
+  target_compile_definitions(quarn_test_${folder} PRIVATE QUARN_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  add_test(NAME ${folder} COMMAND quarn_test_${folder} --gtest_brief=1)
+endfunction()
+
+foreach(folder util unit vectors laws)
+  quarn_add_test_program(${folder})
+endforeach()
