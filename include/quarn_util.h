@@ -151,6 +151,11 @@ typedef struct quarn_data_blob {
 QUARN_UTIL_API quarn_data_blob *quarn_data_blob_new(const uint8_t *octets, int64_t count);
 /** New blob with the whole content of a file; "-" is the standard input. */
 QUARN_UTIL_API quarn_data_blob *quarn_data_blob_fromfile(const char *path, quarn_err_ctx *ctx);
+/**
+ * New blob around octets that quarn_malloc() gave or either library handed out, without copying
+ * them. The blob takes them over; when it cannot be made they stay the caller's.
+ */
+QUARN_UTIL_API quarn_data_blob *quarn_data_blob_adopt(uint8_t *octets, int64_t count);
 /** Releases a blob and its octets. */
 QUARN_UTIL_API void quarn_data_blob_free(quarn_data_blob *blob);
 
