@@ -23,8 +23,10 @@ struct quarn_biginteger {
 
 namespace quarn::util {
 
-// Decimal text longer than this is refused: the arithmetic below counts bits in 32 bits.
+// Longer decimal text and greater values are not converted: the arithmetic counts bits in 32 bits,
+// also those of products on the way.
 constexpr std::size_t kMostDecimalDigits = 300'000'000;
+constexpr std::size_t kMostDecimalOctets = 125'000'000;
 
 // A new value of the given sign (0 when the magnitude is 0) from a big-endian magnitude, which may
 // start with zeros. Null when memory is short.
@@ -34,7 +36,7 @@ quarn_biginteger *make_biginteger(int sign, const uint8_t *magnitude, std::size_
 quarn_biginteger *biginteger_from_digits(int sign, const char *digits, std::size_t count);
 
 // The decimal text of the value, NUL-terminated. Null when memory is short or the value has more
-// than kMostDecimalDigits digits.
+// than kMostDecimalOctets octets.
 char *biginteger_to_digits(const quarn_biginteger &value, std::size_t *length);
 
 }  // namespace quarn::util

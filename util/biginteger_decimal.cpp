@@ -22,6 +22,7 @@ namespace {
 
 using quarn::util::Block;
 using quarn::util::kMostDecimalDigits;
+using quarn::util::kMostDecimalOctets;
 
 // Memory of the library's numbers: quarn_malloc(), and an exception when it is short.
 template <typename T>
@@ -49,8 +50,15 @@ constexpr std::size_t kLimbDigits = 19;  // digits that always fit a limb
 constexpr Limb kLimbPower = 10'000'000'000'000'000'000U;
 constexpr std::size_t kPieceDigits = kLimbDigits * 32;
 constexpr std::size_t kMostPowers = 20;
+
+// At least the digits of any magnitude of this many octets: log10(256) is below 2.40825.
+constexpr std::size_t most_digits(std::size_t octets) {
+  return octets * 240825 / 100000 + 1;
+}
+
 static_assert(sizeof(Limb) == 8);
 static_assert((kPieceDigits << (kMostPowers - 1)) >= kMostDecimalDigits);
+static_assert((kPieceDigits << (kMostPowers - 1)) >= most_digits(kMostDecimalOctets));
 
 // 10^digits, and what dividing by it takes.
 struct Power {
@@ -221,11 +229,9 @@ quarn_biginteger *biginteger_from_digits(int sign, const char *digits, std::size
 }
 
 char *biginteger_to_digits(const quarn_biginteger &value, std::size_t *length) {
-  // log10(256) is below 2.40825.
-  if (value.length > kMostDecimalDigits / 5 * 2) return nullptr;
-  const std::size_t bound = value.length * 240825 / 100000 + 1;
+  if (value.length > kMostDecimalOctets) return nullptr;
   try {
-    return print_all(value, bound, length);
+    return print_all(value, most_digits(value.length), length);
   } catch (const std::exception &) {
     return nullptr;
   }
