@@ -84,11 +84,17 @@ const char *quarn_igetStreamError(int code) {
 }
 
 // Deeper than any genuine message, shallow enough for every decoder on a stack of 256 KiB.
-int quarn_get_recursive_level(void) { return 128; }
+int quarn_get_recursive_level(void) {
+  return 128;
+}
 
-const char *quarn_util_version(void) { return "2.0.0"; }
+const char *quarn_util_version(void) {
+  return "2.0.0";
+}
 
-quarn_err_ctx *quarn_err_ctx_new(void) { return quarn::util::allocate<quarn_err_ctx>(); }
+quarn_err_ctx *quarn_err_ctx_new(void) {
+  return quarn::util::allocate<quarn_err_ctx>();
+}
 
 void quarn_err_ctx_free(quarn_err_ctx *ctx) {
   if (ctx == nullptr) return;
@@ -107,12 +113,8 @@ static int grow(quarn_err_ctx *ctx) {
   return 1;
 }
 
-int quarn_err_ctx_put_at(quarn_err_ctx *ctx,
-                         const char *file,
-                         int line,
-                         int code,
-                         const char *message,
-                         int64_t offset) {
+int quarn_err_ctx_put_at(
+    quarn_err_ctx *ctx, const char *file, int line, int code, const char *message, int64_t offset) {
   if (ctx == nullptr) return 1;
   if (ctx->count == kMostRecords) {
     ctx->dropped++;
@@ -130,9 +132,13 @@ int quarn_err_ctx_put(
   return quarn_err_ctx_put_at(ctx, file, line, code, message, -1);
 }
 
-size_t quarn_err_ctx_count(const quarn_err_ctx *ctx) { return ctx == nullptr ? 0 : ctx->count; }
+size_t quarn_err_ctx_count(const quarn_err_ctx *ctx) {
+  return ctx == nullptr ? 0 : ctx->count;
+}
 
-size_t quarn_err_ctx_dropped(const quarn_err_ctx *ctx) { return ctx == nullptr ? 0 : ctx->dropped; }
+size_t quarn_err_ctx_dropped(const quarn_err_ctx *ctx) {
+  return ctx == nullptr ? 0 : ctx->dropped;
+}
 
 const quarn_err_record *quarn_err_ctx_get(const quarn_err_ctx *ctx, size_t index) {
   if (ctx == nullptr || index >= ctx->count) return nullptr;

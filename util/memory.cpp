@@ -33,8 +33,8 @@ void quarn_free(void *p) {
   }
 }
 
-// A blob and its octets are one block; a caller who replaces data would break that, so the octets
-// are told from foreign ones by their address.
+// A copying blob and its octets are one block; the octets of an adopting blob are told from those
+// by their address.
 quarn_data_blob *quarn_data_blob_new(const uint8_t *octets, int64_t count) {
   if (count < 0 || (octets == nullptr && count > 0)) return nullptr;
   auto *blob = quarn::util::allocate<quarn_data_blob>(static_cast<std::size_t>(count));
@@ -43,6 +43,15 @@ quarn_data_blob *quarn_data_blob_new(const uint8_t *octets, int64_t count) {
     blob->data = reinterpret_cast<uint8_t *>(blob + 1);
     std::memcpy(blob->data, octets, static_cast<std::size_t>(count));
   }
+  blob->length = count;
+  return blob;
+}
+
+quarn_data_blob *quarn_data_blob_adopt(uint8_t *octets, int64_t count) {
+  if (count < 0 || (octets == nullptr && count > 0)) return nullptr;
+  auto *blob = quarn::util::allocate<quarn_data_blob>();
+  if (blob == nullptr) return nullptr;
+  blob->data = octets;
   blob->length = count;
   return blob;
 }

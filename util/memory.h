@@ -1,4 +1,5 @@
-// Memory inside the support library: typed allocation through quarn_malloc() and owners of its results.
+// Memory inside the support library: typed allocation through quarn_malloc() and owners of its
+// results.
 #ifndef QUARN_UTIL_MEMORY_H
 #define QUARN_UTIL_MEMORY_H
 
@@ -14,7 +15,9 @@ namespace quarn::util {
 // Memory for a T followed by extra octets; null when it is short or the sum does not fit.
 // The T is value-initialised, the extra octets are not.
 template <typename T>
-T *allocate(std::size_t extra = 0, const char *file = __builtin_FILE(), int line = __builtin_LINE()) {
+T *allocate(std::size_t extra = 0,
+            const char *file = __builtin_FILE(),
+            int line = __builtin_LINE()) {
   if (extra > SIZE_MAX - sizeof(T)) return nullptr;
   void *memory = quarn_malloc(sizeof(T) + extra, file, line);
   return memory == nullptr ? nullptr : new (memory) T{};
@@ -22,7 +25,9 @@ T *allocate(std::size_t extra = 0, const char *file = __builtin_FILE(), int line
 
 // Memory for count uninitialised elements of trivial type; null when it is short.
 template <typename T>
-T *allocate_array(std::size_t count, const char *file = __builtin_FILE(), int line = __builtin_LINE()) {
+T *allocate_array(std::size_t count,
+                  const char *file = __builtin_FILE(),
+                  int line = __builtin_LINE()) {
   if (count > SIZE_MAX / sizeof(T)) return nullptr;
   return static_cast<T *>(quarn_malloc(count * sizeof(T), file, line));
 }

@@ -38,9 +38,9 @@ class Allocation {
   }
   void never_fail() { fail_at_ = std::numeric_limits<std::uint64_t>::max(); }
 
-  bool failed() const { return failed_; }            // whether an allocation was refused
-  std::uint64_t count() const { return count_; }     // allocations since the last fail_after()
-  std::int64_t live_blocks() const { return live_; } // blocks not yet released
+  bool failed() const { return failed_; }             // whether an allocation was refused
+  std::uint64_t count() const { return count_; }      // allocations since the last fail_after()
+  std::int64_t live_blocks() const { return live_; }  // blocks not yet released
   std::size_t live_octets() const { return octets_; }
   std::size_t peak_octets() const { return peak_; }
   void reset_peak() { peak_ = octets_; }
@@ -92,8 +92,8 @@ class Allocation {
 };
 
 // Runs `attempt` with its first, second, third ... allocation failing, in both modes, until it runs
-// through without a failure. attempt(Allocation &) is called with a freshly armed allocator and must
-// release what it made; allocation.failed() tells whether an allocation was refused so far.
+// through without a failure. attempt(Allocation &) is called with a freshly armed allocator and
+// must release what it made; allocation.failed() tells whether an allocation was refused so far.
 // Nothing may be left afterwards.
 template <typename Attempt>
 void fail_each_allocation(Attempt attempt) {

@@ -1,1 +1,0 @@
-#include "quarn_util.h"

@@ -1,0 +1,68 @@
+#include "core/reader.h"
+
+#include <algorithm>
+
+namespace quarn::asn1 {
+
+namespace {
+
+// The unit whose name a short read from octets in memory carries: the same as from a stream.
+constexpr Unit kStreamUnit{"QUARN_Stream"};
+
+// From a stream that cannot say what it still holds, buffers grow by at most this much ahead.
+constexpr std::uint64_t kStep = 8192;
+
+// Lengths that no memory can hold are answered as lack of memory before anything is read.
+constexpr std::uint64_t kAddressable = std::uint64_t{1} << 47;
+
+}  // namespace
+
+void Reader::borrow() {
+  const std::uint8_t *octets = nullptr;
+  std::uint64_t count = 0;
+  if (stream_ == nullptr || quarn_memstream_peek(stream_, &octets, &count) != 1) return;
+  in_memory_ = true;
+  begin_ = next_ = octets;
+  end_ = octets + count;
+}
+
+void Reader::settle() {
+  if (stream_ == nullptr || !in_memory_ || next_ == begin_) return;
+  const auto count = static_cast<std::uint64_t>(next_ - begin_);
+  // Cannot fail: the octets were there to be read.
+  static_cast<void>(quarn_stream_skip(stream_, count, nullptr));
+  settled_ += count;
+  begin_ = next_;
+}
+
+Status Reader::short_read() {
+  ran_out_ = true;
+  return kStreamUnit.fail(ctx_, QUARN_STREAM_ERROR_END, offset());
+}
+
+Status Reader::octets_slowly(std::uint8_t *out, std::uint64_t count) {
+  if (stream_ == nullptr || in_memory_) return short_read();
+  const auto status =
+      Status::from(quarn_stream_readn(stream_, out, static_cast<std::int64_t>(count), ctx_));
+  if (!status) return status;
+  settled_ += count;
+  if (captures_ > 0 && !captured_.append(out, count)) {
+    return kStreamUnit.fail(ctx_, QUARN_ERROR_NO_MEMORY, offset());
+  }
+  return status;
+}
+
+Status Reader::octets(Buffer &out, std::uint64_t count, const Unit &unit) {
+  if (count > kAddressable) return unit.fail(ctx_, QUARN_ERROR_NO_MEMORY, offset());
+  if (in_memory_ && count > left()) return short_read();
+  while (count > 0) {
+    const std::uint64_t step = in_memory_ ? count : std::min(count, kStep);
+    if (!out.reserve(step)) return unit.fail(ctx_, QUARN_ERROR_NO_MEMORY, offset());
+    if (const Status status = octets(out.data() + out.size(), step); !status) return status;
+    out.extend(step);
+    count -= step;
+  }
+  return Status::success();
+}
+
+}  // namespace quarn::asn1

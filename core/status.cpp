@@ -1,0 +1,29 @@
+#include "core/status.h"
+
+#include "quarn_asn1/core.h"
+
+namespace quarn::asn1 {
+
+const char *message_of(int code) {
+  const char *text = quarn_igetASN1Error(code);
+  if (*text == '\0') text = quarn_igetGeneralError(code);
+  if (*text == '\0') text = quarn_igetStreamError(code);
+  return text;
+}
+
+[[gnu::cold]] Status Unit::fail(quarn_err_ctx *ctx, int code, std::int64_t offset, int line) const {
+  return pass_on(Status::failure(), ctx, code, offset, line);
+}
+
+[[gnu::cold]] Status Unit::pass_on(
+    Status status, quarn_err_ctx *ctx, int code, std::int64_t offset, int line) const {
+  quarn_err_ctx_put_at(ctx, name, line, code, message_of(code), offset);
+  return status;
+}
+
+[[gnu::cold]] Status Unit::fail_generally(quarn_err_ctx *ctx, int code, int line) const {
+  quarn_err_ctx_put(ctx, name, line, code, quarn_igetGeneralError(code));
+  return Status::failure();
+}
+
+}  // namespace quarn::asn1

@@ -1,0 +1,94 @@
+// The registry: what the library knows of each type id, and the operations that go through it.
+#ifndef QUARN_CORE_TYPE_H
+#define QUARN_CORE_TYPE_H
+
+#include <cstdint>
+
+#include "core/header.h"
+#include "quarn_asn1/ids.h"
+
+namespace quarn::asn1 {
+
+struct Type;
+
+// How the values of a type are freed, measured, written and read. Rows of the registry that differ
+// only in tag and codes share one. The codec of a type that writes its own identifier (a CHOICE, an
+// open type, a string of either form) has encode and decode; the others leave them null and get
+// identifier and length from their row.
+//
+// A content length handed to encode_content is what content_length gave. decode_content stores null
+// first and a new value on success; with kIndefinite it consumes the end-of-contents too.
+struct Codec {
+  void (*free)(const Type &type, void *value);
+  std::int64_t (*content_length)(const Type &type, const void *value);
+  std::int64_t (*length)(const Type &type, const void *value);
+  Status (*encode_content)(const Type &type, Writer &out, void *value, std::int64_t length);
+  Status (*decode_content)(
+      const Type &type, Reader &in, void **value, bool primitive, std::int64_t length);
+  Status (*encode)(const Type &type, Writer &out, void *value);
+  Status (*decode)(const Type &type, Reader &in, void **value);
+};
+
+// One row of the registry. form: 1 primitive, 0 constructed, -1 decided by each value.
+struct Type {
+  const char *name;
+  const Codec *codec;
+  std::uint64_t tag_number;
+  int error_code;
+  std::uint32_t tag_class;
+  std::int32_t form;
+
+  int encode_error() const { return error_code; }
+  int decode_error() const { return error_code + 1; }
+};
+
+// The row of an id, or null when there is none. Defined on the top floor, in modules/.
+const Type *find_type(std::int64_t id);
+// The row of an id that is known to be good.
+const Type &type_of(quarn_asn1_type_id id);
+
+// Whole elements. The row's own codec, or identifier and length around its content codec.
+Status encode(const Type &type, Writer &out, void *value);
+Status decode(const Type &type, Reader &in, void **value);
+// Octets of the whole element; kIndefinite, kNoLength.
+std::int64_t length_of(const Type &type, const void *value);
+std::int64_t content_length_of(const Type &type, const void *value);
+// Content alone, for components under a tag of their own. Nested values count towards the limit.
+Status encode_content(const Type &type, Writer &out, void *value, std::int64_t length);
+Status decode_content(
+    const Type &type, Reader &in, void **value, bool primitive, std::int64_t length);
+void free_value(const Type &type, void *value);
+
+// Codecs of rows that cannot do something.
+Status cannot_encode(const Type &type, Writer &out, void *value);
+Status cannot_encode_content(const Type &type, Writer &out, void *value, std::int64_t length);
+Status cannot_decode(const Type &type, Reader &in, void **value);
+Status cannot_decode_content(
+    const Type &type, Reader &in, void **value, bool primitive, std::int64_t length);
+std::int64_t no_length(const Type &type, const void *value);
+void free_nothing(const Type &type, void *value);
+
+// Owns a value of any type until it is released.
+class Value {
+ public:
+  explicit Value(const Type &type, void *value = nullptr) : type_(type), value_(value) {}
+  Value(const Value &) = delete;
+  Value &operator=(const Value &) = delete;
+  ~Value() { free_value(type_, value_); }
+
+  void *get() const { return value_; }
+  void **out() { return &value_; }
+  void *release() {
+    void *value = value_;
+    value_ = nullptr;
+    return value;
+  }
+
+ private:
+  const Type &type_;
+  void *value_;
+};
+
+}  // namespace quarn::asn1
+
+#endif

@@ -1,0 +1,32 @@
+/**
+ * The ASN.1 library, libquarn_asn1.so.1: BER in, DER out, for public-key-infrastructure software.
+ *
+ * What holds for every function, unless its own text says otherwise:
+ *
+ *  - A type is named by a type id of quarn_asn1/ids.h, a value is a pointer to an object of that
+ *    type. Values belong to whoever made them, by a constructor or by decoding, and are freed with
+ *    quarn_asn1_value_free() under their type id. Freeing null does nothing.
+ *  - Constructors copy what they are given and return null when an argument is bad or memory is
+ *    short. Getters of single octets, numbers and texts lend: what they return lives as long as the
+ *    value. Functions that return a new object or buffer say so.
+ *  - An int result is 1 for success. Anything else is failure; compare with 1.
+ *  - A length is a count of octets, QUARN_ASN1_INDEFINITE, or QUARN_ASN1_NO_LENGTH.
+ *  - Null for an object that is only asked gives the answer for nothing: 0, null, or
+ *    QUARN_ASN1_NO_LENGTH. Out pointers for octet counts may be null.
+ *  - Each failure puts one record into the error context, and each enclosing layer one of its own,
+ *    so that the records tell the chain from the innermost failure outwards. A context may be null.
+ *  - Input is BER, output is DER, with two exceptions: content of unknown or very large length that
+ *    a caller's stream holds is written in segments of indefinite length, and what was received in
+ * a form that is not canonical (an INTEGER with a superfluous octet, say) is kept as it was.
+ *  - Values are not locked: one value or stream by one thread at a time. There is no shared state.
+ *  - Nothing is believed that the input only claims: memory grows with the octets that arrive, time
+ *    is linear in them, nesting is bounded by quarn_get_recursive_level().
+ */
+#ifndef QUARN_ASN1_H
+#define QUARN_ASN1_H
+
+#include "quarn_asn1/core.h"
+#include "quarn_asn1/json.h"
+#include "quarn_asn1/types.h"
+
+#endif

@@ -1,0 +1,26 @@
+// The array of all rows, put together on the top floor: the core only declares it, so that nothing
+// below depends on the modules.
+#include <iterator>
+
+#include "core/type.h"
+#include "types/codecs.h"
+
+namespace quarn::asn1 {
+
+namespace {
+
+#include "modules/gen/registry.inc"
+
+static_assert(std::size(kTypes) == QUARN_ASN1_TYPE_COUNT);
+
+}  // namespace
+
+const Type *find_type(std::int64_t id) {
+  return id < 0 || id >= QUARN_ASN1_TYPE_COUNT ? nullptr : &kTypes[id];
+}
+
+const Type &type_of(quarn_asn1_type_id id) {
+  return kTypes[id];
+}
+
+}  // namespace quarn::asn1

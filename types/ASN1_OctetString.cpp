@@ -1,0 +1,18 @@
+#include "types/codecs.h"
+
+namespace quarn::asn1 {
+
+const Codec kOctetstringCodec = {
+    free_nothing,          no_length,     no_length,    cannot_encode_content,
+    cannot_decode_content, cannot_encode, cannot_decode};
+const Codec kCharacterstringCodec = {
+    free_nothing,          no_length,     no_length,    cannot_encode_content,
+    cannot_decode_content, cannot_encode, cannot_decode};
+const Codec kStringCodec = {
+    free_nothing,          no_length,     no_length,    cannot_encode_content,
+    cannot_decode_content, cannot_encode, cannot_decode};
+const Codec kOctetstringContentCodec = {
+    free_nothing,          no_length,     no_length,    cannot_encode_content,
+    cannot_decode_content, cannot_encode, cannot_decode};
+
+}  // namespace quarn::asn1
