@@ -1,4 +1,5 @@
 // The tree of JSON values: making, joining, reading and freeing them.
+#include <algorithm>
 #include <bit>
 #include <cmath>
 
@@ -42,7 +43,7 @@ quarn_json **grown_block(const quarn_json *container, uint64_t pointers) {
   if (__builtin_mul_overflow(pointers, sizeof(void *) + cells, &octets)) return nullptr;
   auto **block = reinterpret_cast<quarn_json **>(allocate_array<char>(octets));
   if (block == nullptr) return nullptr;
-  std::memcpy(block, container->children(), container->size * sizeof *block);
+  std::copy_n(container->children(), container->size, block);
   if (!indexed) return block;
   std::memset(block + pointers, 0, pointers * cells);
   for (uint32_t i = 0; i < container->size; i++) add_to_index(block, pointers, block[i]);

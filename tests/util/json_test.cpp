@@ -204,18 +204,29 @@ TEST(Json, lack_of_memory_leaves_values_with_their_owner) {
 
 // The texts are those of Python's json.dumps(), with ensure_ascii=False.
 TEST(JsonPrint, compact_and_indented_text_is_that_of_other_printers) {
-  const std::string text = R"({"a":1,"empty":{},"none":[],"list":[true,false,null,{"b":"c"}],)"
-                           R"("text":"\"\\/\b\f\n\r\t\u0001\u001f)"
-                           "\x7f é€😀"
-                           R"(\u0000."})";
+  const std::string member = R"("\"\\/\b\f\n\r\t\u0001\u001f)"
+                             "\x7f é€😀"
+                             R"(\u0000.")";
+  const std::string text =
+      R"({"a":1,"empty":{},"none":[],"list":[true,false,null,{"b":"c"}],"text":)" + member + "}";
   quarn_json *j = quarn_json_parse(text.data(), text.size(), nullptr);
   EXPECT_EQ(printed(j), text);
-  EXPECT_EQ(
-      printed(j, 2),
-      "{\n  \"a\": 1,\n  \"empty\": {},\n  \"none\": [],\n  \"list\": [\n    true,\n    false,\n"
-      "    null,\n    {\n      \"b\": \"c\"\n    }\n  ],\n  " +
-          text.substr(text.find("\"text\""), 7) + " " +
-          text.substr(text.find("\"text\"") + 7, text.size() - text.find("\"text\"") - 8) + "\n}");
+  const std::string lines =
+      R"({
+  "a": 1,
+  "empty": {},
+  "none": [],
+  "list": [
+    true,
+    false,
+    null,
+    {
+      "b": "c"
+    }
+  ],
+  "text": )" +
+      member + "\n}";
+  EXPECT_EQ(printed(j, 2), lines);
   EXPECT_EQ(printed(find(j, "list")), R"([true,false,null,{"b":"c"}])");
   quarn_json_free(j);
 }
@@ -232,8 +243,9 @@ TEST(JsonPrint, every_character_is_escaped_where_it_must_be) {
       if (short_form != std::string::npos) {
         std::snprintf(escaped, sizeof escaped, "\\%c", "btnfr"[short_form]);
       }
-      ASSERT_EQ(printed_and_freed(string(text)),
-                '"' + std::string(before, 'x') + escaped + "xxxxxxxx\"");
+      std::string expected(1, '"');
+      expected.append(before, 'x').append(escaped).append("xxxxxxxx\"");
+      ASSERT_EQ(printed_and_freed(string(text)), expected);
     }
   }
 }
@@ -265,8 +277,9 @@ TEST(JsonPrint, indentation_stops_growing_at_64_levels) {
   const std::string text = std::string(70, '[') + std::string(70, ']');
   quarn_json *j = quarn_json_parse(text.data(), text.size(), nullptr);
   const std::string lines = printed(j, 3);
-  EXPECT_NE(lines.find("\n" + std::string(64 * 3, ' ') + "[]\n"), std::string::npos);
-  EXPECT_EQ(lines.find(std::string(64 * 3 + 1, ' ')), std::string::npos);
+  const std::string blanks(64 * 3, ' ');
+  EXPECT_NE(lines.find("\n" + blanks + "[]\n"), std::string::npos);
+  EXPECT_EQ(lines.find(blanks + " "), std::string::npos);
   EXPECT_EQ(printed(j, -1), "failed");
   quarn_json_free(j);
 }
