@@ -1,0 +1,411 @@
+// Memory and callback streams.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "quarn_util.h"
+#include "tests/support/allocation.h"
+#include "tests/support/handles.h"
+
+namespace {
+
+using quarn::test::Allocation;
+using quarn::test::fail_each_allocation;
+using quarn::test::octets_of;
+using quarn::test::Records;
+using quarn::test::rest_of;
+using quarn::test::Stream;
+using quarn::test::write_text;
+
+int seek(quarn_stream *s, uint64_t position, quarn_err_ctx *ctx = nullptr) {
+  return quarn_stream_ctrl(s, QUARN_STREAM_SEEK, &position, ctx);
+}
+
+uint64_t length_of(quarn_stream *s) {
+  uint64_t length = 0;
+  EXPECT_EQ(quarn_stream_ctrl(s, QUARN_STREAM_LENGTH, &length, nullptr), 1);
+  return length;
+}
+
+int at_end(quarn_stream *s, quarn_err_ctx *ctx = nullptr) {
+  return quarn_stream_ctrl(s, QUARN_STREAM_ATEND, nullptr, ctx);
+}
+
+TEST(MemoryStream, writing_appends_and_leaves_the_read_position) {
+  Stream s(quarn_stream_new_mem(0, nullptr));
+  EXPECT_EQ(quarn_stream_gettype(s.get()), 0x20001u);
+  ASSERT_EQ(write_text(s, "abc"), 1);
+  char c = 0;
+  EXPECT_EQ(quarn_stream_readn(s.get(), &c, 1, nullptr), 1);
+  ASSERT_EQ(write_text(s, "def"), 1);
+  EXPECT_EQ(quarn_stream_position(s.get()), 1u);
+  EXPECT_EQ(length_of(s.get()), 6u);
+  EXPECT_EQ(rest_of(s), "bcdef");
+  EXPECT_EQ(at_end(s.get()), 1);
+  EXPECT_EQ(seek(s.get(), 6), 1);
+  EXPECT_EQ(quarn_stream_ctrl(s.get(), QUARN_STREAM_REWIND, nullptr, nullptr), 1);
+  EXPECT_EQ(at_end(s.get()), 0);
+  EXPECT_EQ(rest_of(s), "abcdef");
+}
+
+TEST(MemoryStream, short_exact_read_keeps_position_and_a_short_read_does_not_fail) {
+  Records ctx;
+  Stream s(quarn_stream_new_romem(octets_of("abcde"), 5, 0, ctx.get()));
+  char buffer[8] = {};
+  uint64_t got = 9;
+  ASSERT_EQ(quarn_stream_skip(s.get(), 2, ctx.get()), 1);
+  EXPECT_EQ(quarn_stream_readn(s.get(), buffer, 4, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_skip(s.get(), 4, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_skip(s.get(), UINT64_MAX, ctx.get()), 0);
+  EXPECT_EQ(ctx.codes(), (std::vector<int>{0x10103, 0x10103, 0x10103}));
+  EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 0)->file, "QUARN_Stream");
+  EXPECT_EQ(quarn_err_ctx_offset(ctx.get(), 0), 2);
+  EXPECT_EQ(quarn_stream_position(s.get()), 2u);
+  EXPECT_EQ(quarn_stream_read(s.get(), buffer, 8, &got, ctx.get()), 1);
+  EXPECT_EQ(std::string(buffer, got), "cde");
+  EXPECT_EQ(quarn_stream_read(s.get(), buffer, 8, &got, ctx.get()), 1);
+  EXPECT_EQ(got, 0u);
+}
+
+TEST(MemoryStream, each_refusal_leaves_one_record) {
+  Records ctx;
+  Stream s(quarn_stream_new_romem(octets_of("abc"), 3, 0, ctx.get()));
+  char c = 0;
+  EXPECT_EQ(quarn_stream_writen(s.get(), "x", 1, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_readn(s.get(), &c, -1, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_readn(s.get(), nullptr, 1, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_readn(nullptr, &c, 1, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_ctrl(s.get(), 3, nullptr, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_ctrl(s.get(), QUARN_STREAM_LENGTH, nullptr, ctx.get()), 0);
+  EXPECT_EQ(seek(s.get(), 4, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_new_mem(-1, ctx.get()), nullptr);
+  EXPECT_EQ(quarn_stream_new_romem(nullptr, 1, 0, ctx.get()), nullptr);
+  EXPECT_EQ(quarn_stream_writefromstream(s.get(), s.get(), ctx.get(), nullptr), 0);
+  EXPECT_EQ(ctx.codes(), (std::vector<int>{0x10104, 0x10001, 0x10002, 0x10002, 0x10105, 0x10002,
+                                           0x10106, 0x10001, 0x10002, 0x10104}));
+  EXPECT_EQ(at_end(s.get(), ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_writen(s.get(), nullptr, 0, ctx.get()), 1);
+  EXPECT_EQ(ctx.count(), 10u);
+}
+
+TEST(MemoryStream, duplicates_are_snapshots_that_outlive_growth_detaching_and_the_original) {
+  quarn_stream *s = quarn_stream_new_mem(0, nullptr);
+  std::vector<quarn_stream *> duplicates;
+  std::string content;
+  for (int i = 0; i < 200; i++) {
+    const std::string piece = std::to_string(i);
+    ASSERT_EQ(quarn_stream_writen(s, piece.data(), static_cast<int64_t>(piece.size()), nullptr), 1);
+    content += piece;
+    duplicates.push_back(quarn_memstream_dup_readonly(s, nullptr));
+    ASSERT_EQ(length_of(duplicates.back()), content.size());
+  }
+  quarn_stream *second = quarn_memstream_dup_readonly(duplicates.back(), nullptr);
+  uint8_t *octets = nullptr;
+  uint64_t count = 0;
+  ASSERT_EQ(quarn_memstreamdeatch(s, &octets, &count), 1);
+  octets[0] = '#';  // shared with duplicates: what is handed out is a copy
+  EXPECT_EQ(length_of(s), 0u);
+  ASSERT_EQ(quarn_stream_writen(s, "new", 3, nullptr), 1);
+  quarn_stream_free(s);
+  quarn_free(octets);
+  EXPECT_EQ(count, content.size());
+  std::thread other([&] {
+    for (quarn_stream *d : duplicates) {
+      EXPECT_EQ(rest_of(d), content.substr(0, length_of(d)));
+      EXPECT_EQ(quarn_stream_writen(d, "x", 1, nullptr), 0);
+      quarn_stream_free(d);
+    }
+  });
+  EXPECT_EQ(rest_of(second), content);
+  quarn_stream_free(second);
+  other.join();
+}
+
+TEST(MemoryStream, detaching_hands_out_the_buffer_itself_when_it_is_not_shared) {
+  Allocation allocation;
+  quarn_stream *s = quarn_stream_new_mem(INT64_MAX, nullptr);
+  EXPECT_EQ(allocation.live_blocks(), 1);
+  EXPECT_LT(allocation.live_octets(), 128u);
+  uint8_t *octets = nullptr;
+  uint64_t count = 1;
+  EXPECT_EQ(quarn_memstreamdeatch(s, &octets, &count), 1);
+  EXPECT_EQ(octets, nullptr);
+  EXPECT_EQ(count, 0u);
+  quarn_stream_writen(s, "abc", 3, nullptr);
+  EXPECT_LT(allocation.live_octets(), 20000u);  // a hint is no promise of octets to come
+  const uint8_t *lent = nullptr;
+  quarn_memstream_peek(s, &lent, nullptr);
+  EXPECT_EQ(quarn_memstreamdeatch(s, &octets, &count), 1);
+  EXPECT_EQ(octets, lent);
+  EXPECT_EQ(allocation.count(), 2u);
+  quarn_free(octets);
+  quarn_stream_free(s);
+  EXPECT_EQ(allocation.live_blocks(), 0);
+}
+
+TEST(MemoryStream, read_only_streams_read_in_place_or_from_a_copy) {
+  uint8_t octets[] = {'a', 'b'};
+  Stream in_place(quarn_stream_new_romem(octets, 2, 0, nullptr));
+  Stream copy(quarn_stream_new_romem(octets, 2, 1, nullptr));
+  Stream empty(quarn_stream_new_romem(nullptr, 0, 1, nullptr));
+  octets[0] = 'x';
+  EXPECT_EQ(rest_of(in_place), "xb");
+  EXPECT_EQ(rest_of(copy), "ab");
+  EXPECT_EQ(at_end(empty.get()), 1);
+  uint8_t *detached = octets;
+  EXPECT_EQ(quarn_memstreamdeatch(copy.get(), &detached, nullptr), 0);
+  EXPECT_EQ(detached, nullptr);
+}
+
+TEST(MemoryStream, lends_unread_octets_and_room) {
+  Stream s(quarn_stream_new_mem(0, nullptr));
+  uint8_t *room = nullptr;
+  uint64_t size = 0;
+  ASSERT_EQ(quarn_memstream_reserve(s.get(), 100, &room, &size, nullptr), 1);
+  ASSERT_GE(size, 100u);
+  std::memset(room, 'r', size);
+  EXPECT_EQ(quarn_memstream_commit(s.get(), size + 1), 0);
+  EXPECT_EQ(quarn_memstream_commit(s.get(), size), 1);
+  EXPECT_EQ(quarn_memstream_commit(s.get(), 1), 0);
+  quarn_stream_skip(s.get(), 10, nullptr);
+  const uint8_t *octets = nullptr;
+  uint64_t count = 0;
+  EXPECT_EQ(quarn_memstream_peek(s.get(), &octets, &count), 1);
+  EXPECT_EQ(count, size - 10);
+  EXPECT_EQ(octets[count - 1], 'r');
+  EXPECT_EQ(quarn_stream_position(s.get()), 10u);
+  Records ctx;
+  EXPECT_EQ(quarn_memstream_reserve(s.get(), UINT64_MAX, &room, &size, ctx.get()), 0);
+  EXPECT_EQ(ctx.codes(), std::vector<int>{0x10000});
+  EXPECT_EQ(length_of(s.get()), count + 10);
+}
+
+TEST(MemoryStream, copies_itself_and_its_own_octets_as_they_were) {
+  Stream s(quarn_stream_new_mem(0, nullptr));
+  std::string expected = "0123456789";
+  write_text(s, expected.c_str());
+  for (int i = 0; i < 6; i++) {
+    uint64_t copied = 0;
+    const uint64_t position = quarn_stream_position(s.get());
+    ASSERT_EQ(quarn_stream_writefromstream(s.get(), s.get(), nullptr, &copied), 1);
+    EXPECT_EQ(copied, expected.size() - position);
+    expected += expected.substr(position);
+    const uint8_t *own = nullptr;
+    uint64_t count = 0;
+    quarn_memstream_peek(s.get(), &own, &count);
+    ASSERT_EQ(quarn_stream_writen(s.get(), own, static_cast<int64_t>(count), nullptr), 1);
+    expected += expected.substr(expected.size() - count);
+  }
+  quarn_stream_ctrl(s.get(), QUARN_STREAM_REWIND, nullptr, nullptr);
+  EXPECT_EQ(rest_of(s), expected);
+}
+
+// A source of octets that can be told to misbehave.
+struct Source {
+  std::string content;
+  uint64_t position = 0;
+  int64_t piece = 3;  // most octets given at once
+  int64_t length = -1;
+  int64_t wrong_result = 0;  // what read() returns when it fails
+  int fail_call = -1;        // the call, counted over all functions, that fails
+  int calls = 0;
+  int closed = 0;
+
+  bool fails() { return calls++ == fail_call; }
+};
+
+int64_t source_read(void *user, void *buffer, int64_t count) {
+  auto &source = *static_cast<Source *>(user);
+  if (source.fails()) return source.wrong_result;
+  const uint64_t left = source.content.size() - std::min(source.content.size(), source.position);
+  const auto n =
+      std::min({static_cast<uint64_t>(count), left, static_cast<uint64_t>(source.piece)});
+  if (n > 0) std::memcpy(buffer, source.content.data() + source.position, n);
+  source.position += n;
+  return static_cast<int64_t>(n);
+}
+
+int source_write(void *user, const void *buffer, int64_t count) {
+  auto &source = *static_cast<Source *>(user);
+  if (source.fails()) return 0;
+  source.content.append(static_cast<const char *>(buffer), static_cast<std::size_t>(count));
+  return 1;
+}
+
+int source_seek(void *user, uint64_t position) {
+  auto &source = *static_cast<Source *>(user);
+  if (source.fails()) return 0;
+  source.position = position;
+  return 1;
+}
+
+const quarn_stream_callbacks kAll = {
+    source_read, source_write, [](void *user) { return static_cast<Source *>(user)->length; },
+    source_seek, [](void *user) { static_cast<Source *>(user)->closed++; }};
+const quarn_stream_callbacks kReadOnly = {source_read, nullptr, nullptr, nullptr, nullptr};
+
+TEST(CallbackStream, exact_reads_loop_over_short_ones) {
+  Source source{"0123456789"};
+  {
+    Stream s(quarn_stream_new_callback(&kAll, &source, nullptr));
+    EXPECT_EQ(quarn_stream_gettype(s.get()), 0x20003u);
+    char buffer[16] = {};
+    uint64_t got = 0;
+    EXPECT_EQ(quarn_stream_read(s.get(), buffer, 8, &got, nullptr), 1);
+    EXPECT_EQ(got, 3u);
+    EXPECT_EQ(quarn_stream_readn(s.get(), buffer, 6, nullptr), 1);
+    EXPECT_STREQ(buffer, "345678");
+    EXPECT_EQ(quarn_stream_position(s.get()), 9u);
+    Records ctx;
+    EXPECT_EQ(quarn_stream_readn(s.get(), buffer, 2, ctx.get()), 0);
+    EXPECT_EQ(ctx.codes(), std::vector<int>{0x10103});
+    EXPECT_EQ(quarn_memstream_peek(s.get(), nullptr, nullptr), 0);
+    EXPECT_EQ(quarn_memstream_dup_readonly(s.get(), ctx.get()), nullptr);
+    EXPECT_EQ(ctx.count(), 1u);
+    EXPECT_EQ(source.closed, 0);
+  }
+  EXPECT_EQ(source.closed, 1);
+}
+
+TEST(CallbackStream, tells_the_end_without_a_length_and_loses_no_octet) {
+  Source source{"ab"};
+  Stream s(quarn_stream_new_callback(&kReadOnly, &source, nullptr));
+  EXPECT_EQ(length_of(s.get()), UINT64_MAX);
+  EXPECT_EQ(at_end(s.get()), 0);
+  EXPECT_EQ(at_end(s.get()), 0);
+  EXPECT_EQ(source.calls, 1);
+  EXPECT_EQ(quarn_stream_position(s.get()), 0u);
+  EXPECT_EQ(rest_of(s), "ab");
+  EXPECT_EQ(at_end(s.get()), 1);
+}
+
+TEST(CallbackStream, tells_the_end_from_a_length_without_reading) {
+  Source source{"ab"};
+  source.length = 2;
+  Stream s(quarn_stream_new_callback(&kAll, &source, nullptr));
+  EXPECT_EQ(at_end(s.get()), 0);
+  EXPECT_EQ(source.calls, 0);
+  EXPECT_EQ(quarn_stream_skip(s.get(), 2, nullptr), 1);
+  EXPECT_EQ(at_end(s.get()), 1);
+  Records ctx;
+  EXPECT_EQ(seek(s.get(), 3, ctx.get()), 0);
+  EXPECT_EQ(ctx.codes(), std::vector<int>{0x10106});
+}
+
+TEST(CallbackStream, skips_by_seeking_or_else_by_reading_and_notices_the_end) {
+  for (const bool seekable : {true, false}) {
+    for (const int64_t length : {int64_t{-1}, int64_t{5000}}) {
+      Source source{std::string(5000, 'x')};
+      source.length = length;
+      source.content[4500] = 'y';
+      source.piece = 1000;
+      Stream s(quarn_stream_new_callback(seekable ? &kAll : &kReadOnly, &source, nullptr));
+      EXPECT_EQ(at_end(s.get()), 0);  // may hold an octet back
+      ASSERT_EQ(quarn_stream_skip(s.get(), 4500, nullptr), 1);
+      EXPECT_LE(source.calls, seekable ? 3 : 8);
+      EXPECT_EQ(quarn_stream_position(s.get()), 4500u);
+      char c = 0;
+      ASSERT_EQ(quarn_stream_readn(s.get(), &c, 1, nullptr), 1);
+      EXPECT_EQ(c, 'y');
+      Records ctx;
+      EXPECT_EQ(quarn_stream_skip(s.get(), 500, ctx.get()), 0);
+      EXPECT_EQ(quarn_stream_skip(s.get(), UINT64_MAX, ctx.get()), 0);
+      EXPECT_EQ(ctx.codes(), (std::vector<int>{0x10103, 0x10103}));
+    }
+  }
+}
+
+TEST(CallbackStream, refuses_results_that_cannot_be) {
+  for (const int64_t wrong : {int64_t{-1}, int64_t{-7}, int64_t{5}, INT64_MAX, INT64_MIN}) {
+    Source source{"abcdef"};
+    source.fail_call = 0;
+    source.wrong_result = wrong;
+    Stream s(quarn_stream_new_callback(&kAll, &source, nullptr));
+    Records ctx;
+    char buffer[8];
+    EXPECT_EQ(quarn_stream_readn(s.get(), buffer, 4, ctx.get()), 0) << wrong;
+    EXPECT_EQ(ctx.codes(), std::vector<int>{0x10101});
+  }
+}
+
+TEST(CallbackStream, missing_functions_are_reported) {
+  Source source{"ab"};
+  const quarn_stream_callbacks none{};
+  Stream s(quarn_stream_new_callback(&none, &source, nullptr));
+  Records ctx;
+  char c = 0;
+  EXPECT_EQ(quarn_stream_new_callback(nullptr, &source, ctx.get()), nullptr);
+  EXPECT_EQ(quarn_stream_readn(s.get(), &c, 1, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_writen(s.get(), "x", 1, ctx.get()), 0);
+  EXPECT_EQ(seek(s.get(), 0, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_ctrl(s.get(), QUARN_STREAM_REWIND, nullptr, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_writefromstream(s.get(), s.get(), ctx.get(), nullptr), 0);
+  EXPECT_EQ(at_end(s.get(), ctx.get()), 0);
+  EXPECT_EQ(ctx.codes(), (std::vector<int>{0x10002, 0x10101, 0x10104, 0x10107, 0x10109, 0x10104}));
+}
+
+// Uses every function of a source and a destination once; counts the failures reported.
+int exercise(Source *from, Source *to, quarn_err_ctx *ctx) {
+  Stream source(quarn_stream_new_callback(&kAll, from, ctx));
+  Stream destination(quarn_stream_new_callback(&kAll, to, ctx));
+  char buffer[4];
+  int failures = 0;
+  const auto run = [&failures](int result) { failures += result == 1 ? 0 : 1; };
+  run(quarn_stream_readn(source.get(), buffer, 4, ctx));
+  run(seek(source.get(), 1, ctx));
+  run(quarn_stream_skip(source.get(), 1, ctx));
+  run(quarn_stream_ctrl(source.get(), QUARN_STREAM_REWIND, nullptr, ctx));
+  run(quarn_stream_writefromstream(destination.get(), source.get(), ctx, nullptr));
+  run(quarn_stream_flush(destination.get(), ctx));
+  return failures;
+}
+
+TEST(CallbackStream, each_failing_call_is_one_failure_with_one_record) {
+  int total = 0;
+  {
+    Source from{"0123456789"};
+    Source to;
+    ASSERT_EQ(exercise(&from, &to, nullptr), 0);
+    EXPECT_EQ(to.content, from.content);
+    total = from.calls;
+  }
+  for (int i = 0; i < total; i++) {
+    Source from{"0123456789"};
+    from.wrong_result = -1;
+    from.fail_call = i;
+    Source to;
+    to.fail_call = i == 0 ? 0 : -1;
+    Records ctx;
+    const int failures = exercise(&from, &to, ctx.get());
+    EXPECT_EQ(failures, i == 0 ? 2 : 1) << "call " << i;
+    EXPECT_EQ(ctx.count(), static_cast<std::size_t>(failures)) << "call " << i;
+  }
+}
+
+TEST(Stream, survives_lack_of_memory) {
+  fail_each_allocation([](Allocation &allocation) {
+    Source source{std::string(20000, 'x')};
+    source.piece = 5000;
+    Stream s(quarn_stream_new_mem(16, nullptr));
+    Stream copy(quarn_stream_new_romem(octets_of("abc"), 3, 1, nullptr));
+    Stream callback(quarn_stream_new_callback(&kReadOnly, &source, nullptr));
+    if (!s || !callback) return;
+    quarn_stream_writen(s.get(), "abc", 3, nullptr);
+    Stream duplicate(quarn_memstream_dup_readonly(s.get(), nullptr));
+    const uint64_t before = length_of(s.get());
+    uint64_t copied = 0;
+    const int result = quarn_stream_writefromstream(s.get(), callback.get(), nullptr, &copied);
+    EXPECT_TRUE(result == 1 || allocation.failed());
+    EXPECT_EQ(length_of(s.get()), before + copied);
+    Stream last(quarn_memstream_dup_readonly(s.get(), nullptr));
+    uint8_t *octets = nullptr;
+    quarn_memstreamdeatch(s.get(), &octets, nullptr);
+    quarn_free(octets);
+  });
+}
+
+}  // namespace
