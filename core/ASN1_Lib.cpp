@@ -175,7 +175,7 @@ std::int64_t end_length(const Type & /*type*/, const void * /*value*/) {
 }  // namespace
 
 const Codec kEocCodec{free_nothing,       end_length, nullptr,   encode_end_content,
-                             decode_end_content, encode_end, decode_end};
+                      decode_end_content, encode_end, decode_end};
 
 }  // namespace quarn::asn1
 

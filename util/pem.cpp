@@ -131,6 +131,17 @@ Frame read_frame(string_view text, std::size_t begin) {
   return close_frame(text, frame, boundary);
 }
 
+// The first block with the label, which may be broken; a broken one when there is none.
+Frame find_label(string_view text, string_view label) {
+  std::size_t at = find_boundary(text, 0, kBegin);
+  while (at != string_view::npos) {
+    const Frame frame = read_frame(text, at);
+    if (frame.label.data() != nullptr && frame.label == label) return frame;
+    at = find_boundary(text, frame.next, kBegin);
+  }
+  return broken({}, text.size(), text.size());
+}
+
 // Offset of the content of the body: behind the headers and the empty line that ends them; npos
 // when that line is missing.
 std::size_t skip_headers(string_view body) {
@@ -206,19 +217,12 @@ int quarn_pemdecode(
   if (label == nullptr || octets == nullptr || length < 0) return 0;
   if (text == nullptr && length > 0) return 0;
   const string_view all(text, static_cast<std::size_t>(length));
-  std::size_t at = find_boundary(all, 0, kBegin);
-  while (at != string_view::npos) {
-    const Frame frame = read_frame(all, at);
-    if (frame.label == label && frame.label.data() != nullptr) {
-      if (frame.broken) return 0;
-      const quarn::util::Base64Result result = decode_frame(all, frame);
-      *octets = result.octets;
-      if (count != nullptr) *count = result.count;
-      return result.code == 0 ? 1 : 0;
-    }
-    at = find_boundary(all, frame.next, kBegin);
-  }
-  return 0;
+  const Frame frame = find_label(all, label);
+  if (frame.broken) return 0;
+  const quarn::util::Base64Result result = decode_frame(all, frame);
+  *octets = result.octets;
+  if (count != nullptr) *count = result.count;
+  return result.code == 0 ? 1 : 0;
 }
 
 int quarn_pemencode(

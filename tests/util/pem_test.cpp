@@ -33,12 +33,13 @@ std::vector<std::string> blocks_of(const std::string &text) {
     if (result == 1) {
       EXPECT_EQ(block.end, offset);
       EXPECT_EQ(text.compare(static_cast<std::size_t>(block.begin), 11, "-----BEGIN "), 0);
-      found.push_back(std::string(block.label, static_cast<std::size_t>(block.label_length)) + "=" +
-                      std::string(block.octets, block.octets + block.count));
+      std::string entry(block.label, static_cast<std::size_t>(block.label_length));
+      entry.append(1, '=').append(block.octets, block.octets + block.count);
+      found.push_back(entry);
     } else {
       EXPECT_EQ(ctx.codes(), std::vector<int>{0x10003});
       EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 0)->file, "QUARN_Pem");
-      found.push_back("!" + std::to_string(quarn_err_ctx_offset(ctx.get(), 0)));
+      found.push_back('!' + std::to_string(quarn_err_ctx_offset(ctx.get(), 0)));
     }
   }
 }

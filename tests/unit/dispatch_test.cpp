@@ -1,0 +1,84 @@
+// Dispatch by type id: what the registry's rows are good for, and what happens without one.
+#include <gtest/gtest.h>
+
+#include "core/type.h"
+#include "quarn_asn1.h"
+#include "tests/support/streams.h"
+
+namespace quarn::test {
+namespace {
+
+using Octets = std::vector<std::uint8_t>;
+
+TEST(Dispatch, an_id_without_a_row_is_refused) {
+  for (const std::int64_t id : {std::int64_t{-1}, std::int64_t{420}, INT64_MIN}) {
+    const Context ctx(quarn_err_ctx_new());
+    const Octets octets{0x05, 0x00};
+    const Stream stream = memory_stream(octets);
+    void *value = &value;
+    EXPECT_EQ(quarn_asn1_decode(stream.get(), id, &value, nullptr, ctx.get()), 0);
+    EXPECT_EQ(value, &value) << "nothing is touched";
+    EXPECT_EQ(quarn_asn1_decode_content(stream.get(), id, &value, 1, 0, nullptr, ctx.get()), 0);
+    EXPECT_EQ(quarn_asn1_encode(stream.get(), id, &value, nullptr, ctx.get()), 0);
+    EXPECT_EQ(quarn_asn1_encode_content(stream.get(), id, &value, 0, nullptr, ctx.get()), 0);
+    EXPECT_EQ(quarn_asn1_encode_puterr(ctx.get(), id, "UNIT", 1), 1);
+    EXPECT_EQ(codes_in(ctx.get()), std::vector<int>(5, 0x1026b));
+    EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 0)->file, "QUARN_ASN1");
+    EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 4)->file, "UNIT");
+    EXPECT_EQ(quarn_asn1_length(id, nullptr), -2);
+    EXPECT_EQ(quarn_asn1_content_length(id, nullptr), -2);
+    quarn_asn1_value_free(id, &value);
+  }
+}
+
+TEST(Dispatch, rows_have_the_codes_that_callers_know) {
+  const Context ctx(quarn_err_ctx_new());
+  EXPECT_EQ(quarn_asn1_encode_puterr(ctx.get(), 38, "UNIT", 1), 1);
+  EXPECT_EQ(quarn_asn1_decode_puterr(ctx.get(), 38, "UNIT", 1), 1);
+  EXPECT_EQ(quarn_asn1_decode_puterr(ctx.get(), 49, "UNIT", 1), 1);
+  EXPECT_EQ(codes_in(ctx.get()), (std::vector<int>{0x10256, 0x10257, 0x30}));
+  EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 1)->message, "decode x509 tbscertificate fail");
+  EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 2)->message, "") << "outside the table of messages";
+}
+
+TEST(Dispatch, types_are_found_by_name_and_described) {
+  quarn_asn1_type_description description{};
+  EXPECT_EQ(quarn_asn1_type_describe(349, &description), 1);
+  EXPECT_STREQ(description.name, "ldapabandonrequest");
+  EXPECT_EQ(description.tag_class, 0x40u);
+  EXPECT_EQ(description.tag_number, 16u);
+  EXPECT_EQ(description.form, 1);
+  EXPECT_EQ(description.error_code, 0x1020f);
+  for (std::int64_t id = 0; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    ASSERT_EQ(quarn_asn1_type_describe(id, &description), 1);
+    EXPECT_EQ(quarn_asn1_type_find(description.name), id) << "names are distinct";
+  }
+  EXPECT_EQ(quarn_asn1_type_find("no such type"), -1);
+  EXPECT_EQ(quarn_asn1_type_find(nullptr), -1);
+}
+
+TEST(Dispatch, whole_lengths_are_sums_that_do_not_wrap) {
+  using quarn::asn1::element_length;
+  EXPECT_EQ(element_length(16, 200), 203);
+  EXPECT_EQ(element_length(16, -1), -1);
+  EXPECT_EQ(element_length(16, -2), -2);
+  EXPECT_EQ(element_length(16, -3), -2);
+  EXPECT_EQ(element_length(16, INT64_MAX), -1) << "too large for a count";
+  EXPECT_EQ(element_length(16, INT64_MAX - 10), INT64_MAX);
+  EXPECT_EQ(element_length(16, INT64_MAX - 9), -1);
+  EXPECT_EQ(element_length(UINT64_MAX, 0), -2) << "no such tag number";
+}
+
+TEST(Messages, are_those_of_the_table) {
+  EXPECT_STREQ(quarn_igetASN1Error(0x10200), "Invalid tagclass");
+  EXPECT_STREQ(quarn_igetASN1Error(0x10314), "the length of  pkcs5 pbe param salt is not 8");
+  EXPECT_STREQ(quarn_igetASN1Error(0x10341),
+               "decode cms OtherRevocationInfoFormat failencode pkcs6 cert fail");
+  EXPECT_STREQ(quarn_igetASN1Error(0x10576), "decode GB SES_Signature fail");
+  for (const int code : {0x101FF, 0x10577, 0, -1, 0x10002})
+    EXPECT_STREQ(quarn_igetASN1Error(code), "");
+  EXPECT_STREQ(quarn_asn1_version(), "QUARN ASN.1 Library 1.8,Build on 2020");
+}
+
+}  // namespace
+}  // namespace quarn::test

@@ -1,0 +1,43 @@
+// Reads .vec files: groups of `key = value` lines, `#` comments.
+//
+//     type = 33
+//
+//     case = indefinite length is read, definite length is written
+//     in   = 30 80  06 02 2A 03  00 00
+//     out  = 30 04  06 02 2A 03
+//
+// type holds until the next type line; a case line begins a case. Octets are hexadecimal; a group
+// in parentheses can be repeated: (30 80)*3.
+#ifndef QUARN_TESTS_VECTORS_VECTOR_FILE_H
+#define QUARN_TESTS_VECTORS_VECTOR_FILE_H
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quarn::test {
+
+using Octets = std::vector<std::uint8_t>;
+
+struct Vector {
+  std::string file;
+  int line = 0;
+  std::int64_t type = -1;
+  std::string name;
+  Octets in;
+  std::optional<Octets> out;              // present: decoding succeeds and re-encodes to this
+  std::vector<int> codes;                 // codes of all records, innermost first
+  int result = 0;                         // of a decode that fails
+  std::optional<std::uint64_t> consumed;  // of one that succeeds; default: all of in
+};
+
+// All vectors of a file. Throws std::runtime_error with file and line for a line it cannot read.
+std::vector<Vector> read_vectors(const std::string &path);
+
+// All vectors of a folder's .vec files, in the order of file names.
+std::vector<Vector> read_vector_folder(const std::string &folder);
+
+}  // namespace quarn::test
+
+#endif
