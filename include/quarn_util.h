@@ -333,12 +333,13 @@ QUARN_UTIL_API quarn_biginteger *quarn_biginteger_newdata(const uint8_t *octets,
 QUARN_UTIL_API quarn_biginteger *quarn_biginteger_newunsigneddata(const uint8_t *octets,
                                                                   int64_t count,
                                                                   quarn_err_ctx *ctx);
-/** From decimal text: digits, at most 300,000,000, after an optional '-'. Nothing else is accepted.
+/** From decimal text: digits, at most 1,000,000, after an optional '-'. Nothing else is accepted.
  */
 QUARN_UTIL_API quarn_biginteger *quarn_biginteger_newdec(const char *text, quarn_err_ctx *ctx);
 /** The two's complement octets of the minimal encoding, as a new blob. */
 QUARN_UTIL_API quarn_data_blob *quarn_biginteger_getdata(const quarn_biginteger *b);
-/** The decimal text, NUL-terminated; freed with quarn_free(). Fails above 1,000,000,000 bits. */
+/** The decimal text, NUL-terminated; freed with quarn_free(). Fails above 3,321,936 bits, a million
+ * digits. */
 QUARN_UTIL_API int quarn_biginteger_todec(const quarn_biginteger *b, char **text, size_t *length);
 /** Bits of the magnitude: 0 for 0, 1 for 1 and -1, 8 for 255; -1 for null. */
 QUARN_UTIL_API int64_t quarn_biginteger_getbitcount(const quarn_biginteger *b);

@@ -23,10 +23,11 @@ struct quarn_biginteger {
 
 namespace quarn::util {
 
-// Longer decimal text and greater values are not converted: the arithmetic counts bits in 32 bits,
-// also those of products on the way.
-constexpr std::size_t kMostDecimalDigits = 300'000'000;
-constexpr std::size_t kMostDecimalOctets = 125'000'000;
+// Longer decimal text and greater values are not converted: the work grows with the 1.6th power of
+// the digits, and at this size it still takes well under a second. Octets are those of so many
+// nines.
+constexpr std::size_t kMostDecimalDigits = 1'000'000;
+constexpr std::size_t kMostDecimalOctets = 415'242;
 
 // A new value of the given sign (0 when the magnitude is 0) from a big-endian magnitude, which may
 // start with zeros. Null when memory is short.

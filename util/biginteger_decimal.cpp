@@ -49,7 +49,7 @@ using Number =
 constexpr std::size_t kLimbDigits = 19;  // digits that always fit a limb
 constexpr Limb kLimbPower = 10'000'000'000'000'000'000U;
 constexpr std::size_t kPieceDigits = kLimbDigits * 32;
-constexpr std::size_t kMostPowers = 20;
+constexpr std::size_t kMostPowers = 12;
 
 // At least the digits of any magnitude of this many octets: log10(256) is below 2.40825.
 constexpr std::size_t most_digits(std::size_t octets) {

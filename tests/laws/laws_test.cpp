@@ -189,7 +189,7 @@ TEST(Laws, every_failed_write_is_an_error) {
 TEST(Laws, a_claimed_length_costs_no_memory) {
   for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
     const asn1::Type &type = *asn1::find_type(id);
-    for (const std::uint8_t form : {0x00, 0x20}) {
+    for (const unsigned form : {0x00u, 0x20u}) {
       const auto first =
           static_cast<std::uint8_t>(type.tag_class | form | (type.tag_number & 0x1F));
       // Ids without a tag of their own are offered an OCTET STRING.
