@@ -1,6 +1,10 @@
 #include "types/codecs.h"
+#include "types/string.h"
 
 namespace quarn::asn1 {
+
+const SegmentRules kOctetRules{{"QUARN_ASN1_OctetString"}, 4, false, false, 0x10219, 0,
+                               QUARN_ASN1_ERROR_READ_END,  0};
 
 const Codec kOctetstringCodec = {
     free_nothing,          no_length,     no_length,    cannot_encode_content,
