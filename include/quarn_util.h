@@ -333,11 +333,13 @@ QUARN_UTIL_API quarn_biginteger *quarn_biginteger_newdata(const uint8_t *octets,
 QUARN_UTIL_API quarn_biginteger *quarn_biginteger_newunsigneddata(const uint8_t *octets,
                                                                   int64_t count,
                                                                   quarn_err_ctx *ctx);
-/** From decimal text: digits after an optional '-'. Nothing else is accepted. */
+/** From decimal text: digits, at most 1,000,000, after an optional '-'. Nothing else is accepted.
+ */
 QUARN_UTIL_API quarn_biginteger *quarn_biginteger_newdec(const char *text, quarn_err_ctx *ctx);
 /** The two's complement octets of the minimal encoding, as a new blob. */
 QUARN_UTIL_API quarn_data_blob *quarn_biginteger_getdata(const quarn_biginteger *b);
-/** The decimal text, NUL-terminated; freed with quarn_free(). */
+/** The decimal text, NUL-terminated; freed with quarn_free(). Fails above 3,321,936 bits, a million
+ * digits. */
 QUARN_UTIL_API int quarn_biginteger_todec(const quarn_biginteger *b, char **text, size_t *length);
 /** Bits of the magnitude: 0 for 0, 1 for 1 and -1, 8 for 255; -1 for null. */
 QUARN_UTIL_API int64_t quarn_biginteger_getbitcount(const quarn_biginteger *b);
@@ -357,8 +359,8 @@ QUARN_UTIL_API void quarn_biginteger_free(quarn_biginteger *b);
 /** Bits numbered from 0, the top bit of the first octet, with an explicit count. */
 typedef struct quarn_bitset quarn_bitset;
 
-/** From octets of which the last unused_bits (0 to 7) bits do not count. unused_bits needs an
- * octet. */
+/** From octets, null for none, of which the last unused_bits (0 to 7) bits do not count.
+ * unused_bits needs an octet. */
 QUARN_UTIL_API quarn_bitset *quarn_bitset_new(uint32_t unused_bits,
                                               const uint8_t *octets,
                                               int64_t length);
@@ -431,7 +433,7 @@ QUARN_UTIL_API int quarn_time_addminute(quarn_time *t, int64_t minutes);
 
 /* ---- Unicode strings ------------------------------------------------------------------------- */
 
-/** A sequence of Unicode scalar values. */
+/** A sequence of Unicode scalar values. The octets it is made from may be null for none. */
 typedef struct quarn_ustring quarn_ustring;
 
 /** From UTF-8; overlong forms, surrogates and values above U+10FFFF are refused. U+0000 is

@@ -2,8 +2,7 @@
 
 namespace quarn::asn1 {
 
-const Codec kAnyCodec = {
-    free_nothing,          no_length,     no_length,    cannot_encode_content,
-    cannot_decode_content, cannot_encode, cannot_decode};
+const Codec kAnyCodec = {free_nothing,          no_length,     no_length,    cannot_encode_content,
+                         cannot_decode_content, cannot_encode, cannot_decode};
 
 }  // namespace quarn::asn1

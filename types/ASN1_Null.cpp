@@ -2,9 +2,8 @@
 
 namespace quarn::asn1 {
 
-const Codec kNullCodec = {
-    free_nothing,          no_length,     no_length,    cannot_encode_content,
-    cannot_decode_content, cannot_encode, cannot_decode};
+const Codec kNullCodec = {free_nothing,          no_length,     no_length,    cannot_encode_content,
+                          cannot_decode_content, cannot_encode, cannot_decode};
 const Codec kNullContentCodec = {
     free_nothing,          no_length,     no_length,    cannot_encode_content,
     cannot_decode_content, cannot_encode, cannot_decode};

@@ -2,9 +2,8 @@
 
 namespace quarn::asn1 {
 
-const Codec kTimeCodec = {
-    free_nothing,          no_length,     no_length,    cannot_encode_content,
-    cannot_decode_content, cannot_encode, cannot_decode};
+const Codec kTimeCodec = {free_nothing,          no_length,     no_length,    cannot_encode_content,
+                          cannot_decode_content, cannot_encode, cannot_decode};
 const Codec kUtctimeCodec = {
     free_nothing,          no_length,     no_length,    cannot_encode_content,
     cannot_decode_content, cannot_encode, cannot_decode};

@@ -1,0 +1,231 @@
+// What holds for every registered type, tried on every vector that decodes.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <set>
+
+#include "core/type.h"
+#include "quarn_asn1.h"
+#include "tests/laws/samples.h"
+#include "tests/support/allocation.h"
+#include "tests/support/streams.h"
+
+namespace quarn::test {
+namespace {
+
+// A decoded value that frees itself.
+class Decoded {
+ public:
+  Decoded(std::int64_t type, const Octets &octets) : type_(type) {
+    consumed_ = quarn_asn1_mem_decode(octets.data(), static_cast<std::int64_t>(octets.size()), type,
+                                      &value_);
+  }
+  ~Decoded() { quarn_asn1_value_free(type_, value_); }
+  Decoded(const Decoded &) = delete;
+  Decoded &operator=(const Decoded &) = delete;
+
+  std::int64_t consumed() const { return consumed_; }
+  void *value() const { return value_; }
+
+ private:
+  std::int64_t type_;
+  void *value_ = nullptr;
+  std::int64_t consumed_;
+};
+
+struct FreeBlob {
+  void operator()(quarn_data_blob *blob) const { quarn_data_blob_free(blob); }
+};
+using Blob = std::unique_ptr<quarn_data_blob, FreeBlob>;
+
+Octets octets_of(const Blob &blob) {
+  return Octets(blob->data, blob->data + blob->length);
+}
+
+void for_each_sample(std::size_t most, const std::function<void(const Vector &)> &law) {
+  for (const Vector &sample : samples(most)) {
+    SCOPED_TRACE(sample.file + ":" + std::to_string(sample.line) + ": " + sample.name);
+    law(sample);
+    if (::testing::Test::HasFatalFailure()) return;
+  }
+}
+
+// Everything that can be done with what some octets decoded to, if they did.
+void use(std::int64_t type, const Octets &octets) {
+  const Decoded decoded(type, octets);
+  if (decoded.consumed() < 0) {
+    EXPECT_EQ(decoded.value(), nullptr);
+    return;
+  }
+  EXPECT_LE(decoded.consumed(), static_cast<std::int64_t>(octets.size()));
+  quarn_asn1_length(type, decoded.value());
+  const Blob encoding(quarn_asn1_mem_encode(type, decoded.value()));
+  if (encoding == nullptr) return;
+  const Decoded again(type, octets_of(encoding));
+  ASSERT_EQ(again.consumed(), encoding->length) << "what is encoded decodes";
+  const Blob same(quarn_asn1_mem_encode(type, again.value()));
+  ASSERT_NE(same, nullptr);
+  EXPECT_EQ(octets_of(same), octets_of(encoding)) << "and encodes to the same";
+  void *copy = quarn_asn1_dupobject(type, decoded.value(), nullptr);
+  EXPECT_NE(copy, nullptr);
+  quarn_asn1_value_free(type, copy);
+}
+
+TEST(Laws, every_supported_row_has_a_sample) {
+  std::set<std::int64_t> sampled;
+  for (const Vector &sample : samples(SIZE_MAX)) sampled.insert(sample.type);
+  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    quarn_asn1_type_description description{};
+    ASSERT_EQ(quarn_asn1_type_describe(id, &description), 1);
+    const bool whole = asn1::find_type(id)->codec->decode != asn1::cannot_decode;
+    if (description.supported == 1 && whole) {
+      EXPECT_EQ(sampled.count(id), 1u) << "type " << id << " " << description.name;
+    }
+  }
+}
+
+TEST(Laws, no_proper_prefix_decodes) {
+  for_each_sample(2048, [](const Vector &sample) {
+    for (std::size_t size = 1; size < sample.consumed.value_or(sample.in.size()); size++) {
+      // Exactly as large as the prefix, so that a read past the end is seen.
+      const Octets prefix(sample.in.begin(), sample.in.begin() + static_cast<std::ptrdiff_t>(size));
+      EXPECT_EQ(Decoded(sample.type, prefix).consumed(), -1) << size << " octets";
+    }
+  });
+}
+
+TEST(Laws, octets_after_a_value_are_neither_read_nor_counted) {
+  for_each_sample(2048, [](const Vector &sample) {
+    Octets more = sample.in;
+    more.insert(more.end(), {0xFF, 0xFF, 0xFF});
+    EXPECT_EQ(Decoded(sample.type, more).consumed(),
+              static_cast<std::int64_t>(sample.consumed.value_or(sample.in.size())));
+  });
+}
+
+TEST(Laws, every_flipped_bit_gives_an_error_or_a_sound_value) {
+  Allocation allocation;
+  for_each_sample(300, [](const Vector &sample) {
+    for (std::size_t bit = 0; bit < sample.in.size() * 8; bit++) {
+      Octets flipped = sample.in;
+      flipped[bit / 8] = static_cast<std::uint8_t>(flipped[bit / 8] ^ (1u << (bit % 8)));
+      use(sample.type, flipped);
+    }
+  });
+  EXPECT_EQ(allocation.live_blocks(), 0);
+}
+
+TEST(Laws, every_failed_allocation_is_an_error_and_no_leak) {
+  for_each_sample(600, [](const Vector &sample) {
+    fail_each_allocation([&sample](Allocation &allocation) {
+      const Context ctx(quarn_err_ctx_new());
+      const Stream stream = memory_stream(sample.in);
+      void *value = nullptr;
+      const int decoded = stream == nullptr ? 0
+                                            : quarn_asn1_decode(stream.get(), sample.type, &value,
+                                                                nullptr, ctx.get());
+      if (decoded != 1) {
+        EXPECT_TRUE(allocation.failed());
+        EXPECT_EQ(value, nullptr);
+        return;
+      }
+      const Blob encoding(quarn_asn1_mem_encode(sample.type, value));
+      if (encoding == nullptr) {
+        EXPECT_TRUE(allocation.failed());
+      } else {
+        EXPECT_EQ(octets_of(encoding), *sample.out) << "never a wrong answer";
+      }
+      void *copy = quarn_asn1_dupobject(sample.type, value, ctx.get());
+      EXPECT_TRUE(copy != nullptr || allocation.failed());
+      quarn_asn1_value_free(sample.type, copy);
+      allocation.never_fail();
+      EXPECT_NE(Blob(quarn_asn1_mem_encode(sample.type, value)), nullptr)
+          << "the value is unharmed";
+      quarn_asn1_value_free(sample.type, value);
+    });
+  });
+}
+
+TEST(Laws, every_failed_read_is_an_error_and_no_leak) {
+  Allocation allocation;
+  for_each_sample(600, [](const Vector &sample) {
+    for (std::int64_t calls = 0;; calls++) {
+      SlowSource source(sample.in);
+      source.fail_after(calls);
+      const Stream stream = source.stream();
+      const Context ctx(quarn_err_ctx_new());
+      void *value = nullptr;
+      const int result = quarn_asn1_decode(stream.get(), sample.type, &value, nullptr, ctx.get());
+      quarn_asn1_value_free(sample.type, value);
+      if (result == 1) break;
+      EXPECT_EQ(value, nullptr);
+      EXPECT_FALSE(codes_in(ctx.get()).empty()) << "read " << calls;
+      ASSERT_LE(calls, static_cast<std::int64_t>(sample.in.size()) + 1);
+    }
+  });
+  EXPECT_EQ(allocation.live_blocks(), 0);
+}
+
+TEST(Laws, every_failed_write_is_an_error) {
+  for_each_sample(600, [](const Vector &sample) {
+    const Decoded decoded(sample.type, sample.in);
+    for (std::int64_t calls = 0;; calls++) {
+      SlowSink sink;
+      sink.fail_after(calls);
+      const Stream stream = sink.stream();
+      const Context ctx(quarn_err_ctx_new());
+      std::uint64_t written = 0;
+      if (quarn_asn1_encode(stream.get(), sample.type, decoded.value(), &written, ctx.get()) == 1) {
+        EXPECT_EQ(sink.octets(), *sample.out);
+        EXPECT_EQ(written, sample.out->size());
+        break;
+      }
+      EXPECT_FALSE(codes_in(ctx.get()).empty()) << "write " << calls;
+      EXPECT_EQ(sink.calls(), calls + 1) << "nothing is written after a failure";
+    }
+  });
+}
+
+TEST(Laws, a_claimed_length_costs_no_memory) {
+  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    const asn1::Type &type = *asn1::find_type(id);
+    for (const unsigned form : {0x00u, 0x20u}) {
+      const auto first =
+          static_cast<std::uint8_t>(type.tag_class | form | (type.tag_number & 0x1F));
+      // Ids without a tag of their own are offered an OCTET STRING.
+      const Octets octets{type.tag_number == 0 && type.tag_class == 0 ? std::uint8_t{0x04} : first,
+                          0x88,
+                          0x40,
+                          0,
+                          0,
+                          0,
+                          0,
+                          0,
+                          0,
+                          0};
+      Allocation allocation;
+      EXPECT_EQ(Decoded(id, octets).consumed(), -1);
+      SlowSource source(octets);
+      const Stream stream = source.stream();
+      void *value = nullptr;
+      EXPECT_NE(quarn_asn1_decode(stream.get(), id, &value, nullptr, nullptr), 1);
+      EXPECT_LT(allocation.peak_octets(), 64u * 1024) << type.name;
+    }
+  }
+}
+
+TEST(Laws, null_arguments_are_refused) {
+  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    const asn1::Type &type = *asn1::find_type(id);
+    const Context ctx(quarn_err_ctx_new());
+    void *value = &value;
+    EXPECT_NE(quarn_asn1_decode(nullptr, id, &value, nullptr, ctx.get()), 1) << type.name;
+    EXPECT_EQ(value, nullptr) << type.name;
+    EXPECT_FALSE(codes_in(ctx.get()).empty()) << type.name;
+    EXPECT_NE(quarn_asn1_encode(nullptr, id, nullptr, nullptr, ctx.get()), 1) << type.name;
+    quarn_asn1_value_free(id, nullptr);
+  }
+}
+
+}  // namespace
+}  // namespace quarn::test

@@ -1,0 +1,247 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <ostream>
+#include <sstream>
+#include <string>
+
+#include "quarn_util.h"
+#include "tests/support/allocation.h"
+
+static bool operator==(const quarn_time_fields &a, const quarn_time_fields &b) {
+  return a.year == b.year && a.month == b.month && a.day == b.day && a.hour == b.hour &&
+         a.minute == b.minute && a.second == b.second && a.nanoseconds == b.nanoseconds;
+}
+
+static void PrintTo(const quarn_time_fields &f, std::ostream *out) {
+  *out << f.year << '-' << f.month << '-' << f.day << ' ' << f.hour << ':' << f.minute << ':'
+       << f.second << '.' << f.nanoseconds;
+}
+
+namespace {
+
+using Fields = quarn_time_fields;
+
+TEST(Time, accepts_calendar_dates_and_times_of_day_only) {
+  const Fields good[] = {{1582, 1, 1, 0, 0, 0, 0},
+                         {9999, 12, 31, 23, 59, 60, 999'999'999},
+                         {2000, 2, 29, 1, 2, 3, 4},
+                         {2024, 2, 29, 12, 0, 60, 0}};
+  const Fields bad[] = {{1581, 12, 31, 0, 0, 0, 0}, {10000, 1, 1, 0, 0, 0, 0},
+                        {2024, 0, 1, 0, 0, 0, 0},   {2024, 13, 1, 0, 0, 0, 0},
+                        {2024, 257, 1, 0, 0, 0, 0}, {2024, 1, 0, 0, 0, 0, 0},
+                        {2024, 1, 257, 0, 0, 0, 0}, {2024, 4, 31, 0, 0, 0, 0},
+                        {1900, 2, 29, 0, 0, 0, 0},  {2023, 2, 29, 0, 0, 0, 0},
+                        {2024, 1, 1, 24, 0, 0, 0},  {2024, 1, 1, 0, 300, 0, 0},
+                        {2024, 1, 1, 0, 0, 61, 0},  {2024, 1, 1, 0, 0, 0, 1'000'000'000},
+                        {2024, 1, 1, -1, 0, 0, 0},  {2024, 1, 1, 0, -1, 0, 0},
+                        {2024, 1, 1, 0, 0, -1, 0},  {2024, 1, 1, 0, 0, 0, -1},
+                        {67560, 1, 1, 0, 0, 0, 0}};
+  for (const Fields &f : good)
+    EXPECT_EQ(quarn_time_fields_valid(&f), 1) << ::testing::PrintToString(f);
+  for (const Fields &f : bad)
+    EXPECT_EQ(quarn_time_fields_valid(&f), 0) << ::testing::PrintToString(f);
+  EXPECT_EQ(quarn_time_fields_valid(nullptr), 0);
+}
+
+// Against a calendar that counts on by one day at a time.
+TEST(Time, every_day_follows_the_one_before_it) {
+  const int month_days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  const Fields first{1582, 1, 1, 23, 59, 60, 7};
+  Fields walked = first;
+  Fields expected = first;
+  int64_t number = 0;
+  while (quarn_time_fields_adddays(&walked, 1) == 1) {
+    const int y = expected.year;
+    const bool leap = y % 4 == 0 && (y % 100 != 0 || y % 400 == 0);
+    const bool leap_february = leap && expected.month == 2;
+    number++;
+    if (++expected.day > month_days[expected.month - 1] + (leap_february ? 1 : 0)) {
+      expected.day = 1;
+      if (++expected.month > 12) {
+        expected.month = 1;
+        expected.year++;
+      }
+    }
+    ASSERT_EQ(walked, expected);
+  }
+  EXPECT_EQ(number, 2932896 + 141714);  // python's count of days from 1582-01-01 to 9999-12-31
+  EXPECT_EQ(walked, (Fields{9999, 12, 31, 23, 59, 60, 7}));
+  Fields jumped = first;
+  EXPECT_EQ(quarn_time_fields_addminutes(&jumped, number * 1440), 1);
+  EXPECT_EQ(jumped, walked);
+  EXPECT_EQ(quarn_time_fields_adddays(&jumped, -number), 1);
+  EXPECT_EQ(jumped, first);
+}
+
+TEST(Time, minutes_carry_into_days_both_ways_and_keep_the_second) {
+  const struct {
+    Fields from;
+    int64_t minutes;
+    Fields to;
+  } cases[] = {{{2016, 12, 31, 23, 59, 60, 5}, 60, {2017, 1, 1, 0, 59, 60, 5}},
+               {{2017, 1, 1, 0, 59, 60, 5}, -60, {2016, 12, 31, 23, 59, 60, 5}},
+               {{2024, 3, 1, 0, 0, 1, 0}, -1, {2024, 2, 29, 23, 59, 1, 0}},
+               {{1970, 1, 1, 0, 0, 0, 0}, -1441, {1969, 12, 30, 23, 59, 0, 0}},
+               {{2024, 1, 1, 4, 30, 0, 0}, -480, {2023, 12, 31, 20, 30, 0, 0}}};
+  for (const auto &c : cases) {
+    Fields f = c.from;
+    EXPECT_EQ(quarn_time_fields_addminutes(&f, c.minutes), 1);
+    EXPECT_EQ(f, c.to);
+  }
+}
+
+TEST(Time, leaving_the_years_fails_and_changes_nothing) {
+  const Fields last{9999, 12, 31, 23, 59, 0, 0};
+  const Fields first{1582, 1, 1, 0, 0, 0, 0};
+  for (const int64_t n : {int64_t{1}, int64_t{1} << 40, INT64_MAX - 1, INT64_MAX}) {
+    Fields f = last;
+    EXPECT_EQ(quarn_time_fields_addminutes(&f, n), 0);
+    EXPECT_EQ(quarn_time_fields_adddays(&f, n), 0);
+    EXPECT_EQ(f, last);
+    f = first;
+    EXPECT_EQ(quarn_time_fields_addminutes(&f, -n - 1), 0);
+    EXPECT_EQ(quarn_time_fields_adddays(&f, -n - 1), 0);
+    EXPECT_EQ(f, first);
+  }
+  Fields broken{2023, 2, 29, 0, 0, 0, 0};
+  EXPECT_EQ(quarn_time_fields_addminutes(&broken, 1), 0);
+  EXPECT_EQ(quarn_time_fields_adddays(&broken, 1), 0);
+  EXPECT_EQ(quarn_time_fields_localtoutc(&broken), 0);
+}
+
+class LocalTime : public ::testing::Test {
+ protected:
+  LocalTime() {
+    const char *zone = std::getenv("TZ");
+    had_zone_ = zone != nullptr;
+    if (had_zone_) zone_ = zone;
+  }
+  ~LocalTime() override {
+    if (had_zone_) {
+      setenv("TZ", zone_.c_str(), 1);
+    } else {
+      unsetenv("TZ");
+    }
+    tzset();
+  }
+  static bool zone_is_installed(const char *zone) {
+    return std::ifstream(std::string("/usr/share/zoneinfo/") + zone).good();
+  }
+
+ private:
+  bool had_zone_ = false;
+  std::string zone_;
+};
+
+TEST_F(LocalTime, becomes_utc_by_the_zone_in_force) {
+  const struct {
+    const char *zone;
+    Fields local;
+    Fields utc;
+  } cases[] = {
+      // From python's zoneinfo; the gap and -1 second to the epoch included.
+      {"Europe/Berlin", {2024, 1, 1, 12, 0, 0, 9}, {2024, 1, 1, 11, 0, 0, 9}},
+      {"Europe/Berlin", {2024, 7, 1, 12, 0, 0, 0}, {2024, 7, 1, 10, 0, 0, 0}},
+      {"Europe/Berlin", {2024, 3, 31, 2, 30, 0, 0}, {2024, 3, 31, 1, 30, 0, 0}},
+      {"Europe/Berlin", {1970, 1, 1, 0, 59, 59, 0}, {1969, 12, 31, 23, 59, 59, 0}},
+      {"Europe/Berlin", {1700, 1, 1, 0, 0, 0, 0}, {1699, 12, 31, 23, 6, 32, 0}},
+      {"Europe/Berlin", {9999, 6, 30, 12, 0, 0, 0}, {9999, 6, 30, 10, 0, 0, 0}},
+      {"Europe/Berlin", {2017, 1, 1, 0, 59, 60, 0}, {2016, 12, 31, 23, 59, 60, 0}},
+      {"Asia/Shanghai", {2017, 1, 1, 7, 59, 60, 1}, {2016, 12, 31, 23, 59, 60, 1}},
+      {"Asia/Shanghai", {1988, 7, 1, 12, 0, 0, 0}, {1988, 7, 1, 3, 0, 0, 0}},
+      {"Asia/Shanghai", {1582, 1, 2, 0, 0, 0, 0}, {1582, 1, 1, 15, 54, 17, 0}},
+      {"Asia/Shanghai", {1582, 1, 2, 0, 0, 60, 0}, {1582, 1, 1, 15, 55, 17, 0}},
+      {"UTC", {9999, 12, 31, 23, 59, 60, 0}, {9999, 12, 31, 23, 59, 60, 0}},
+      {"UTC", {1582, 1, 1, 0, 0, 0, 0}, {1582, 1, 1, 0, 0, 0, 0}},
+      // Its time_t counts leap seconds.
+      {"right/Europe/Berlin", {2024, 7, 1, 12, 0, 0, 0}, {2024, 7, 1, 10, 0, 0, 0}},
+  };
+  for (const auto &c : cases) {
+    if (!zone_is_installed(c.zone)) continue;
+    setenv("TZ", c.zone, 1);
+    Fields f = c.local;
+    EXPECT_EQ(quarn_time_fields_localtoutc(&f), 1);
+    EXPECT_EQ(f, c.utc) << c.zone;
+  }
+}
+
+TEST_F(LocalTime, a_repeated_hour_is_one_of_the_two) {
+  if (!zone_is_installed("Europe/Berlin")) GTEST_SKIP();
+  setenv("TZ", "Europe/Berlin", 1);
+  Fields f{2024, 10, 27, 2, 30, 0, 0};
+  ASSERT_EQ(quarn_time_fields_localtoutc(&f), 1);
+  EXPECT_EQ(f, (Fields{2024, 10, 27, f.hour == 0 ? 0 : 1, 30, 0, 0}));
+}
+
+TEST_F(LocalTime, an_instant_outside_the_years_is_refused) {
+  setenv("TZ", "XYZ-8", 1);
+  EXPECT_EQ(quarn_time_newlocaltime(1582, 1, 1, 7, 59, 59, 0), nullptr);
+  setenv("TZ", "XYZ8", 1);
+  EXPECT_EQ(quarn_time_newlocaltime(9999, 12, 31, 16, 0, 0, 0), nullptr);
+}
+
+TEST(LeapSecond, table_is_that_of_the_installed_list) {
+  std::ifstream list("/usr/share/zoneinfo/leap-seconds.list");
+  if (!list) GTEST_SKIP() << "tzdata is not installed";
+  int insertions = -1;  // the first line of the table is where counting starts
+  for (std::string line; std::getline(list, line);) {
+    int64_t seconds = 0;
+    if (line.empty() || line[0] == '#' || !(std::istringstream(line) >> seconds)) continue;
+    if (++insertions == 0) continue;
+    Fields f{1900, 1, 1, 23, 59, 60, insertions};
+    ASSERT_EQ(quarn_time_fields_adddays(&f, seconds / 86400 - 1), 1);
+    EXPECT_EQ(quarn_time_fields_isleapsecond(&f), 1) << line;
+    ASSERT_EQ(quarn_time_fields_addminutes(&f, -1), 1);
+    EXPECT_EQ(quarn_time_fields_isleapsecond(&f), 0) << line;
+  }
+  int known = 0;
+  for (Fields f{1582, 1, 1, 23, 59, 60, 0}; quarn_time_fields_adddays(&f, 1) == 1;) {
+    known += quarn_time_fields_isleapsecond(&f);
+  }
+  EXPECT_EQ(known, insertions);
+  EXPECT_GE(known, 27);
+}
+
+TEST(LeapSecond, is_an_instant_in_utc) {
+  quarn_time *t = quarn_time_newutctime(2017, 1, 1, 7, 59, 60, 0);
+  EXPECT_EQ(quarn_time_isleapsecond(t), 0);
+  EXPECT_EQ(quarn_time_addminute(t, -480), 1);
+  EXPECT_EQ(quarn_time_isleapsecond(t), 1);
+  EXPECT_EQ(quarn_time_addday(t, -1), 1);
+  EXPECT_EQ(quarn_time_isleapsecond(t), 0);
+  quarn_time_free(t);
+  const Fields before{2016, 12, 31, 23, 59, 59, 0};
+  EXPECT_EQ(quarn_time_fields_isleapsecond(&before), 0);
+}
+
+TEST(Time, objects_hold_their_fields_and_copies_go_their_own_way) {
+  quarn_time *t = quarn_time_newutctime(2024, 2, 29, 12, 34, 56, 789);
+  quarn_time *copy = quarn_time_dup(t);
+  EXPECT_EQ(quarn_time_addday(copy, 1), 1);
+  const Fields of_copy{quarn_time_getyear(copy),   quarn_time_getmonth(copy),
+                       quarn_time_getday(copy),    quarn_time_gethour(copy),
+                       quarn_time_getminute(copy), quarn_time_getsecond(copy),
+                       quarn_time_getns(copy)};
+  EXPECT_EQ(of_copy, (Fields{2024, 3, 1, 12, 34, 56, 789}));
+  EXPECT_EQ(quarn_time_getday(t), 29);
+  EXPECT_EQ(quarn_time_isutctime(t), 1);
+  quarn_time_free(copy);
+  quarn_time_free(t);
+  EXPECT_EQ(quarn_time_newutctime(2024, 1, 1, 0, 300, 0, 0), nullptr);
+  EXPECT_EQ(quarn_time_getyear(nullptr), 0);
+  EXPECT_EQ(quarn_time_dup(nullptr), nullptr);
+  EXPECT_EQ(quarn_time_addday(nullptr, 1), 0);
+}
+
+TEST(Time, survives_lack_of_memory) {
+  quarn::test::fail_each_allocation([](quarn::test::Allocation &) {
+    quarn_time *t = quarn_time_newlocaltime(2024, 2, 29, 12, 34, 56, 789);
+    quarn_time_free(quarn_time_dup(t));
+    quarn_time_free(t);
+  });
+}
+
+}  // namespace

@@ -1,0 +1,157 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "quarn_util.h"
+#include "tests/support/allocation.h"
+
+namespace {
+
+using quarn::test::Allocation;
+using quarn::test::fail_each_allocation;
+using Octets = std::vector<uint8_t>;
+using UString = std::unique_ptr<quarn_ustring, decltype(&quarn_ustring_free)>;
+
+template <typename Make>
+UString make(Make function, const Octets &octets) {
+  return {function(octets.data(), static_cast<int64_t>(octets.size())), quarn_ustring_free};
+}
+
+// The octets that a conversion gives; {0xff} when it fails.
+template <typename Convert>
+Octets convert(Convert function, const UString &u) {
+  uint8_t *octets = nullptr;
+  int64_t count = 0;
+  if (function(u.get(), &octets, &count) != 1) return {0xff};
+  Octets result(octets, octets + count);
+  quarn_free(octets);
+  return result;
+}
+
+// UTF-8 by arithmetic, as a definition of it: bits to octets, no tables of ranges.
+Octets utf8_of(uint32_t c) {
+  auto tail = [c](int shift) { return static_cast<uint8_t>(128 + (c >> shift) % 64); };
+  if (c < 128) return {static_cast<uint8_t>(c)};
+  if (c < 2048) return {static_cast<uint8_t>(192 + c / 64), tail(0)};
+  if (c < 65536) return {static_cast<uint8_t>(224 + c / 4096), tail(6), tail(0)};
+  return {static_cast<uint8_t>(240 + c / 262144), tail(12), tail(6), tail(0)};
+}
+
+bool is_surrogate(uint32_t c) {
+  return c >= 0xd800 && c < 0xe000;
+}
+
+TEST(Unicode, every_scalar_value_passes_through_all_encodings_and_nothing_else_does) {
+  for (uint32_t c = 0; c < 0x110800; c++) {
+    const Octets utf8 = utf8_of(c);
+    const Octets ucs4{0, static_cast<uint8_t>(c >> 16), static_cast<uint8_t>(c >> 8 & 0xff),
+                      static_cast<uint8_t>(c & 0xff)};
+    const UString from_utf8 = make(quarn_ustring_newutf8, utf8);
+    const UString from_ucs4 = make(quarn_ustring_newutf32be, ucs4);
+    const bool scalar = c < 0x110000 && !is_surrogate(c);
+    ASSERT_EQ(from_utf8 != nullptr, scalar) << c;
+    ASSERT_EQ(from_ucs4 != nullptr, scalar) << c;
+    if (c < 0x10000) {
+      const UString from_bmp = make(quarn_ustring_newbmp, {ucs4[2], ucs4[3]});
+      ASSERT_EQ(from_bmp != nullptr, scalar) << c;
+      ASSERT_EQ(convert(quarn_ustring_toutf8, from_bmp), scalar ? utf8 : Octets{0xff});
+    }
+    if (!scalar) continue;
+    ASSERT_EQ(convert(quarn_ustring_toutf8, from_ucs4), utf8);
+    ASSERT_EQ(convert(quarn_ustring_toutf32be, from_utf8), ucs4);
+    const Octets bmp = c < 0x10000 ? Octets{ucs4[2], ucs4[3]} : Octets{0xff};
+    ASSERT_EQ(convert(quarn_ustring_tobmp, from_utf8), bmp);
+  }
+}
+
+// Whether octets are UTF-8: some sequence of scalar values encodes to them.
+bool expected_valid(const uint8_t *p, size_t count) {
+  while (count > 0) {
+    const size_t length = *p < 0x80 ? 1 : *p < 0xe0 ? 2 : *p < 0xf0 ? 3 : 4;
+    if (length > count) return false;
+    uint32_t c = length == 1 ? *p : *p % (256U >> (length + 1));
+    for (size_t i = 1; i < length; i++) c = c * 64 + p[i] % 64;
+    if (c >= 0x110000 || is_surrogate(c) || utf8_of(c) != Octets(p, p + length)) return false;
+    p += length;
+    count -= length;
+  }
+  return true;
+}
+
+TEST(Unicode, all_short_octet_sequences_are_judged_as_the_definition_does) {
+  for (uint32_t n = 0; n < 1U << 24; n++) {
+    // Third octets that differ in their low six bits only behave alike.
+    if (n % 64 != 0 && n % 64 != 63) continue;
+    const uint8_t p[] = {static_cast<uint8_t>(n >> 16), static_cast<uint8_t>(n >> 8 & 0xff),
+                         static_cast<uint8_t>(n & 0xff)};
+    const int64_t shorter = n % 65536 == 0 ? 1 : n % 256 == 0 ? 2 : 3;
+    ASSERT_EQ(quarn_utf8_valid(p, 3) == 1, expected_valid(p, 3)) << std::hex << n;
+    ASSERT_EQ(quarn_utf8_valid(p, shorter) == 1, expected_valid(p, static_cast<size_t>(shorter)));
+  }
+}
+
+TEST(Unicode, a_bad_octet_is_found_at_every_place_of_long_text) {
+  for (size_t length = 0; length < 80; length++) {
+    Octets text(length, 'a');
+    const auto count = static_cast<int64_t>(length);
+    EXPECT_EQ(quarn_utf8_valid(text.data(), count), 1);
+    for (size_t i = 0; i < length; i++) {
+      text[i] = 0x80;
+      ASSERT_EQ(quarn_utf8_valid(text.data(), count), 0) << i;
+      text[i] = 0xc3;  // needs one octet more than 'a'
+      ASSERT_EQ(quarn_utf8_valid(text.data(), count), 0) << i;
+      text[i] = 'a';
+    }
+  }
+}
+
+// python: "aé€😀\0z".encode()
+TEST(Unicode, mixed_text_keeps_its_order_and_its_nul) {
+  const Octets utf8{'a', 0xc3, 0xa9, 0xe2, 0x82, 0xac, 0xf0, 0x9f, 0x98, 0x80, 0, 'z'};
+  const Octets ucs4{0, 0, 0,    'a', 0, 0, 0, 0xe9, 0, 0, 0x20, 0xac,
+                    0, 1, 0xf6, 0,   0, 0, 0, 0,    0, 0, 0,    'z'};
+  const UString u = make(quarn_ustring_newutf8, utf8);
+  EXPECT_EQ(convert(quarn_ustring_toutf8, u), utf8);
+  EXPECT_EQ(convert(quarn_ustring_toutf32be, u), ucs4);
+  EXPECT_EQ(convert(quarn_ustring_tobmp, u), Octets{0xff});
+  uint8_t *octets = nullptr;
+  int64_t count = 0;
+  ASSERT_EQ(quarn_ustring_toutf8(u.get(), &octets, &count), 1);
+  EXPECT_EQ(octets[count], 0);
+  quarn_free(octets);
+}
+
+TEST(Unicode, refuses_broken_counts_and_null) {
+  const uint8_t octets[8] = {};
+  EXPECT_EQ(quarn_ustring_newbmp(octets, 3), nullptr);
+  EXPECT_EQ(quarn_ustring_newutf32be(octets, 6), nullptr);
+  EXPECT_EQ(quarn_ustring_newutf8(octets, -1), nullptr);
+  EXPECT_EQ(quarn_ustring_newbmp(octets, -2), nullptr);
+  EXPECT_EQ(quarn_ustring_newutf8(nullptr, 1), nullptr);
+  EXPECT_EQ(quarn_utf8_valid(nullptr, 1), 0);
+  EXPECT_EQ(quarn_utf8_valid(octets, -1), 0);
+  uint8_t *out = nullptr;
+  EXPECT_EQ(quarn_ustring_toutf8(nullptr, &out, nullptr), 0);
+  const UString empty = make(quarn_ustring_newutf8, {});
+  EXPECT_EQ(quarn_ustring_tobmp(empty.get(), nullptr, nullptr), 0);
+  EXPECT_EQ(convert(quarn_ustring_tobmp, empty), Octets{});
+}
+
+TEST(Unicode, survives_lack_of_memory_with_one_block_a_string) {
+  fail_each_allocation([](Allocation &allocation) {
+    const uint8_t octets[] = {0, 'a', 0x20, 0xac};
+    quarn_ustring *u = quarn_ustring_newbmp(octets, 4);
+    EXPECT_LE(allocation.live_blocks(), 1);
+    for (auto *function : {quarn_ustring_toutf8, quarn_ustring_tobmp, quarn_ustring_toutf32be}) {
+      uint8_t *out = nullptr;
+      const int result = function(u, &out, nullptr);
+      EXPECT_EQ(result == 1, out != nullptr);
+      quarn_free(out);
+    }
+    quarn_ustring_free(u);
+  });
+}
+
+}  // namespace

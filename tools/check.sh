@@ -1,0 +1,33 @@
+#!/bin/sh
+# What CI runs, the quick steps first.
+#   tools/check.sh          everything
+#   tools/check.sh quick    the quick steps alone: also the pre-commit hook
+set -eu
+cd "$(dirname "$0")/.."
+
+step() { printf '== %s\n' "$*"; }
+
+step "generated files are up to date"
+tools/generate.py --check
+step "no line is longer than it should be, none ends in blanks"
+if git ls-files '*.cpp' '*.h' '*.py' '*.sh' '*.cmake' | xargs -r grep -nE '[[:blank:]]+$'; then
+  exit 1
+fi
+if command -v clang-format >/dev/null; then
+  step "C++ is formatted"
+  git ls-files '*.cpp' '*.h' | grep -v '/gen/' | grep -vE '^include/quarn_asn1/(ids|errors)\.h$' |
+    xargs -r clang-format --dry-run --Werror
+fi
+[ "${1:-}" != quick ] || exit 0
+
+for preset in release asan; do
+  step "build and test: $preset"
+  cmake --preset "$preset" >/dev/null
+  cmake --build --preset "$preset" -- --quiet
+  ctest --preset "$preset" --no-tests=error
+done
+step "exported names are those of abi/symbols.txt and of the headers"
+tools/abi.sh build/release
+step "an installed tree serves consumers through pkg-config and CMake"
+tools/consumer.sh build/release
+step "all passed"

@@ -1,0 +1,43 @@
+#!/bin/sh
+# Installs a build into a scratch tree, moves it, and builds examples/consumer against it: through
+# pkg-config, shared and static, and through the CMake package. Headers must stand alone as C and C++.
+#   tools/consumer.sh BUILD
+set -eu
+cd "$(dirname "$0")/.."
+build=$1
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+DESTDIR="$work/staged" cmake --install "$build" --prefix /usr >/dev/null
+mv "$work/staged/usr" "$work/usr"
+libdir=$(dirname "$(find "$work/usr" -name libquarn_asn1.so)")
+printf '\060\003\002\001\005' >"$work/sample.der"
+expected='{ "type": "SEQUENCE", "value": [ { "type": "INTEGER", "value": 5 } ] }'
+
+ran() { # how, program
+  printed=$(LD_LIBRARY_PATH="$libdir" "$2" "$work/sample.der" | tr -s ' \n' ' ' | sed 's/ $//')
+  if [ "$printed" != "$expected" ]; then
+    echo "consumer through $1 printed: $printed" >&2
+    exit 1
+  fi
+  echo "consumer through $1: good"
+}
+
+export PKG_CONFIG_PATH="$libdir/pkgconfig"
+cc -std=c99 -Wall -Wextra -Wpedantic -Werror examples/consumer/to_json.c -o "$work/by_pkgconfig" \
+  $(pkg-config --cflags --libs quarn-asn1)
+ran "pkg-config" "$work/by_pkgconfig"
+cc -std=c99 examples/consumer/to_json.c -o "$work/by_archive" $(pkg-config --cflags quarn-asn1) \
+  "$libdir/libquarn_asn1.a" "$libdir/libquarn_util.a" -lstdc++
+ran "pkg-config and archives" "$work/by_archive"
+cmake -S examples/consumer -B "$work/cmake" -DCMAKE_PREFIX_PATH="$work/usr" >/dev/null
+cmake --build "$work/cmake" >/dev/null
+ran "the CMake package" "$work/cmake/to_json"
+
+for standard in "cc -x c -std=c99" "cc -x c -std=c11" "c++ -x c++ -std=c++11" "c++ -x c++ -std=c++20"; do
+  for header in $(cd "$work/usr/include" && find . -name '*.h'); do
+    echo "#include \"$header\"" |
+      $standard -Wall -Wextra -Wpedantic -Werror -fsyntax-only -I "$work/usr/include" -
+  done
+done
+echo "headers stand alone as C99, C11, C++11 and C++20"

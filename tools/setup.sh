@@ -1,0 +1,31 @@
+#!/bin/sh
+# Installs the Debian packages that the build and the tests need, those that are missing only.
+#   tools/setup.sh [bench|fuzz]    what benchmarks or fuzzing need on top
+# Without root rights it prints the command to run and stops.
+set -eu
+
+packages="g++ cmake ninja-build pkg-config python3 rapidjson-dev libboost-dev libcli11-dev libgtest-dev
+googletest openssl ca-certificates jq tzdata"
+case "${1:-}" in
+  bench) packages="$packages libbenchmark-dev libssl-dev libmbedtls-dev libbotan-2-dev libtasn1-6-dev
+libtasn1-bin heimdal-multidev" ;;
+  fuzz) packages="$packages clang libclang-rt-dev" ;;
+esac
+
+missing=""
+for package in $packages; do
+  status=$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)
+  [ "$status" = installed ] || missing="$missing $package"
+done
+[ -n "$missing" ] || exit 0
+
+command="apt-get install -y --no-install-recommends$missing"
+if [ "$(id -u)" != 0 ]; then
+  echo "These packages are missing; as root, run:" >&2
+  echo "  apt-get update && $command" >&2
+  exit 1
+fi
+echo "Installing:$missing" >&2
+export DEBIAN_FRONTEND=noninteractive
+apt-get update -qq
+$command -qq >/dev/null
