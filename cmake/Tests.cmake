@@ -14,8 +14,6 @@ function(quarn_add_test_program folder)
                         GTest::gtest GTest::gtest_main)
   target_compile_definitions(quarn_test_${folder} PRIVATE QUARN_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   add_test(NAME ${folder} COMMAND quarn_test_${folder} --gtest_brief=1)
-  # Tests ask for more memory than there is, to see it refused.
-  set_tests_properties(${folder} PROPERTIES ENVIRONMENT "ASAN_OPTIONS=allocator_may_return_null=1;TSAN_OPTIONS=allocator_may_return_null=1")
 endfunction()
 
 foreach(folder util unit vectors laws)

@@ -15,7 +15,9 @@ class Buffer {
   Buffer() = default;
   Buffer(const Buffer &) = delete;
   Buffer &operator=(const Buffer &) = delete;
-  ~Buffer() { quarn_free(octets_); }
+  ~Buffer() {
+    if (octets_ != nullptr) quarn_free(octets_);
+  }
 
   const std::uint8_t *data() const { return octets_; }
   std::uint8_t *data() { return octets_; }

@@ -1,12 +1,508 @@
+// Lists: growth, lengths, encoding and decoding.
+//
+// What is done with the elements is written once, over a description of them that is a type of the
+// registry, ANY, or functions of a caller. Those functions take streams: the cursors hand the
+// stream over before each call, and what a function says it read or wrote is added to what the
+// cursor counted.
+#include "types/list.h"
+
+#include <limits>
+
+#include "core/adapter.h"
+#include "types/any.h"
 #include "types/codecs.h"
+#include "util/memory.h"
 
 namespace quarn::asn1 {
 
-const Codec kAnylistCodec = {
-    free_nothing,          no_length,     no_length,    cannot_encode_content,
-    cannot_decode_content, cannot_encode, cannot_decode};
-const Codec kAnylist1Codec = {
-    free_nothing,          no_length,     no_length,    cannot_encode_content,
-    cannot_decode_content, cannot_encode, cannot_decode};
+namespace {
+
+constexpr Unit kUnit{"QUARN_ASN1_List"};
+
+constexpr std::int32_t kFirstCapacity = 4;
+
+bool grow(quarn_asn1_list &list) {
+  std::int32_t capacity = list.capacity == 0 ? kFirstCapacity : list.capacity;
+  if (list.capacity != 0 && !multiply_by<std::int32_t>(capacity, 2)) return false;
+  auto **items = util::allocate_array<void *>(static_cast<std::size_t>(capacity));
+  if (items == nullptr) return false;
+  const auto count = static_cast<std::size_t>(list.count);
+  if (count > 0) std::memcpy(items, list.items, count * sizeof(void *));
+  quarn_free(list.items);
+  list.items = items;
+  list.capacity = capacity;
+  return true;
+}
+
+bool has(const quarn_asn1_list *list, int index) {
+  return list != nullptr && index >= 0 && index < list->count;
+}
+
+// Calls release(element) for each.
+template <typename Release>
+void free_with(quarn_asn1_list *list, Release release) {
+  if (list == nullptr) return;
+  for (std::int32_t i = 0; i < list->count; i++) release(list->items[i]);
+  quarn_free(list->items);
+  quarn_free(list);
+}
+
+// measure(element) returns a length. The first that is no count is the result.
+template <typename Measure>
+std::int64_t length_with(const quarn_asn1_list *list, Measure measure) {
+  if (list == nullptr) return kNoLength;
+  std::int64_t sum = 0;
+  for (std::int32_t i = 0; i < list->count; i++) {
+    const std::int64_t length = measure(list->items[i]);
+    if (length < 0) return length == kIndefinite ? kIndefinite : kNoLength;
+    if (!add_to(sum, length)) return kNoLength;
+  }
+  return sum;
+}
+
+// put(element) returns Status.
+template <typename Put>
+Status encode_with(Writer &out, const quarn_asn1_list *list, std::int64_t length, Put put) {
+  if (out.is_null() || list == nullptr) return kUnit.fail(out.ctx(), QUARN_ERROR_ARGUMENT);
+  if (length < kIndefinite) return kUnit.fail(out.ctx(), QUARN_ERROR_RANGE, out.offset());
+  for (std::int32_t i = 0; i < list->count; i++) {
+    if (const Status status = put(list->items[i]); !status) return status;
+  }
+  if (length != kIndefinite) return Status::success();
+  const Status status = write_end_of_contents(out);
+  if (status) return status;
+  return kUnit.pass_on(status, out.ctx(), QUARN_ASN1_ERROR_WRITE_END, out.offset());
+}
+
+// Owns a list that is being decoded, with its elements.
+template <typename Elements>
+class Building {
+ public:
+  explicit Building(Elements &elements)
+      : elements_(elements), list_(util::allocate<quarn_asn1_list>()) {}
+  Building(const Building &) = delete;
+  Building &operator=(const Building &) = delete;
+  ~Building() {
+    free_with(list_, [this](void *element) { elements_.release(element); });
+  }
+
+  quarn_asn1_list *get() const { return list_; }
+  quarn_asn1_list *release() {
+    quarn_asn1_list *list = list_;
+    list_ = nullptr;
+    return list;
+  }
+
+ private:
+  Elements &elements_;
+  quarn_asn1_list *list_;
+};
+
+// What stands where an element can stand.
+struct Item {
+  bool primitive;
+  std::int64_t length;
+  bool end_of_contents;
+};
+
+// Reads the identifier of an element, which must be the expected one, and the length; or, where
+// there may be one, the end-of-contents.
+Status read_item(Reader &in, const ElementTag &expected, bool may_end, Item &out) {
+  Identifier identifier{};
+  Status status = read_identifier(in, identifier);
+  if (!status) {
+    return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_IDENTIFIER, in.offset());
+  }
+  out.primitive = identifier.primitive;
+  if (!identifier.is(expected.tag_class, expected.number)) {
+    if (!may_end || !identifier.is_end_of_contents()) {
+      return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_ITEM, in.offset());
+    }
+    out.end_of_contents = true;
+    status = read_end_of_contents_length(in);
+    if (status) return status;
+    return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_END, in.offset());
+  }
+  if (expected.form != -1 && identifier.primitive != (expected.form != 0)) {
+    return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_ITEM, in.offset());
+  }
+  status = read_length(in, out.length);
+  if (status) return status;
+  return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_LENGTH, in.offset());
+}
+
+// Elements are read by read(in, may_end, element, ended), which stores an element or finds the
+// end-of-contents, and freed by release(). position() counts the octets read.
+class TypedElements {
+ public:
+  TypedElements(const Type &type, const ElementTag &expected) : type_(type), expected_(expected) {}
+
+  Status read(Reader &in, bool may_end, void **element, bool &ended) const {
+    Item item{};
+    Status status = read_item(in, expected_, may_end, item);
+    ended = item.end_of_contents;
+    if (!status || ended) return status;
+    status = decode_content(type_, in, element, item.primitive, item.length);
+    if (status) return status;
+    return kUnit.pass_on(status, in.ctx(), type_.decode_error(), in.offset());
+  }
+  void release(void *element) const { free_value(type_, element); }
+  std::uint64_t position(const Reader &in) const { return in.count(); }
+
+ private:
+  const Type &type_;
+  const ElementTag &expected_;
+};
+
+class AnyElements {
+ public:
+  Status read(Reader &in, bool may_end, void **element, bool &ended) const {
+    quarn_asn1_any *v = nullptr;
+    const Status status = decode_any(in, &v);
+    if (!status) {
+      const int code = type_of(QUARN_ASN1_ANY).decode_error();
+      return kUnit.pass_on(status, in.ctx(), code, in.offset());
+    }
+    ended = v->end_of_contents;
+    if (!ended) {
+      *element = v;
+      return status;
+    }
+    quarn_free(v);
+    return may_end ? status : kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_ITEM, in.offset());
+  }
+  void release(void *element) const { quarn_free(element); }
+  std::uint64_t position(const Reader &in) const { return in.count(); }
+};
+
+class CallersElements {
+ public:
+  CallersElements(quarn_asn1_decode_content_fn decode,
+                  quarn_asn1_free_fn free_element,
+                  const ElementTag &expected)
+      : decode_(decode), free_(free_element), expected_(expected) {}
+
+  Status read(Reader &in, bool may_end, void **element, bool &ended) {
+    Item item{};
+    Status status = read_item(in, expected_, may_end, item);
+    ended = item.end_of_contents;
+    if (!status || ended) return status;
+    in.settle();
+    std::uint64_t consumed = 0;
+    const int form = item.primitive ? 1 : 0;
+    status = Status::from(decode_(in.stream(), element, form, item.length, &consumed, in.ctx()));
+    in.resume();
+    if (!status || add_to(consumed_, consumed)) return status;
+    release(*element);
+    return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_ITEM_LENGTH, in.offset());
+  }
+  void release(void *element) const {
+    if (element != nullptr) free_(element);
+  }
+  std::uint64_t position(const Reader &in) const { return in.count() + consumed_; }
+
+ private:
+  quarn_asn1_decode_content_fn decode_;
+  quarn_asn1_free_fn free_;
+  const ElementTag &expected_;
+  std::uint64_t consumed_ = 0;
+};
+
+template <typename Elements>
+Status decode_elements(Reader &in, quarn_asn1_list &list, std::int64_t length, Elements &elements) {
+  const std::uint64_t start = elements.position(in);
+  for (;;) {
+    void *element = nullptr;
+    bool ended = false;
+    const Status status = elements.read(in, length == kIndefinite, &element, ended);
+    if (!status || ended) return status;
+    if (!append(list, element)) {
+      elements.release(element);
+      return kUnit.fail(in.ctx(), QUARN_ERROR_NO_MEMORY, in.offset());
+    }
+    if (length == kIndefinite) continue;
+    const std::uint64_t taken = elements.position(in) - start;
+    if (taken < static_cast<std::uint64_t>(length)) continue;
+    if (taken == static_cast<std::uint64_t>(length)) return status;
+    return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_ITEM_LENGTH, in.offset());
+  }
+}
+
+template <typename Elements>
+Status decode_with(
+    Reader &in, quarn_asn1_list **out, bool primitive, std::int64_t length, Elements &elements) {
+  if (in.is_null() || out == nullptr) return kUnit.fail(in.ctx(), QUARN_ERROR_ARGUMENT);
+  *out = nullptr;
+  if (primitive) return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_FORM, in.offset());
+  Building list(elements);
+  if (list.get() == nullptr) return kUnit.fail(in.ctx(), QUARN_ERROR_NO_MEMORY, in.offset());
+  if (length < kIndefinite) return kUnit.fail(in.ctx(), QUARN_ERROR_RANGE, in.offset());
+  if (length != 0) {
+    const Status status = decode_elements(in, *list.get(), length, elements);
+    if (!status) return status;
+  }
+  *out = list.release();
+  return Status::success();
+}
+
+// The dispatch by type id and the list each make their record.
+Status no_such_type(quarn_err_ctx *ctx) {
+  return kUnit.pass_on(kUnit.fail(ctx, QUARN_ASN1_ERROR_TYPE), ctx, QUARN_ASN1_ERROR_TYPE);
+}
+
+const Type &any_type() {
+  return type_of(QUARN_ASN1_ANY);
+}
+
+Status decode_anylist(Reader &in, quarn_asn1_list **out, bool primitive, std::int64_t length) {
+  AnyElements elements;
+  return decode_with(in, out, primitive, length, elements);
+}
+
+// For lists that must not be empty.
+Status decode_anylist_1(Reader &in, quarn_asn1_list **out, bool primitive, std::int64_t length) {
+  const Status status = decode_anylist(in, out, primitive, length);
+  if (!status || (*out)->count > 0) return status;
+  free_list(*out, any_type());
+  *out = nullptr;
+  return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_SIZE, in.offset());
+}
+
+}  // namespace
+
+bool append(quarn_asn1_list &list, void *element) {
+  if (element == nullptr) return false;
+  if (list.count == list.capacity && !grow(list)) return false;
+  list.items[list.count++] = element;
+  return true;
+}
+
+void free_list(quarn_asn1_list *list, const Type &element) {
+  free_with(list, [&element](void *value) { free_value(element, value); });
+}
+
+std::int64_t list_content_length(const quarn_asn1_list *list, const Type &element) {
+  return length_with(list, [&element](const void *value) { return length_of(element, value); });
+}
+
+Status encode_list_content(Writer &out,
+                           const quarn_asn1_list *list,
+                           const Type &element,
+                           std::int64_t length) {
+  return encode_with(out, list, length, [&](void *value) {
+    const Status status = encode(element, out, value);
+    if (status) return status;
+    return kUnit.pass_on(status, out.ctx(), element.encode_error(), out.offset());
+  });
+}
+
+Status decode_list_content(Reader &in,
+                           quarn_asn1_list **out,
+                           const Type &element,
+                           bool primitive,
+                           std::int64_t length,
+                           const ElementTag &expected) {
+  TypedElements elements(element, expected);
+  return decode_with(in, out, primitive, length, elements);
+}
+
+namespace {
+
+// Type ids 24 to 27.
+quarn_asn1_list *list_of(const void *value) {
+  return static_cast<quarn_asn1_list *>(const_cast<void *>(value));
+}
+
+void free_anylist(const Type & /*type*/, void *value) {
+  free_list(list_of(value), any_type());
+}
+
+std::int64_t anylist_content_length(const Type & /*type*/, const void *value) {
+  return list_content_length(list_of(value), any_type());
+}
+
+Status encode_anylist(const Type & /*type*/, Writer &out, void *value, std::int64_t length) {
+  return encode_list_content(out, list_of(value), any_type(), length);
+}
+
+Status decode_anylist_value(
+    const Type & /*type*/, Reader &in, void **value, bool primitive, std::int64_t length) {
+  return decode_anylist(in, reinterpret_cast<quarn_asn1_list **>(value), primitive, length);
+}
+
+Status decode_anylist_1_value(
+    const Type & /*type*/, Reader &in, void **value, bool primitive, std::int64_t length) {
+  return decode_anylist_1(in, reinterpret_cast<quarn_asn1_list **>(value), primitive, length);
+}
+
+}  // namespace
+
+const Codec kAnylistCodec = {free_anylist,   anylist_content_length, nullptr,
+                             encode_anylist, decode_anylist_value,   nullptr,
+                             nullptr};
+const Codec kAnylist1Codec = {free_anylist,   anylist_content_length, nullptr,
+                              encode_anylist, decode_anylist_1_value, nullptr,
+                              nullptr};
 
 }  // namespace quarn::asn1
+
+using namespace quarn::asn1;
+
+quarn_asn1_list *quarn_asn1_list_new(void) {
+  return quarn::util::allocate<quarn_asn1_list>();
+}
+
+int quarn_asn1_list_put(quarn_asn1_list *l, void *element) {
+  return l != nullptr && append(*l, element) ? 1 : 0;
+}
+
+int quarn_asn1_list_get(const quarn_asn1_list *l, int index, void **element) {
+  if (element == nullptr || !has(l, index)) return 0;
+  *element = l->items[index];
+  return 1;
+}
+
+int quarn_asn1_list_getsize(const quarn_asn1_list *l) {
+  return l == nullptr ? 0 : l->count;
+}
+
+void *quarn_asn1_list_delete(quarn_asn1_list *l, int index) {
+  if (!has(l, index)) return nullptr;
+  void **place = l->items + index;
+  void *element = *place;
+  const auto later = static_cast<std::size_t>(l->count - index - 1);
+  std::memmove(place, place + 1, later * sizeof(void *));
+  l->count--;
+  return element;
+}
+
+void quarn_asn1_list_free(quarn_asn1_list *l, int64_t element_type_id) {
+  free_with(l, [=](void *element) { quarn_asn1_value_free(element_type_id, element); });
+}
+
+void quarn_asn1_list_free_ex(quarn_asn1_list *l, quarn_asn1_free_fn element_free) {
+  free_with(l, [=](void *element) {
+    if (element_free != nullptr) element_free(element);
+  });
+}
+
+void quarn_asn1_anylist_free(quarn_asn1_list *l) {
+  free_list(l, any_type());
+}
+
+int64_t quarn_asn1_list_content_length(const quarn_asn1_list *l, int64_t element_type_id) {
+  return length_with(
+      l, [=](const void *element) { return quarn_asn1_length(element_type_id, element); });
+}
+
+int64_t quarn_asn1_list_content_length_ex(const quarn_asn1_list *l,
+                                          quarn_asn1_length_fn element_length) {
+  return element_length == nullptr ? kNoLength : length_with(l, element_length);
+}
+
+int64_t quarn_asn1_anylist_length(const quarn_asn1_list *l) {
+  return list_content_length(l, any_type());
+}
+
+int quarn_asn1_encode_list_content(quarn_stream *s,
+                                   quarn_asn1_list *l,
+                                   int64_t element_type_id,
+                                   int64_t content_length,
+                                   uint64_t *written,
+                                   quarn_err_ctx *ctx) {
+  const Type *type = find_type(element_type_id);
+  if (type == nullptr) return no_such_type(ctx).raw();
+  return writing(s, written, ctx,
+                 [=](Writer &out) { return encode_list_content(out, l, *type, content_length); });
+}
+
+int quarn_asn1_encode_list_content_ex(quarn_stream *s,
+                                      quarn_asn1_list *l,
+                                      quarn_asn1_encode_fn element_encode,
+                                      int64_t content_length,
+                                      uint64_t *written,
+                                      quarn_err_ctx *ctx) {
+  if (element_encode == nullptr) return kUnit.fail(ctx, QUARN_ERROR_ARGUMENT).raw();
+  uint64_t total = 0;
+  uint64_t end = 0;
+  const int result = writing(s, &end, ctx, [&](Writer &out) {
+    return encode_with(out, l, content_length, [&](void *element) {
+      uint64_t count = 0;
+      const auto status = Status::from(element_encode(s, element, &count, ctx));
+      if (!status || add_to(total, count)) return status;
+      return kUnit.fail(ctx, QUARN_ASN1_ERROR_ITEM_LENGTH);
+    });
+  });
+  if (result == 1 && written != nullptr) *written = total + end;
+  return result;
+}
+
+int quarn_asn1_encode_anylist_content(quarn_stream *s,
+                                      quarn_asn1_list *l,
+                                      int64_t content_length,
+                                      uint64_t *written,
+                                      quarn_err_ctx *ctx) {
+  return quarn_asn1_encode_list_content(s, l, QUARN_ASN1_ANY, content_length, written, ctx);
+}
+
+int quarn_asn1_decode_list_content(quarn_stream *s,
+                                   quarn_asn1_list **l,
+                                   int64_t element_type_id,
+                                   int form,
+                                   int64_t content_length,
+                                   uint32_t element_class,
+                                   int element_form,
+                                   uint64_t element_tag,
+                                   uint64_t *consumed,
+                                   quarn_err_ctx *ctx) {
+  if (l != nullptr) *l = nullptr;
+  const Type *type = find_type(element_type_id);
+  if (type == nullptr) return no_such_type(ctx).raw();
+  const ElementTag expected{element_class, element_form, element_tag};
+  return reading(s, consumed, ctx, [&](Reader &in) {
+    return decode_list_content(in, l, *type, form != 0, content_length, expected);
+  });
+}
+
+int quarn_asn1_decode_list_content_ex(quarn_stream *s,
+                                      quarn_asn1_list **l,
+                                      quarn_asn1_decode_content_fn element_decode_content,
+                                      quarn_asn1_free_fn element_free,
+                                      int form,
+                                      int64_t content_length,
+                                      uint32_t element_class,
+                                      int element_form,
+                                      uint64_t element_tag,
+                                      uint64_t *consumed,
+                                      quarn_err_ctx *ctx) {
+  if (l != nullptr) *l = nullptr;
+  if (element_decode_content == nullptr || element_free == nullptr) {
+    return kUnit.fail(ctx, QUARN_ERROR_ARGUMENT).raw();
+  }
+  const ElementTag expected{element_class, element_form, element_tag};
+  CallersElements elements(element_decode_content, element_free, expected);
+  Reader in(s, ctx);
+  const Status status = decode_with(in, l, form != 0, content_length, elements);
+  if (status && consumed != nullptr) *consumed = elements.position(in);
+  return status.raw();
+}
+
+int quarn_asn1_decode_anylist_content(quarn_stream *s,
+                                      quarn_asn1_list **l,
+                                      int32_t form,
+                                      int64_t content_length,
+                                      uint64_t *consumed,
+                                      quarn_err_ctx *ctx) {
+  return reading(s, consumed, ctx,
+                 [=](Reader &in) { return decode_anylist(in, l, form != 0, content_length); });
+}
+
+int quarn_asn1_decode_anylist_1_content(quarn_stream *s,
+                                        quarn_asn1_list **l,
+                                        int32_t form,
+                                        int64_t content_length,
+                                        uint64_t *consumed,
+                                        quarn_err_ctx *ctx) {
+  return reading(s, consumed, ctx,
+                 [=](Reader &in) { return decode_anylist_1(in, l, form != 0, content_length); });
+}

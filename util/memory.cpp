@@ -19,6 +19,7 @@ void quarn_mem_set_functions(void *(*allocate)(size_t), void (*release)(void *))
 }
 
 void *quarn_malloc(size_t size, const char * /*file*/, int /*line*/) {
+  if (size > PTRDIFF_MAX) return nullptr;  // no object is that large; some allocators abort
   if (size == 0) size = 1;
   if (allocate_function != nullptr) return allocate_function(size);
   return std::malloc(size);

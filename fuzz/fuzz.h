@@ -1,0 +1,66 @@
+// What the fuzz targets share: owners of C objects, and a check that stops the fuzzer.
+#ifndef QUARN_FUZZ_FUZZ_H
+#define QUARN_FUZZ_FUZZ_H
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+#include "quarn_asn1.h"
+
+namespace quarn::fuzz {
+
+// The law does not hold: let the fuzzer keep the input.
+inline void must(bool holds) {
+  if (!holds) std::abort();
+}
+
+template <auto Free>
+struct Freer {
+  template <typename T>
+  void operator()(T *p) const {
+    Free(p);
+  }
+};
+
+using Json = std::unique_ptr<quarn_json, Freer<quarn_json_free>>;
+using Blob = std::unique_ptr<quarn_data_blob, Freer<quarn_data_blob_free>>;
+using Stream = std::unique_ptr<quarn_stream, Freer<quarn_stream_free>>;
+using Context = std::unique_ptr<quarn_err_ctx, Freer<quarn_err_ctx_free>>;
+
+template <typename T>
+using Buffer = std::unique_ptr<T, Freer<quarn_free>>;
+
+// A copy exactly as large as its content, so that the sanitizer sees reads past the end.
+class Exact {
+ public:
+  Exact(const std::uint8_t *data, std::size_t size) : octets_(new std::uint8_t[size]), size_(size) {
+    if (size > 0) std::memcpy(octets_.get(), data, size);
+  }
+  const std::uint8_t *data() const { return octets_.get(); }
+  std::int64_t size() const { return static_cast<std::int64_t>(size_); }
+
+ private:
+  std::unique_ptr<std::uint8_t[]> octets_;
+  std::size_t size_;
+};
+
+inline bool equal(const quarn_data_blob &blob, const std::uint8_t *octets, std::int64_t count) {
+  return blob.length == count &&
+         (count == 0 || std::memcmp(blob.data, octets, static_cast<std::size_t>(count)) == 0);
+}
+
+// JSON text of a value; null when it cannot be printed.
+inline Buffer<char> text_of(const quarn_json *json, std::size_t *length) {
+  char *text = nullptr;
+  must(quarn_json_print(json, 0, &text, length) == 1);
+  return Buffer<char>(text);
+}
+
+}  // namespace quarn::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
+
+#endif

@@ -1,0 +1,74 @@
+#!/usr/bin/env python3
+"""Makes the first corpus of a fuzz target from the test vectors and the system's certificates.
+
+    tools/seeds.py TARGET FOLDER
+"""
+
+import hashlib
+import pathlib
+import re
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+TEXTS = ["\x001.2.840.113549.1.1.11", "\x012.999.3", "\x02240229120000Z", "\x022402291200+0130",
+         "\x0320240229120000.5Z", "\x0320240229120000-0130", "\x032024022912", "\x04-123456789012345678901234567890",
+         "\x05aß水𐀀"]
+
+
+def octets(text):
+    """Octets of a vector's text, with groups repeated: (30 80)*3."""
+    while "(" in text:
+        text = re.sub(r"\(([^()]*)\)(?:\*(\d+))?", lambda m: " ".join([m[1]] * int(m[2] or 1)), text)
+    return bytes.fromhex(text)
+
+
+def type_ids():
+    for line in (ROOT / "modules/registry.tsv").read_text(encoding="utf-8").splitlines():
+        if not line.startswith("#"):
+            number, name = line.split("\t")[:2]
+            yield name, int(number)
+
+
+def vectors():
+    ids = dict(type_ids())
+    for path in sorted((ROOT / "tests/vectors").glob("*.vec")):
+        type_id = 0
+        for line in path.read_text(encoding="utf-8").splitlines():
+            key, _, value = (part.strip() for part in line.split("#")[0].partition("="))
+            if key == "type":
+                type_id = int(value) if value.isdigit() else ids[value]
+            elif key == "in" and len(content := octets(value)) <= 4096:
+                yield type_id, content
+
+
+def certificates():
+    for path in sorted(pathlib.Path("/usr/share/ca-certificates/mozilla").glob("*.crt"))[:20]:
+        yield subprocess.run(["openssl", "x509", "-in", path, "-outform", "DER"],
+                             check=True, capture_output=True).stdout
+
+
+def seeds(target):
+    if target == "typed":
+        for type_id, content in vectors():
+            yield type_id.to_bytes(2, "big") + content
+    elif target == "value_text":
+        yield from (text.encode() for text in TEXTS)
+    elif target == "json_text":
+        page = (ROOT / "docs/json.md").read_text(encoding="utf-8")
+        yield from (m.encode() for m in re.findall(r"^\{.*\}$", page, re.MULTILINE))
+        yield b'[null, true, 1e3, -0.5, "\\u0041\\n", {"a": []}]'
+    else:
+        yield from (content for _, content in vectors())
+        yield from certificates()
+
+
+def main(target, folder):
+    for seed in seeds(target):
+        (pathlib.Path(folder) / hashlib.sha1(seed).hexdigest()).write_bytes(seed)
+
+
+if __name__ == "__main__":
+    if len(sys.argv) != 3:
+        raise SystemExit(__doc__)
+    main(*sys.argv[1:])

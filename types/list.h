@@ -1,0 +1,48 @@
+// Lists: the values of every SEQUENCE OF and SET OF.
+//
+// A list holds pointers to its elements and nothing about their type, which each operation is told.
+// Room for elements is allocated with the first one and doubles, so that an empty list, of which
+// hostile input can hold one for every two octets, is one small block.
+#ifndef QUARN_TYPES_LIST_H
+#define QUARN_TYPES_LIST_H
+
+#include "core/type.h"
+#include "quarn_asn1/types.h"
+
+struct quarn_asn1_list {
+  void **items;
+  std::int32_t capacity;
+  std::int32_t count;
+};
+
+namespace quarn::asn1 {
+
+// The tag that each element of a list must have; form: 1 primitive, 0 constructed, -1 either.
+struct ElementTag {
+  std::uint32_t tag_class;
+  std::int32_t form;
+  std::uint64_t number;
+};
+
+// False, with the element still the caller's, when it is null or memory is short.
+[[nodiscard]] bool append(quarn_asn1_list &list, void *element);
+
+void free_list(quarn_asn1_list *list, const Type &element);
+std::int64_t list_content_length(const quarn_asn1_list *list, const Type &element);
+Status encode_list_content(Writer &out,
+                           const quarn_asn1_list *list,
+                           const Type &element,
+                           std::int64_t length);
+// Stores a new list, or null first and on failure.
+Status decode_list_content(Reader &in,
+                           quarn_asn1_list **out,
+                           const Type &element,
+                           bool primitive,
+                           std::int64_t length,
+                           const ElementTag &expected);
+// Puts the elements into DER order. False, with the list unchanged, on failure.
+[[nodiscard]] bool sort_set_of(quarn_asn1_list *list, const Type &element);
+
+}  // namespace quarn::asn1
+
+#endif

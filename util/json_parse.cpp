@@ -1,0 +1,237 @@
+// JSON text into a tree: a SAX reader takes the text apart, its handler builds the tree.
+//
+// The reader neither checks its allocations nor offers a way to fail in all places where a failure
+// can occur, so two exceptions leave it; they end in quarn_json_parse().
+#include <rapidjson/reader.h>
+
+#include <algorithm>
+#include <charconv>
+#include <new>
+#include <optional>
+#include <utility>
+
+#include "util/json.h"
+
+namespace quarn::util {
+namespace {
+
+// NOLINTBEGIN(readability-identifier-naming): the names that the reader asks for
+
+// The text as the reader's input, ended by a NUL that it does not have. A NUL inside the text ends
+// the reading too, which the caller notices by the position.
+class TextStream {
+ public:
+  using Ch = char;
+
+  explicit TextStream(std::string_view text)
+      : begin_(text.data()), at_(text.data()), end_(text.data() + text.size()) {}
+
+  char Peek() const { return at_ < end_ ? *at_ : '\0'; }
+  char Take() { return at_ < end_ ? *at_++ : '\0'; }
+  std::size_t Tell() const { return static_cast<std::size_t>(at_ - begin_); }
+
+  // Only reading in place would write; the reader asks for these to exist.
+  void Put(char /*c*/) {}
+  char *PutBegin() { return nullptr; }
+  std::size_t PutEnd(const char * /*begin*/) { return 0; }
+
+ private:
+  const char *begin_;
+  const char *at_;
+  const char *end_;
+};
+
+}  // namespace
+}  // namespace quarn::util
+
+// The reader works on a copy of the stream within a string or number and puts it back afterwards.
+template <>
+struct rapidjson::StreamTraits<quarn::util::TextStream> {
+  enum { copyOptimization = 1 };
+};
+
+namespace quarn::util {
+namespace {
+
+// Memory of the reader's stack, which holds 8 octets a level and the string or number at hand. The
+// reader counts these in 32 bits, so that the stack must stay below that.
+class StackMemory {
+ public:
+  static const bool kNeedFree = true;
+
+  void *Realloc(void *old, std::size_t old_size, std::size_t new_size) {
+    void *block = new_size <= INT32_MAX ? allocate_array<char>(new_size) : nullptr;
+    if (block == nullptr) throw std::bad_alloc();
+    if (old != nullptr) std::memcpy(block, old, std::min(old_size, new_size));
+    Free(old);
+    return block;
+  }
+  static void Free(void *block) { quarn_free(block); }
+};
+
+struct LoneSurrogate {};
+
+// UTF-8 as the reader knows it, save that it would encode an escaped low surrogate without its high
+// one.
+struct StrictUtf8 : rapidjson::UTF8<> {
+  template <typename Output>
+  static void Encode(Output &output, unsigned code_point) {
+    if (code_point >= 0xD800 && code_point <= 0xDFFF) throw LoneSurrogate();
+    rapidjson::UTF8<>::Encode(output, code_point);
+  }
+};
+
+using Reader = rapidjson::GenericReader<StrictUtf8, StrictUtf8, StackMemory>;
+
+// Numbers come as text: the reader's own conversion loses the sign of zero, and its exponents
+// overflow.
+constexpr unsigned kReaderFlags = rapidjson::kParseIterativeFlag |
+                                  rapidjson::kParseValidateEncodingFlag |
+                                  rapidjson::kParseNumbersAsStringsFlag;
+
+// Whether a number out of the range of double is too small rather than too great, which is a matter
+// of where its first digit other than 0 stands.
+bool is_tiny(std::string_view number) {
+  const std::size_t mantissa = std::min(number.find_first_of("eE"), number.size());
+  const std::size_t point = std::min(number.find('.'), mantissa);
+  const std::size_t first = number.find_first_of("123456789");
+  int64_t exponent = 0;
+  if (mantissa < number.size()) {
+    const char *digits = number.data() + mantissa + (number[mantissa + 1] == '+' ? 2 : 1);
+    const auto result = std::from_chars(digits, number.data() + number.size(), exponent);
+    if (result.ec != std::errc()) return *digits == '-';
+  }
+  return static_cast<int64_t>(point) - static_cast<int64_t>(first) + exponent < 0;
+}
+
+// The number nearest to a text that the reader found to be one; nothing when it is too great.
+std::optional<double> number_of(std::string_view text) {
+  const char *end = text.data() + text.size();
+  if (text.size() <= 9) {
+    int32_t whole = 0;
+    if (std::from_chars(text.data(), end, whole).ptr == end && whole != 0) return whole;
+  }
+  double value;
+  if (std::from_chars(text.data(), end, value).ec == std::errc()) return value;
+  if (!is_tiny(text)) return std::nullopt;
+  return text.front() == '-' ? -0.0 : 0.0;
+}
+
+// Builds the tree from the reader's events. Owns the tree and the key at hand until release().
+class Builder : public rapidjson::BaseReaderHandler<StrictUtf8, Builder> {
+ public:
+  explicit Builder(const TextStream &stream) : stream_(stream) {}
+  Builder(const Builder &) = delete;
+  Builder &operator=(const Builder &) = delete;
+  ~Builder() {
+    key_.clear();
+    quarn_json_free(root_);
+  }
+
+  quarn_json *release() { return std::exchange(root_, nullptr); }
+  // Where an event was refused, and why; 0 when none was.
+  int code() const { return code_; }
+  std::size_t offset() const { return offset_; }
+
+  bool Null() { return add(quarn_json_newnull()); }
+  bool Bool(bool value) { return add(quarn_json_newboolean(value)); }
+  bool String(const char *text, unsigned length, bool /*copy*/) {
+    return add(json_new_text({text, length}));
+  }
+  bool RawNumber(const char *text, unsigned length, bool /*copy*/) {
+    const std::optional<double> value = number_of({text, length});
+    return value ? add(quarn_json_newnumber(*value)) : refuse(QUARN_ERROR_FORMAT);
+  }
+  bool Key(const char *text, unsigned length, bool /*copy*/) {
+    const std::string_view key(text, length);
+    if (json_find(container_, key) != nullptr) return refuse(QUARN_ERROR_FORMAT);
+    return key_.assign(key) || refuse(QUARN_ERROR_NO_MEMORY);
+  }
+  bool StartObject() { return open(quarn_json_newobject()); }
+  bool EndObject(unsigned /*count*/) { return close(); }
+  bool StartArray() { return open(quarn_json_newarray()); }
+  bool EndArray(unsigned /*count*/) { return close(); }
+
+ private:
+  // The stream still stands at the first octet of a key, string or number.
+  bool refuse(int code) {
+    code_ = code;
+    offset_ = stream_.Tell();
+    return false;
+  }
+
+  bool add(quarn_json *value) {
+    if (value == nullptr) return refuse(QUARN_ERROR_NO_MEMORY);
+    if (container_ == nullptr) {
+      root_ = value;
+      return true;
+    }
+    if (!json_append(container_, value, key_)) {
+      quarn_json_free(value);
+      return refuse(QUARN_ERROR_NO_MEMORY);
+    }
+    key_ = {};
+    return true;
+  }
+
+  bool open(quarn_json *container) {
+    if (!add(container)) return false;
+    container_ = container;
+    return true;
+  }
+
+  bool close() {
+    container_ = container_->parent;
+    return true;
+  }
+
+  const TextStream &stream_;
+  quarn_json *root_ = nullptr;
+  quarn_json *container_ = nullptr;
+  JsonKey key_;
+  int code_ = 0;
+  std::size_t offset_ = 0;
+};
+
+// NOLINTEND(readability-identifier-naming)
+
+// Reads the whole text; 0, or the code of a failure and where it is.
+int read(Reader &reader, TextStream &stream, Builder &builder, std::size_t *offset) {
+  constexpr std::size_t kEscapeLength = 6;
+  try {
+    const rapidjson::ParseResult result = reader.Parse<kReaderFlags>(stream, builder);
+    if (builder.code() != 0) {
+      *offset = builder.offset();
+      return builder.code();
+    }
+    *offset = result.IsError() ? result.Offset() : stream.Tell();
+    return result.IsError() ? QUARN_ERROR_FORMAT : 0;
+  } catch (const std::bad_alloc &) {
+    *offset = stream.Tell();
+    return QUARN_ERROR_NO_MEMORY;
+  } catch (const LoneSurrogate &) {
+    *offset = stream.Tell() - kEscapeLength;
+    return QUARN_ERROR_FORMAT;
+  }
+}
+
+}  // namespace
+}  // namespace quarn::util
+
+quarn_json *quarn_json_parse(const char *text, size_t length, quarn_err_ctx *ctx) {
+  using quarn::util::kJsonUnit;
+  if (text == nullptr) {
+    kJsonUnit.fail(ctx, QUARN_ERROR_ARGUMENT);
+    return nullptr;
+  }
+  quarn::util::TextStream stream({text, length});
+  quarn::util::Builder builder(stream);
+  quarn::util::StackMemory memory;
+  quarn::util::Reader reader(&memory);
+  std::size_t offset = 0;
+  int code = quarn::util::read(reader, stream, builder, &offset);
+  if (code == 0 && offset < length) code = QUARN_ERROR_FORMAT;
+  if (code == 0) return builder.release();
+  kJsonUnit.fail(ctx, code, static_cast<int64_t>(offset));
+  return nullptr;
+}
