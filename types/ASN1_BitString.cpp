@@ -13,13 +13,14 @@ namespace quarn::asn1 {
 
 namespace {
 
+constexpr Unit kUnit{"QUARN_ASN1_BitString"};
 constexpr int kDecodeFailed = 0x10214;  // decode_error() of BIT STRING, whatever it is part of
 constexpr std::uint32_t kMostUnusedBits = 7;
 
 }  // namespace
 
 const SegmentRules kBitRules{
-    .unit = {"QUARN_ASN1_BitString"},
+    .unit = kUnit,
     .tag_number = 3,
     .counts_unused_bits = true,
     .empty_is_a_level = true,
@@ -31,8 +32,6 @@ const SegmentRules kBitRules{
 };
 
 namespace {
-
-const Unit &kUnit = kBitRules.unit;
 
 // Of the data octets.
 std::int64_t data_length(const StringValue *value) {

@@ -8,6 +8,7 @@ namespace quarn::asn1 {
 
 namespace {
 
+constexpr Unit kUnit{"QUARN_ASN1_OctetString"};
 constexpr int kDecodeFailed = 0x10219;  // decode_error() of OCTET STRING, whatever it is part of
 
 // Content that is not in memory is written in segments from this size on.
@@ -16,7 +17,7 @@ constexpr std::uint64_t kSegmentedFrom = 0x500000;
 }  // namespace
 
 const SegmentRules kOctetRules{
-    .unit = {"QUARN_ASN1_OctetString"},
+    .unit = kUnit,
     .tag_number = 4,
     .counts_unused_bits = false,
     .empty_is_a_level = false,
@@ -28,8 +29,6 @@ const SegmentRules kOctetRules{
 };
 
 namespace {
-
-const Unit &kUnit = kOctetRules.unit;
 
 std::int64_t octet_length(const StringValue *value) {
   std::uint64_t count = 0;

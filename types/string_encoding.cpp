@@ -282,38 +282,48 @@ Status write_segment(const SegmentRules &rules,
   return status ? out.octets(octets, count) : status;
 }
 
-// Only the last segment of a BIT STRING may have unused bits, so that one is held back until it is
-// known whether another follows.
+namespace {
+
+struct Piece {
+  std::uint8_t *octets;
+  std::uint64_t count = 0;
+};
+
+// Writes what the source gives as segments. Only the last segment of a BIT STRING may have unused
+// bits, so that one is held back until it is known whether another follows.
+Status write_pieces(
+    const SegmentRules &rules, Writer &out, const Source &source, Piece next, Piece &held) {
+  for (;;) {
+    Status status = Status::from(quarn_stream_read(
+        source.stream(), next.octets, static_cast<std::int64_t>(kPiece), &next.count, out.ctx()));
+    if (!status || next.count == 0) return status;
+    if (rules.counts_unused_bits) std::swap(next, held);
+    if (next.count > 0) status = write_segment(rules, out, next.octets, next.count, 0);
+    if (!status) return status;
+  }
+}
+
+}  // namespace
+
 Status write_segments(const SegmentRules &rules, Writer &out, StringValue &value) {
   quarn_err_ctx *ctx = out.ctx();
   // Without a length nothing would end the copying of a stream to itself.
   if (value.stream != nullptr && value.stream == out.stream()) {
     return rules.unit.fail(ctx, QUARN_ERROR_ARGUMENT, out.offset());
   }
-  const util::Block<std::uint8_t> pieces(util::allocate_array<std::uint8_t>(2 * kPiece));
-  if (pieces == nullptr) return rules.unit.fail(ctx, QUARN_ERROR_NO_MEMORY, out.offset());
+  const util::Block<std::uint8_t> room(util::allocate_array<std::uint8_t>(2 * kPiece));
+  if (room == nullptr) return rules.unit.fail(ctx, QUARN_ERROR_NO_MEMORY, out.offset());
   Source source;
   Status status = source.open(value, rules.unit, ctx);
   if (!status) return status;
-  std::uint8_t *piece = pieces.get();
-  std::uint8_t *held = piece + kPiece;
-  std::uint64_t held_count = 0;
-  for (;;) {
-    std::uint64_t count = 0;
-    status = Status::from(
-        quarn_stream_read(source.stream(), piece, static_cast<std::int64_t>(kPiece), &count, ctx));
-    if (!status) return status;
-    if (count == 0) break;
-    if (rules.counts_unused_bits) {
-      std::swap(piece, held);
-      std::swap(count, held_count);
-    }
-    if (count > 0) status = write_segment(rules, out, piece, count, 0);
+  Piece held{room.get()};
+  status = write_pieces(rules, out, source, Piece{room.get() + kPiece}, held);
+  if (!status) return status;
+  if (!source.at_end()) return rules.unit.fail(ctx, QUARN_STREAM_ERROR_NOTATEND, out.offset());
+  if (held.count > 0) {
+    status = write_segment(rules, out, held.octets, held.count, value.unused_bits);
     if (!status) return status;
   }
-  if (!source.at_end()) return rules.unit.fail(ctx, QUARN_STREAM_ERROR_NOTATEND, out.offset());
-  if (held_count > 0) status = write_segment(rules, out, held, held_count, value.unused_bits);
-  if (!status) return status;
   status = write_end_of_contents(out);
   return status ? status : rules.unit.pass_on(status, ctx, QUARN_ASN1_ERROR_WRITE_END);
 }

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <vector>
 
+#include "tests/support/allocation.h"
 #include "tests/support/streams.h"
 
 namespace quarn::test {
@@ -70,6 +71,30 @@ class Store {
 
   std::uint64_t at_ = 0;
 };
+
+// Runs attempt(from, to), which reads `octets` from one store and works on another, with every call
+// on either and every allocation failing in turn. It returns whether all went well.
+template <typename Attempt>
+void fail_each_call(const std::vector<std::uint8_t> &octets, bool knows_length, Attempt attempt) {
+  Store whole(octets);
+  Store content;
+  content.knows_length = knows_length;
+  ASSERT_TRUE(attempt(whole, content));
+  for (std::uint64_t n = 0; n < whole.calls + content.calls; n++) {
+    Store from(octets);
+    Store to;
+    to.knows_length = knows_length;
+    (n < whole.calls ? from : to).fail_at = n < whole.calls ? n : n - whole.calls;
+    EXPECT_FALSE(attempt(from, to)) << "call " << n << " failing";
+  }
+  fail_each_allocation([&](Allocation &allocation) {
+    Store from(octets);
+    Store to;
+    to.knows_length = knows_length;
+    const bool good = attempt(from, to);
+    EXPECT_TRUE(good || allocation.failed());
+  });
+}
 
 }  // namespace quarn::test
 

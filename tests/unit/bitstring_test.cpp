@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "quarn_asn1.h"
-#include "tests/support/allocation.h"
 #include "tests/support/store.h"
 #include "types/bitstring.h"
 
@@ -218,27 +217,7 @@ bool exercise(Store &from, Store &content) {
 
 TEST(BitString, every_failing_call_is_a_failure_and_leaves_nothing) {
   const Octets octets{0x23, 0x80, 0x03, 2, 0, 1, 0x23, 4, 0x03, 2, 4, 0xF0, 0, 0};
-  for (const bool knows_length : {true, false}) {
-    Store whole(octets);
-    Store content;
-    content.knows_length = knows_length;
-    ASSERT_TRUE(exercise(whole, content));
-    const std::uint64_t reads = whole.calls;
-    for (std::uint64_t n = 0; n < reads + content.calls; n++) {
-      Store from(octets);
-      Store to;
-      to.knows_length = knows_length;
-      (n < reads ? from : to).fail_at = n < reads ? n : n - reads;
-      EXPECT_FALSE(exercise(from, to)) << "call " << n << " failing";
-    }
-    fail_each_allocation([&](Allocation &allocation) {
-      Store from(octets);
-      Store to;
-      to.knows_length = knows_length;
-      const bool good = exercise(from, to);
-      EXPECT_TRUE(good || allocation.failed());
-    });
-  }
+  for (const bool knows_length : {true, false}) fail_each_call(octets, knows_length, exercise);
 }
 
 }  // namespace

@@ -379,32 +379,7 @@ TEST(OctetString, every_failing_call_is_a_failure_and_leaves_nothing) {
   const Octets element{0x24, 0x80, 0x04, 2, 0x04, 1, 0x24, 3, 0x04, 1, 'a', 0, 0};
   Octets twice = element;
   twice.insert(twice.end(), element.begin(), element.end());
-  for (const bool knows_length : {true, false}) {
-    Store whole(twice);
-    Store content;
-    content.knows_length = knows_length;
-    ASSERT_TRUE(exercise(whole, content));
-    for (std::uint64_t n = 0; n < whole.calls; n++) {
-      Store from(twice);
-      Store to;
-      from.fail_at = n;
-      EXPECT_FALSE(exercise(from, to));
-    }
-    for (std::uint64_t n = 0; n < content.calls; n++) {
-      Store from(twice);
-      Store to;
-      to.knows_length = knows_length;
-      to.fail_at = n;
-      EXPECT_FALSE(exercise(from, to)) << "call " << n << " failing";
-    }
-    fail_each_allocation([&](Allocation &allocation) {
-      Store from(twice);
-      Store to;
-      to.knows_length = knows_length;
-      const bool good = exercise(from, to);
-      EXPECT_TRUE(good || allocation.failed());
-    });
-  }
+  for (const bool knows_length : {true, false}) fail_each_call(twice, knows_length, exercise);
 }
 
 }  // namespace
