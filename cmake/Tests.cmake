@@ -23,3 +23,11 @@ endfunction()
 foreach(folder util unit vectors laws)
   quarn_add_test_program(${folder})
 endforeach()
+
+# The command as a person runs it.
+find_package(Python3 COMPONENTS Interpreter)
+if(TARGET quarn_cli AND Python3_FOUND)
+  add_test(NAME cli COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_quarn.py)
+  set_tests_properties(cli PROPERTIES ENVIRONMENT
+    "QUARN=$<TARGET_FILE:quarn_cli>;QUARN_COMPLETION=${QUARN_COMPLETION_bash};QUARN_MAN=${QUARN_MAN_PAGE}")
+endif()
