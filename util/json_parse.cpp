@@ -57,7 +57,7 @@ namespace {
 // reader counts these in 32 bits, so that the stack must stay below that.
 class StackMemory {
  public:
-  static const bool kNeedFree = true;
+  [[maybe_unused]] static constexpr bool kNeedFree = true;
 
   void *Realloc(void *old, std::size_t old_size, std::size_t new_size) {
     void *block = new_size <= INT32_MAX ? allocate_array<char>(new_size) : nullptr;
