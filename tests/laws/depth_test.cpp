@@ -1,0 +1,106 @@
+// A million elements inside one another, on a small stack: a result or a clean limit, never a
+// crash.
+#include <gtest/gtest.h>
+
+#include "quarn_asn1.h"
+#include "tests/support/allocation.h"
+#include "tests/support/streams.h"
+#include "tests/support/thread.h"
+
+namespace quarn::test {
+namespace {
+
+using Octets = std::vector<std::uint8_t>;
+
+constexpr std::size_t kLevels = 1'000'000;
+
+void append_length(Octets &reversed, std::size_t length) {
+  if (length < 0x80) {
+    reversed.push_back(static_cast<std::uint8_t>(length));
+    return;
+  }
+  std::uint8_t count = 0;
+  for (; length > 0; length >>= 8, count++) reversed.push_back(static_cast<std::uint8_t>(length));
+  reversed.push_back(0x80 | count);
+}
+
+// Levels of definite length around a NULL: built from the inside, that is from the end.
+Octets nested_definite(std::uint8_t identifier, std::size_t levels) {
+  Octets reversed{0x00, 0x05};
+  for (std::size_t i = 0; i < levels; i++) {
+    append_length(reversed, reversed.size());
+    reversed.push_back(identifier);
+  }
+  return Octets(reversed.rbegin(), reversed.rend());
+}
+
+Octets nested_indefinite(std::uint8_t identifier, std::size_t levels) {
+  Octets octets;
+  for (std::size_t i = 0; i < levels; i++) octets.insert(octets.end(), {identifier, 0x80});
+  octets.insert(octets.end(), levels * 2, 0x00);
+  return octets;
+}
+
+// Octets to document to text to document to octets.
+void round_trip(const Octets &octets) {
+  quarn_json *document = quarn_asn1_tojson(octets.data(), static_cast<std::int64_t>(octets.size()));
+  ASSERT_NE(document, nullptr);
+  char *text = nullptr;
+  std::size_t length = 0;
+  ASSERT_EQ(quarn_json_print(document, 2, &text, &length), 1);
+  EXPECT_LT(length, octets.size() * 1200) << "indentation stops growing";
+  quarn_json_free(document);
+  document = quarn_json_parse(text, length, nullptr);
+  quarn_free(text);
+  ASSERT_NE(document, nullptr);
+  quarn_data_blob *blob = quarn_asn1_encodejson(document);
+  quarn_json_free(document);
+  ASSERT_NE(blob, nullptr);
+  EXPECT_EQ(Octets(blob->data, blob->data + blob->length), octets);
+  quarn_data_blob_free(blob);
+}
+
+TEST(Depth, a_million_definite_levels_go_through_json_and_back) {
+  on_small_stack([] {
+    Allocation allocation;
+    round_trip(nested_definite(0x30, kLevels));
+    round_trip(nested_definite(0xA3, kLevels));
+    EXPECT_EQ(allocation.live_blocks(), 0);
+  });
+}
+
+TEST(Depth, a_million_indefinite_levels_end_at_the_limit) {
+  on_small_stack([] {
+    Allocation allocation;
+    for (const std::uint8_t identifier : {0x30, 0x24, 0x23, 0xA0}) {
+      const Octets octets = nested_indefinite(identifier, kLevels);
+      EXPECT_EQ(quarn_asn1_tojson(octets.data(), static_cast<std::int64_t>(octets.size())),
+                nullptr);
+    }
+    EXPECT_EQ(allocation.live_blocks(), 0);
+  });
+}
+
+TEST(Depth, every_type_ends_at_the_limit) {
+  on_small_stack([] {
+    Allocation allocation;
+    for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
+      quarn_asn1_type_description type{};
+      quarn_asn1_type_describe(id, &type);
+      const auto tag = static_cast<std::uint8_t>(type.tag_class | 0x20 | (type.tag_number & 0x1F));
+      for (const std::uint8_t inner :
+           {std::uint8_t{0x24}, std::uint8_t{0x23}, std::uint8_t{0x30}}) {
+        Octets octets = nested_indefinite(inner, 100000);
+        if (type.tag_number != 0) octets[0] = tag;
+        void *value = nullptr;
+        const Stream stream = memory_stream(octets);
+        EXPECT_NE(quarn_asn1_decode(stream.get(), id, &value, nullptr, nullptr), 1) << type.name;
+        EXPECT_EQ(value, nullptr);
+      }
+    }
+    EXPECT_EQ(allocation.live_blocks(), 0);
+  });
+}
+
+}  // namespace
+}  // namespace quarn::test
