@@ -29,6 +29,13 @@ class Buffer {
     return grow(count);
   }
 
+  // The same for a buffer that holds nothing yet and will rarely need more than count octets.
+  [[nodiscard]] bool start(std::size_t count) {
+    octets_ = util::allocate_array<std::uint8_t>(count);
+    capacity_ = octets_ == nullptr ? 0 : count;
+    return octets_ != nullptr;
+  }
+
   [[nodiscard]] bool append(const void *octets, std::size_t count) {
     if (!reserve(count)) return false;
     if (count > 0) std::memcpy(octets_ + size_, octets, count);

@@ -228,11 +228,16 @@ Status decode_elements(Reader &in, quarn_asn1_list &list, std::int64_t length, E
   }
 }
 
+// Stores null on failure. Fewer than least elements are one.
 template <typename Elements>
-Status decode_with(
-    Reader &in, quarn_asn1_list **out, bool primitive, std::int64_t length, Elements &elements) {
+Status decode_with(Reader &in,
+                   quarn_asn1_list **out,
+                   bool primitive,
+                   std::int64_t length,
+                   std::int32_t least,
+                   Elements &elements) {
+  if (out != nullptr) *out = nullptr;
   if (in.is_null() || out == nullptr) return kUnit.fail(in.ctx(), QUARN_ERROR_ARGUMENT);
-  *out = nullptr;
   if (primitive) return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_FORM, in.offset());
   Building list(elements);
   if (list.get() == nullptr) return kUnit.fail(in.ctx(), QUARN_ERROR_NO_MEMORY, in.offset());
@@ -241,6 +246,7 @@ Status decode_with(
     const Status status = decode_elements(in, *list.get(), length, elements);
     if (!status) return status;
   }
+  if (list.get()->count < least) return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_SIZE, in.offset());
   *out = list.release();
   return Status::success();
 }
@@ -254,18 +260,10 @@ const Type &any_type() {
   return type_of(QUARN_ASN1_ANY);
 }
 
-Status decode_anylist(Reader &in, quarn_asn1_list **out, bool primitive, std::int64_t length) {
+Status decode_anylist(
+    Reader &in, quarn_asn1_list **out, bool primitive, std::int64_t length, std::int32_t least) {
   AnyElements elements;
-  return decode_with(in, out, primitive, length, elements);
-}
-
-// For lists that must not be empty.
-Status decode_anylist_1(Reader &in, quarn_asn1_list **out, bool primitive, std::int64_t length) {
-  const Status status = decode_anylist(in, out, primitive, length);
-  if (!status || (*out)->count > 0) return status;
-  free_list(*out, any_type());
-  *out = nullptr;
-  return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_SIZE, in.offset());
+  return decode_with(in, out, primitive, length, least, elements);
 }
 
 }  // namespace
@@ -303,7 +301,7 @@ Status decode_list_content(Reader &in,
                            std::int64_t length,
                            const ElementTag &expected) {
   TypedElements elements(element, expected);
-  return decode_with(in, out, primitive, length, elements);
+  return decode_with(in, out, primitive, length, 0, elements);
 }
 
 namespace {
@@ -327,12 +325,12 @@ Status encode_anylist(const Type & /*type*/, Writer &out, void *value, std::int6
 
 Status decode_anylist_value(
     const Type & /*type*/, Reader &in, void **value, bool primitive, std::int64_t length) {
-  return decode_anylist(in, reinterpret_cast<quarn_asn1_list **>(value), primitive, length);
+  return decode_anylist(in, reinterpret_cast<quarn_asn1_list **>(value), primitive, length, 0);
 }
 
 Status decode_anylist_1_value(
     const Type & /*type*/, Reader &in, void **value, bool primitive, std::int64_t length) {
-  return decode_anylist_1(in, reinterpret_cast<quarn_asn1_list **>(value), primitive, length);
+  return decode_anylist(in, reinterpret_cast<quarn_asn1_list **>(value), primitive, length, 1);
 }
 
 }  // namespace
@@ -482,7 +480,7 @@ int quarn_asn1_decode_list_content_ex(quarn_stream *s,
   const ElementTag expected{element_class, element_form, element_tag};
   CallersElements elements(element_decode_content, element_free, expected);
   Reader in(s, ctx);
-  const Status status = decode_with(in, l, form != 0, content_length, elements);
+  const Status status = decode_with(in, l, form != 0, content_length, 0, elements);
   if (status && consumed != nullptr) *consumed = elements.position(in);
   return status.raw();
 }
@@ -494,7 +492,7 @@ int quarn_asn1_decode_anylist_content(quarn_stream *s,
                                       uint64_t *consumed,
                                       quarn_err_ctx *ctx) {
   return reading(s, consumed, ctx,
-                 [=](Reader &in) { return decode_anylist(in, l, form != 0, content_length); });
+                 [=](Reader &in) { return decode_anylist(in, l, form != 0, content_length, 0); });
 }
 
 int quarn_asn1_decode_anylist_1_content(quarn_stream *s,
@@ -504,5 +502,5 @@ int quarn_asn1_decode_anylist_1_content(quarn_stream *s,
                                         uint64_t *consumed,
                                         quarn_err_ctx *ctx) {
   return reading(s, consumed, ctx,
-                 [=](Reader &in) { return decode_anylist_1(in, l, form != 0, content_length); });
+                 [=](Reader &in) { return decode_anylist(in, l, form != 0, content_length, 1); });
 }

@@ -1,147 +1,130 @@
+// The octets of string values: where they are and how they are read.
 #include "types/string.h"
 
 #include <algorithm>
 
 namespace quarn::asn1 {
 
-namespace {
-
-// Octets go from stream to stream in pieces of this size.
-constexpr std::uint64_t kPiece = 8192;
-
-constexpr std::uint32_t kMostUnusedBits = 7;
-
-Status note(const SegmentRules &rules, Status status, const Reader &in, int code) {
-  return code == 0 ? status : rules.unit.pass_on(status, in.ctx(), code, in.offset());
+StringValue *new_string(std::size_t count) {
+  auto *value = util::allocate<StringValue>(count);
+  if (value != nullptr) value->length = count;
+  return value;
 }
 
-// Walks the segments of one string. It recurses once for each level of segments in segments, up to
-// quarn_get_recursive_level(); nothing large may stand in its frames.
-class Segments {
- public:
-  Segments(const SegmentRules &rules, Reader &in, Sink &sink)
-      : rules_(rules), in_(in), sink_(sink) {}
-
-  Status content(int level, bool primitive, std::int64_t length) {
-    unused_bits_ = 0;
-    if (length == kIndefinite) {
-      return primitive ? fail(QUARN_ASN1_ERROR_INDEFINITE) : indefinite(level);
-    }
-    if (length < 0) return fail(QUARN_ASN1_ERROR_LENGTH);
-    const auto count = static_cast<std::uint64_t>(length);
-    return primitive ? octets(count) : definite(level, count);
-  }
-
-  // Those of the segment read last.
-  std::uint32_t unused_bits() const { return unused_bits_; }
-
- private:
-  Status fail(int code) { return rules_.unit.fail(in_.ctx(), code, in_.offset()); }
-
-  static bool at_limit(int level) { return level >= quarn_get_recursive_level(); }
-
-  Status octets(std::uint64_t count) {
-    if (rules_.counts_unused_bits) {
-      if (count == 0) return fail(QUARN_ASN1_ERROR_LENGTH);
-      std::uint8_t unused = 0;
-      if (const Status status = in_.octet(unused); !status) return status;
-      const bool has_octets = --count > 0;
-      if (unused > (has_octets ? kMostUnusedBits : 0)) return fail(QUARN_ASN1_ERROR_UNUSED_BITS);
-      unused_bits_ = unused;
-    }
-    return sink_.take(in_, count, rules_.unit);
-  }
-
-  Status indefinite(int level) {
-    if (at_limit(level)) return note(rules_, Status::too_deep(), in_, rules_.indefinite_code);
-    for (;;) {
-      const std::uint32_t unused_before = unused_bits_;
-      Segment segment{};
-      Status status = read_segment(rules_, in_, segment);
-      if (status && segment.is_end) return status;
-      if (status) status = content(level + 1, segment.primitive, segment.length);
-      if (status && unused_before != 0) status = fail(QUARN_ASN1_ERROR_UNUSED_BITS);
-      if (!status) return note(rules_, status, in_, rules_.indefinite_code);
-    }
-  }
-
-  Status definite(int level, std::uint64_t length) {
-    if (length == 0 && !rules_.empty_is_a_level) return Status::success();
-    if (at_limit(level)) return Status::too_deep();
-    const std::uint64_t start = in_.count();
-    while (in_.count() - start < length) {
-      if (unused_bits_ != 0) return fail(QUARN_ASN1_ERROR_UNUSED_BITS);
-      Segment segment{};
-      Status status = read_segment(rules_, in_, segment);
-      if (status && segment.is_end) status = Status::failure();
-      if (status) status = content(level + 1, segment.primitive, segment.length);
-      if (!status) return note(rules_, status, in_, rules_.definite_code);
-    }
-    return in_.count() - start == length ? Status::success() : fail(QUARN_ASN1_ERROR_LENGTH);
-  }
-
-  const SegmentRules &rules_;
-  Reader &in_;
-  Sink &sink_;
-  std::uint32_t unused_bits_ = 0;
-};
-
-// Reads the second octet of an end-of-contents.
-Status read_end(const SegmentRules &rules, Reader &in) {
-  std::uint8_t octet = 0;
-  if (const Status status = in.octet(octet); !status) {
-    return rules.cut_end_code == 0 ? Status::failure()
-                                   : note(rules, status, in, rules.cut_end_code);
-  }
-  return octet == 0 ? Status::success() : note(rules, Status::failure(), in, rules.bad_end_code);
+StringValue *new_string(const std::uint8_t *octets, std::size_t count) {
+  StringValue *value = new_string(count);
+  if (value != nullptr && count > 0) std::memcpy(value->octets(), octets, count);
+  return value;
 }
 
-}  // namespace
+bool measure_string(const StringValue &value, std::uint64_t &count) {
+  count = value.length;
+  if (value.stream == nullptr) return true;
+  return quarn_stream_ctrl(value.stream, QUARN_STREAM_LENGTH, &count, nullptr) == 1;
+}
 
-Status Sink::take(Reader &in, std::uint64_t count, const Unit &unit) {
-  if (buffer_ != nullptr) return in.octets(*buffer_, count, unit);
-  while (count > 0) {
-    const std::uint64_t step = std::min(count, kPiece);
-    if (!piece_.reserve(step)) return unit.fail(in.ctx(), QUARN_ERROR_NO_MEMORY, in.offset());
-    if (const Status status = in.octets(piece_.data(), step); !status) return status;
-    if (const Status status = writer_->octets(piece_.data(), step); !status) return status;
-    count -= step;
+Status Source::open(StringValue &value, const Unit &unit, quarn_err_ctx *ctx) {
+  if (value.stream == nullptr) {
+    own_ = quarn_stream_new_romem(value.octets(), static_cast<std::int64_t>(value.length), 0, ctx);
+    return own_ == nullptr ? Status::failure() : Status::success();
   }
+  own_ = quarn_memstream_dup_readonly(value.stream, ctx);
+  if (own_ != nullptr) return Status::success();
+  // Short of memory. A memory stream is not rewound: it may be the one that is being written.
+  if (quarn_stream_gettype(value.stream) == QUARN_STREAM_MEMORY) return Status::failure();
+  lent_ = value.stream;
+  if (quarn_stream_ctrl(lent_, QUARN_STREAM_REWIND, nullptr, nullptr) == 1) {
+    return Status::success();
+  }
+  return unit.fail(ctx, QUARN_STREAM_ERROR_REWIND);
+}
+
+bool Source::at_end() const {
+  return quarn_stream_ctrl(stream(), QUARN_STREAM_ATEND, nullptr, nullptr) == 1;
+}
+
+Status copy_string(StringValue &value, std::uint64_t count, std::uint8_t *out, const Unit &unit) {
+  if (value.stream == nullptr) {
+    if (count > 0) std::memcpy(out, value.octets(), count);
+    return Status::success();
+  }
+  Source source;
+  if (const Status status = source.open(value, unit, nullptr); !status) return status;
+  return Status::from(
+      quarn_stream_readn(source.stream(), out, static_cast<std::int64_t>(count), nullptr));
+}
+
+Status view_string(StringValue &value,
+                   std::uint64_t count,
+                   Buffer &storage,
+                   const std::uint8_t *&octets,
+                   const Unit &unit) {
+  octets = value.octets();
+  if (value.stream == nullptr) return Status::success();
+  Source source;
+  if (const Status status = source.open(value, unit, nullptr); !status) return status;
+  Reader in(source.stream(), nullptr);
+  const Status status = in.octets(storage, count, unit);
+  octets = storage.data();
+  return status;
+}
+
+Status read_string(StringValue *value,
+                   int mode,
+                   std::uint8_t *out,
+                   std::int64_t size,
+                   std::uint64_t *count,
+                   const Unit &unit,
+                   quarn_err_ctx *ctx) {
+  constexpr int kFromStart = 1;
+  constexpr int kGoOn = 2;
+  if (count != nullptr) *count = 0;
+  if (value == nullptr || (out == nullptr && size > 0)) return unit.fail(ctx, QUARN_ERROR_ARGUMENT);
+  if (mode != kFromStart && mode != kGoOn) return unit.fail(ctx, QUARN_STREAM_ERROR_OPERATION);
+  if (size < 0) return unit.fail(ctx, QUARN_ERROR_RANGE);
+  if (value->stream != nullptr) {
+    if (mode == kFromStart &&
+        quarn_stream_ctrl(value->stream, QUARN_STREAM_REWIND, nullptr, nullptr) != 1) {
+      return unit.fail(ctx, QUARN_STREAM_ERROR_REWIND);
+    }
+    return Status::from(quarn_stream_read(value->stream, out, size, count, ctx));
+  }
+  if (mode == kFromStart) value->position = 0;
+  const std::size_t step =
+      std::min(static_cast<std::size_t>(size), value->length - value->position);
+  if (step > 0) std::memcpy(out, value->octets() + value->position, step);
+  value->position += step;
+  if (count != nullptr) *count = step;
   return Status::success();
 }
 
-Status read_segment(const SegmentRules &rules, Reader &in, Segment &out) {
-  const Unit &unit = rules.unit;
-  Identifier identifier{};
-  Status status = read_identifier(in, identifier);
-  if (!status) return unit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_IDENTIFIER, in.offset());
-  out.is_end = identifier.is_end_of_contents();
-  if (out.is_end) return read_end(rules, in);
-  if (!identifier.is(kUniversal, static_cast<std::uint64_t>(rules.tag_number))) {
-    return unit.fail(in.ctx(), QUARN_ASN1_ERROR_ITEM, in.offset());
+Status decode_inside(
+    StringValue *value, std::int64_t type_id, void **object, const Unit &unit, quarn_err_ctx *ctx) {
+  if (value == nullptr || object == nullptr) return unit.fail(ctx, QUARN_ERROR_ARGUMENT);
+  *object = nullptr;
+  const Type *type = find_type(type_id);
+  if (type == nullptr) {
+    // Twice: as the failure of the decoder, and in place of the code of the type it was asked for.
+    return unit.pass_on(unit.fail(ctx, QUARN_ASN1_ERROR_TYPE), ctx, QUARN_ASN1_ERROR_TYPE);
   }
-  out.primitive = identifier.primitive;
-  status = read_length(in, out.length);
-  if (!status) return unit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_LENGTH, in.offset());
-  return status;
-}
-
-Status move_string(const SegmentRules &rules,
-                   Reader &in,
-                   bool primitive,
-                   std::int64_t length,
-                   Sink &sink,
-                   std::uint32_t &unused_bits) {
-  Segments segments(rules, in, sink);
-  const Status status = segments.content(0, primitive, length);
-  unused_bits = segments.unused_bits();
-  return status;
-}
-
-Status gather_octets(Reader &in, bool primitive, std::int64_t length, Buffer &out) {
-  Sink sink(out);
-  std::uint32_t unused_bits = 0;
-  return move_string(kOctetRules, in, primitive, length, sink, unused_bits);
+  const auto decode_from = [&](Reader &in) {
+    const Status status = decode(*type, in, object);
+    return status ? status : unit.pass_on(status, ctx, type->decode_error(), in.offset());
+  };
+  if (value->stream == nullptr) {
+    Reader in(value->octets(), value->length, ctx);
+    const Status status = decode_from(in);
+    if (!status || in.left() == 0) return status;
+    return unit.fail(ctx, QUARN_ASN1_ERROR_TRAILING, in.offset());
+  }
+  Source source;
+  Status status = source.open(*value, unit, ctx);
+  if (!status) return status;
+  Reader in(source.stream(), ctx);
+  status = decode_from(in);
+  in.settle();
+  if (!status || source.at_end()) return status;
+  return unit.fail(ctx, QUARN_ASN1_ERROR_TRAILING, in.offset());
 }
 
 }  // namespace quarn::asn1

@@ -1,0 +1,78 @@
+// Encodings and documents as text, for tests of the JSON mapping.
+#ifndef QUARN_TESTS_SUPPORT_JSON_H
+#define QUARN_TESTS_SUPPORT_JSON_H
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "quarn_asn1/json.h"
+
+namespace quarn::test {
+
+struct FreeJson {
+  void operator()(quarn_json *j) const { quarn_json_free(j); }
+};
+using Json = std::unique_ptr<quarn_json, FreeJson>;
+
+struct FreeBlob {
+  void operator()(quarn_data_blob *b) const { quarn_data_blob_free(b); }
+};
+using Blob = std::unique_ptr<quarn_data_blob, FreeBlob>;
+
+// Octets of hex with blanks anywhere.
+inline std::string from_hex(const std::string &hex) {
+  std::string octets;
+  std::string digits;
+  for (const char c : hex) {
+    if (c == ' ') continue;
+    digits += c;
+    if (digits.size() < 2) continue;
+    octets += static_cast<char>(std::stoi(digits, nullptr, 16));
+    digits.clear();
+  }
+  return octets;
+}
+
+inline std::string to_hex(const std::string &octets) {
+  constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string hex;
+  for (const char c : octets) {
+    hex += kDigits[static_cast<uint8_t>(c) >> 4];
+    hex += kDigits[static_cast<uint8_t>(c) & 15];
+  }
+  return hex;
+}
+
+inline Json parse(const std::string &text) {
+  return Json(quarn_json_parse(text.data(), text.size(), nullptr));
+}
+
+inline std::string printed(const Json &document) {
+  char *text = nullptr;
+  size_t length = 0;
+  if (quarn_json_print(document.get(), 0, &text, &length) != 1) return "null";
+  std::string result(text, length);
+  quarn_free(text);
+  return result;
+}
+
+inline Json to_json(const std::string &octets) {
+  return Json(quarn_asn1_tojson(reinterpret_cast<const uint8_t *>(octets.data()),
+                                static_cast<int64_t>(octets.size())));
+}
+
+// The document of octets as compact text, and the octets of a document as hex; "null" for none.
+inline std::string rendered(const std::string &octets) {
+  return printed(to_json(octets));
+}
+inline std::string encoded(const Json &document) {
+  const Blob blob(quarn_asn1_encodejson(document.get()));
+  if (blob == nullptr) return "null";
+  if (blob->length == 0) return "";
+  return to_hex({reinterpret_cast<const char *>(blob->data), static_cast<size_t>(blob->length)});
+}
+
+}  // namespace quarn::test
+
+#endif

@@ -1,0 +1,224 @@
+// BIT STRING: bits by number, unused bits, and what differs from OCTET STRING.
+#include <gtest/gtest.h>
+
+#include "quarn_asn1.h"
+#include "tests/support/store.h"
+#include "types/bitstring.h"
+
+namespace quarn::test {
+namespace {
+
+using Octets = std::vector<std::uint8_t>;
+using Codes = std::vector<int>;
+
+struct FreeBits {
+  void operator()(quarn_asn1_bitstring *v) const { quarn_asn1_value_free(3, v); }
+};
+using Bits = std::unique_ptr<quarn_asn1_bitstring, FreeBits>;
+
+Octets encoding_of(const Bits &value) {
+  quarn_data_blob *blob = quarn_asn1_mem_encode(3, value.get());
+  if (blob == nullptr) return {};
+  Octets octets(blob->data, blob->data + blob->length);
+  quarn_data_blob_free(blob);
+  return octets;
+}
+
+Bits decode(const Octets &octets) {
+  quarn_asn1_bitstring *value = nullptr;
+  const Stream s = memory_stream(octets);
+  quarn_asn1_decode_bitstring(s.get(), &value, nullptr, nullptr);
+  return Bits(value);
+}
+
+// A value over the store.
+Bits decode_into(const Octets &octets, quarn_stream *destination) {
+  quarn_asn1_bitstring *value = nullptr;
+  const Stream s = memory_stream(octets);
+  quarn_asn1_decode_bitstring_ex(s.get(), destination, &value, nullptr, nullptr);
+  return Bits(value);
+}
+
+Octets concatenation(std::initializer_list<Octets> parts) {
+  Octets all;
+  for (const Octets &part : parts) all.insert(all.end(), part.begin(), part.end());
+  return all;
+}
+
+TEST(BitString, named_bits_end_with_the_highest) {
+  const auto encode = [](std::initializer_list<std::int32_t> positions, std::int32_t count) {
+    return encoding_of(Bits(quarn_asn1_bitstring_newbits(positions.begin(), count)));
+  };
+  EXPECT_EQ(encode({0, 2, 9}, 3), (Octets{0x03, 3, 6, 0xA0, 0x40}));
+  EXPECT_EQ(encode({9, 2, 0, 2}, 4), (Octets{0x03, 3, 6, 0xA0, 0x40}));
+  EXPECT_EQ(encode({7}, 1), (Octets{0x03, 2, 0, 0x01}));
+  EXPECT_EQ(encode({0}, 1), (Octets{0x03, 2, 7, 0x80}));
+  EXPECT_EQ(encode({8}, 0), (Octets{0x03, 3, 7, 0x00, 0x80})) << "the first counts always";
+  EXPECT_EQ(encode({-1}, 0), Octets{});
+  EXPECT_EQ(encode({3, -1, 5}, 3), Octets{});
+  EXPECT_EQ(encode({3}, -1), Octets{});
+  EXPECT_EQ(encoding_of(Bits(quarn_asn1_bitstring_newbits(nullptr, 5))), (Octets{0x03, 1, 0}));
+}
+
+TEST(BitString, unused_bits_of_a_new_value_are_cleared) {
+  const std::uint8_t octets[] = {0xFF, 0xFF};
+  EXPECT_EQ(encoding_of(Bits(quarn_asn1_bitstring_new(3, octets, 2))),
+            (Octets{0x03, 3, 3, 0xFF, 0xF8}));
+  EXPECT_EQ(encoding_of(Bits(quarn_asn1_bitstring_new(0, nullptr, 0))), (Octets{0x03, 1, 0}));
+  EXPECT_EQ(quarn_asn1_bitstring_new(8, octets, 1), nullptr);
+  EXPECT_EQ(quarn_asn1_bitstring_new(1, octets, 0), nullptr);
+  EXPECT_EQ(quarn_asn1_bitstring_new(0, octets, -1), nullptr);
+  EXPECT_EQ(quarn_asn1_bitstring_new(0, nullptr, 1), nullptr);
+}
+
+TEST(BitString, bits_are_asked_by_number_and_unused_ones_are_not_there) {
+  const Octets octets{0x03, 3, 7, 0x41, 0x81};
+  Store store;
+  const Stream destination = store.stream();
+  for (const Bits &value : {decode(octets), decode_into(octets, destination.get())}) {
+    std::vector<std::int64_t> set;
+    for (std::int64_t i = -2; i < 20; i++) {
+      if (quarn_asn1_bitstring_getbit(value.get(), i) == 1) set.push_back(i);
+    }
+    EXPECT_EQ(set, (std::vector<std::int64_t>{1, 7, 8}));
+    EXPECT_EQ(quarn_asn1_bitstring_getbit(value.get(), INT64_MAX), 0);
+    std::uint8_t octet = 0;
+    std::uint64_t count = 0;
+    EXPECT_EQ(quarn_asn1_bitstring_getbit(value.get(), 1), 1);
+    EXPECT_EQ(quarn_asn1_bitstring_get(value.get(), 2, &octet, 1, &count, nullptr), 1);
+    EXPECT_EQ(octet, 0x81) << "reading goes on behind the octet of the bit";
+    std::uint32_t unused = 0;
+    EXPECT_EQ(quarn_asn1_bitstring_getunusedbits(value.get(), &unused), 1);
+    EXPECT_EQ(unused, 7u);
+    EXPECT_EQ(quarn_asn1_bitstring_getlength(value.get()), 2);
+    Octets all(2);
+    EXPECT_EQ(quarn_asn1_bitstring_getall(value.get(), all.data()), 1);
+    EXPECT_EQ(all, (Octets{0x41, 0x81}));
+  }
+  EXPECT_EQ(quarn_asn1_bitstring_getbit(nullptr, 0), 0);
+  EXPECT_EQ(quarn_asn1_bitstring_getlength(nullptr), QUARN_ASN1_NO_LENGTH);
+  EXPECT_EQ(quarn_asn1_bitstring_getlength(decode({0x03, 1, 0}).get()), 0);
+}
+
+TEST(BitString, bit_sets_go_both_ways) {
+  for (const Octets &octets : {Octets{0x03, 1, 0}, Octets{0x03, 3, 6, 0xA0, 0x40}}) {
+    quarn_bitset *set = quarn_asn1_bitstring_getbitset(decode(octets).get());
+    ASSERT_NE(set, nullptr);
+    EXPECT_EQ(encoding_of(Bits(quarn_asn1_bitstring_newbitset(set))), octets);
+    quarn_bitset_free(set);
+  }
+  EXPECT_EQ(quarn_asn1_bitstring_newbitset(nullptr), nullptr);
+  EXPECT_EQ(quarn_asn1_bitstring_getbitset(nullptr), nullptr);
+}
+
+TEST(BitString, a_key_inside_is_decoded_and_what_follows_it_refused) {
+  const Context ctx(quarn_err_ctx_new());
+  void *object = nullptr;
+  const Bits value = decode({0x03, 5, 0, 0x04, 1, 7, 9});
+  EXPECT_EQ(quarn_asn1_bitstring_getobject(value.get(), 4, &object, ctx.get()), 0);
+  EXPECT_EQ(codes_in(ctx.get()), Codes{0x1027f});
+  EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 0)->file, "QUARN_ASN1_BitString");
+  EXPECT_EQ(quarn_asn1_length(4, object), 3);
+  quarn_asn1_value_free(4, object);
+}
+
+TEST(BitString, only_the_last_segment_has_the_unused_bits) {
+  const Octets encoding = concatenation({{0x03, 0x82, 0x27, 0x11, 3}, Octets(10000, 0xF8)});
+  Store store;
+  const Stream stream = store.stream();
+  const Bits value = decode_into(encoding, stream.get());
+  EXPECT_EQ(encoding_of(value), encoding) << "of known length";
+  store.knows_length = false;
+  EXPECT_EQ(quarn_asn1_bitstring_getlength(value.get()), QUARN_ASN1_INDEFINITE);
+  EXPECT_EQ(quarn_asn1_bitstring_getbit(value.get(), 0), 0);
+  EXPECT_EQ(quarn_asn1_bitstring_getall(value.get(), store.octets.data()), 0);
+  const Octets segments = concatenation({{0x23, 0x80, 0x03, 0x82, 0x20, 0x01, 0},
+                                         Octets(8192, 0xF8),
+                                         {0x03, 0x82, 0x07, 0x11, 3},
+                                         Octets(1808, 0xF8),
+                                         {0, 0}});
+  EXPECT_EQ(encoding_of(value), segments);
+  EXPECT_EQ(encoding_of(value), segments) << "once more";
+  store.octets.clear();
+  store.size = 0;
+  EXPECT_EQ(encoding_of(value), (Octets{0x23, 0x80, 0, 0})) << "no segment of no octets";
+}
+
+TEST(BitString, lengths_that_do_not_fit_are_refused) {
+  const Context ctx(quarn_err_ctx_new());
+  Store store;
+  const Stream stream = store.stream();
+  const Bits value = decode_into({0x03, 2, 0, 0xFF}, stream.get());
+  const auto encode = [&](std::int64_t length) {
+    const Stream s(quarn_stream_new_mem(0, nullptr));
+    return quarn_asn1_encode_content(s.get(), 3, value.get(), length, nullptr, ctx.get());
+  };
+  for (const std::int64_t length : {-2, 0, 1, 3}) EXPECT_EQ(encode(length), 0);
+  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10001, 0x10001, 0x10004, 0x10004}));
+  store.claimed = INT64_MAX;
+  EXPECT_EQ(quarn_asn1_length(3, value.get()), QUARN_ASN1_NO_LENGTH) << "one octet more is written";
+  EXPECT_EQ(quarn_asn1_encode(stream.get(), 3, value.get(), nullptr, ctx.get()), 0);
+  EXPECT_EQ(codes_in(ctx.get()).back(), 0x10203);
+}
+
+TEST(BitString, an_end_of_contents_in_its_place_fails_without_a_word) {
+  const Context ctx(quarn_err_ctx_new());
+  for (const Octets &octets : {Octets{0, 0}, Octets{0x23, 2, 0, 0}}) {
+    void *value = &value;
+    EXPECT_EQ(quarn_asn1_decode(memory_stream(octets).get(), 3, &value, nullptr, ctx.get()), 0);
+    EXPECT_EQ(value, nullptr);
+  }
+  EXPECT_EQ(codes_in(ctx.get()), Codes{});
+}
+
+TEST(BitString, too_many_levels_are_named_by_each_layer_of_indefinite_length) {
+  const auto nested = [](std::size_t levels, const Octets &inner) {
+    Octets octets;
+    for (std::size_t i = 0; i < levels; i++) octets.insert(octets.end(), {0x23, 0x80});
+    octets.insert(octets.end(), inner.begin(), inner.end());
+    octets.resize(octets.size() + 2 * levels);
+    return octets;
+  };
+  const struct {
+    Octets octets;
+    int result;
+    std::size_t records;
+  } cases[] = {{nested(127, {0x23, 0}), 1, 0},
+               {nested(128, {0x23, 0}), 0x10008, 128},
+               {nested(129, {}), 0x10008, 129}};
+  for (const auto &c : cases) {
+    const Context ctx(quarn_err_ctx_new());
+    void *value = nullptr;
+    const Stream s = memory_stream(c.octets);
+    EXPECT_EQ(quarn_asn1_decode(s.get(), 3, &value, nullptr, ctx.get()), c.result);
+    EXPECT_EQ(codes_in(ctx.get()), Codes(c.records, 0x10214));
+    quarn_asn1_value_free(3, value);
+  }
+}
+
+// Everything that allocates or calls a stream; true when all of it succeeded.
+bool exercise(Store &from, Store &content) {
+  const Stream source = from.stream();
+  const Stream held = content.stream();
+  if (source == nullptr || held == nullptr) return false;
+  quarn_asn1_bitstring *over = nullptr;
+  const int decoded =
+      quarn_asn1_decode_bitstring_ex(source.get(), held.get(), &over, nullptr, nullptr);
+  const Bits value(over);
+  if (decoded != 1 || encoding_of(value).empty()) return false;
+  quarn_bitset *set = nullptr;
+  if (content.knows_length) set = quarn_asn1_bitstring_getbitset(over);
+  const Bits copy(set == nullptr ? nullptr : quarn_asn1_bitstring_newbitset(set));
+  quarn_bitset_free(set);
+  const std::int32_t bits[] = {3};
+  const Bits named(quarn_asn1_bitstring_newbits(bits, 1));
+  return named != nullptr && (copy != nullptr || !content.knows_length);
+}
+
+TEST(BitString, every_failing_call_is_a_failure_and_leaves_nothing) {
+  const Octets octets{0x23, 0x80, 0x03, 2, 0, 1, 0x23, 4, 0x03, 2, 4, 0xF0, 0, 0};
+  for (const bool knows_length : {true, false}) fail_each_call(octets, knows_length, exercise);
+}
+
+}  // namespace
+}  // namespace quarn::test

@@ -1,0 +1,168 @@
+// INTEGER and ENUMERATED values: numbers, octets, big integers and order.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+#include "quarn_asn1.h"
+#include "tests/support/allocation.h"
+
+namespace quarn::test {
+namespace {
+
+using Octets = std::vector<std::uint8_t>;
+
+struct FreeInteger {
+  void operator()(quarn_asn1_integer *v) const { quarn_asn1_value_free(QUARN_ASN1_INTEGER, v); }
+};
+using Integer = std::unique_ptr<quarn_asn1_integer, FreeInteger>;
+
+Octets octets_of(const Integer &v) {
+  Octets octets(static_cast<std::size_t>(quarn_asn1_integer_getlength(v.get())));
+  EXPECT_EQ(quarn_asn1_integer_get(v.get(), octets.data()), 1);
+  return octets;
+}
+
+Integer decoded(Octets content) {
+  content.insert(content.begin(), {0x02, static_cast<std::uint8_t>(content.size())});
+  void *value = nullptr;
+  quarn_asn1_mem_decode(content.data(), static_cast<std::int64_t>(content.size()),
+                        QUARN_ASN1_INTEGER, &value);
+  return Integer(static_cast<quarn_asn1_integer *>(value));
+}
+
+Integer from_octets(const Octets &octets) {
+  return Integer(quarn_asn1_integer_new(octets.data(), static_cast<std::int64_t>(octets.size())));
+}
+
+// The fewest octets whose two's complement range holds n.
+Octets minimal(std::int64_t n) {
+  std::size_t count = 1;
+  while (count < 8 &&
+         (n < -(std::int64_t{1} << (8 * count - 1)) || n >= std::int64_t{1} << (8 * count - 1))) {
+    count++;
+  }
+  Octets octets(count);
+  for (std::size_t i = 0; i < count; i++) {
+    octets[i] = static_cast<std::uint8_t>(n >> (8 * (count - 1 - i)));
+  }
+  return octets;
+}
+
+void expect_number(std::int64_t n) {
+  const Integer v(quarn_asn1_integer_value(n));
+  ASSERT_EQ(octets_of(v), minimal(n)) << n;
+  std::int64_t back = 77;
+  ASSERT_EQ(quarn_asn1_integer_getlong(v.get(), &back), n == INT64_MIN ? 0 : 1) << n;
+  ASSERT_EQ(back, n == INT64_MIN ? 77 : n);
+}
+
+TEST(Integer, numbers_have_their_fewest_octets_and_come_back) {
+  for (std::int64_t n = -70000; n <= 70000; n++) expect_number(n);
+  for (int bit = 16; bit < 63; bit++) {
+    for (const std::int64_t near : {-2, -1, 0, 1, 2}) {
+      expect_number((std::int64_t{1} << bit) + near);
+      expect_number(-(std::int64_t{1} << bit) + near);
+    }
+  }
+  for (const std::int64_t n : {INT64_MAX, INT64_MIN, INT64_MIN + 1}) expect_number(n);
+}
+
+TEST(Integer, every_content_of_two_octets_is_the_number_it_says) {
+  for (int high = 0; high < 256; high++) {
+    for (int low = 0; low < 256; low++) {
+      const Integer v = decoded({static_cast<std::uint8_t>(high), static_cast<std::uint8_t>(low)});
+      std::int64_t n = 0;
+      ASSERT_EQ(quarn_asn1_integer_getlong(v.get(), &n), 1);
+      ASSERT_EQ(n, static_cast<std::int16_t>(high << 8 | low));
+    }
+  }
+}
+
+TEST(Integer, numbers_beyond_64_bits_are_refused_and_superfluous_octets_are_not) {
+  Octets padded(40, 0xFF);
+  padded.back() = 0xFE;
+  std::int64_t n = 77;
+  EXPECT_EQ(quarn_asn1_enum_getlong(decoded(padded).get(), &n), 1);
+  EXPECT_EQ(n, -2);
+  for (const Octets &content :
+       {Octets{0x00, 0x80, 0, 0, 0, 0, 0, 0, 0}, Octets{0x80, 0, 0, 0, 0, 0, 0, 0},
+        Octets{0xFF, 0x80, 0, 0, 0, 0, 0, 0, 0}, Octets{0xFF, 0x7F, 0, 0, 0, 0, 0, 0, 0},
+        Octets{0x01, 0, 0, 0, 0, 0, 0, 0, 0}, Octets(40, 0x80)}) {
+    EXPECT_EQ(quarn_asn1_integer_getlong(decoded(content).get(), &n), 0);
+    EXPECT_EQ(n, -2) << "untouched";
+  }
+}
+
+TEST(Integer, octets_are_stripped_to_the_sign_bit) {
+  EXPECT_EQ(octets_of(from_octets({0, 0, 1})), (Octets{1}));
+  EXPECT_EQ(octets_of(from_octets({0xFF, 0xFF, 0x80})), (Octets{0x80}));
+  EXPECT_EQ(octets_of(from_octets({0, 0, 0x80})), (Octets{0, 0x80}));
+  EXPECT_EQ(octets_of(from_octets({0xFF, 0x7F})), (Octets{0xFF, 0x7F}));
+  EXPECT_EQ(octets_of(from_octets({0, 0})), (Octets{0}));
+  EXPECT_EQ(octets_of(from_octets({0xFF, 0xFF})), (Octets{0xFF}));
+  const auto magnitude = [](const Octets &octets) {
+    return octets_of(Integer(
+        quarn_asn1_unsigned_integer_new(octets.data(), static_cast<std::int64_t>(octets.size()))));
+  };
+  EXPECT_EQ(magnitude({0x80}), (Octets{0, 0x80}));
+  EXPECT_EQ(magnitude({0, 0, 0x85}), (Octets{0, 0x85}));
+  EXPECT_EQ(magnitude({0, 0, 0}), (Octets{0}));
+  EXPECT_EQ(magnitude({0, 0x7F, 0xFF}), (Octets{0x7F, 0xFF}));
+  EXPECT_EQ(magnitude({0xFF, 0xFF}), (Octets{0, 0xFF, 0xFF}));
+}
+
+TEST(Integer, order_is_that_of_encodings) {
+  const Integer minus_one = from_octets({0xFF});
+  const Integer most = from_octets({0x7F});
+  const Integer larger = from_octets({1, 0});
+  const auto order = [](const Integer &a, const Integer &b) {
+    const int result = quarn_asn1_integer_encodecmp(a.get(), b.get());
+    EXPECT_EQ(quarn_asn1_integer_encodecmp(b.get(), a.get()), -result);
+    EXPECT_EQ(quarn_asn1_integer_equals(a.get(), b.get()), result == 0 ? 1 : 0);
+    return result;
+  };
+  EXPECT_EQ(order(larger, minus_one), 1) << "longer is greater";
+  EXPECT_EQ(order(most, minus_one), -1) << "octets count without a sign";
+  EXPECT_EQ(order(most, from_octets({0, 0x7F})), 0);
+  EXPECT_EQ(order(nullptr, most), -1);
+  EXPECT_EQ(order(nullptr, nullptr), 0);
+}
+
+TEST(Integer, null_arguments_are_answered) {
+  const std::uint8_t octet = 1;
+  std::uint8_t buffer = 0;
+  std::int64_t n = 0;
+  const Integer v = from_octets({1});
+  EXPECT_EQ(quarn_asn1_integer_new(nullptr, 1), nullptr);
+  EXPECT_EQ(quarn_asn1_integer_new(&octet, 0), nullptr);
+  EXPECT_EQ(quarn_asn1_unsigned_integer_new(&octet, -1), nullptr);
+  EXPECT_EQ(quarn_asn1_unsigned_integer_new(nullptr, 1), nullptr);
+  EXPECT_EQ(quarn_asn1_integer_newbigint(nullptr), nullptr);
+  EXPECT_EQ(quarn_asn1_integer_getbigintger(nullptr, nullptr), nullptr);
+  EXPECT_EQ(quarn_asn1_integer_getlength(nullptr), -2);
+  EXPECT_EQ(quarn_asn1_length(QUARN_ASN1_INTEGER, nullptr), -2);
+  EXPECT_EQ(quarn_asn1_integer_get(nullptr, &buffer), 0);
+  EXPECT_EQ(quarn_asn1_integer_get(v.get(), nullptr), 0);
+  EXPECT_EQ(quarn_asn1_integer_getlong(nullptr, &n), 0);
+  EXPECT_EQ(quarn_asn1_integer_getlong(v.get(), nullptr), 0);
+}
+
+TEST(Integer, big_integers_go_in_and_out_whatever_allocation_fails) {
+  fail_each_allocation([](Allocation &allocation) {
+    const Integer v = from_octets(Octets(30, 0x85));
+    quarn_biginteger *big = quarn_asn1_integer_getbigintger(v.get(), nullptr);
+    const Integer back(quarn_asn1_integer_newbigint(big));
+    quarn_biginteger_free(big);
+    const std::uint8_t magnitude = 0x80;
+    const Integer other(quarn_asn1_unsigned_integer_new(&magnitude, 1));
+    const bool made = back != nullptr && other != nullptr;
+    EXPECT_EQ(made, !allocation.failed());
+    if (back != nullptr) {
+      EXPECT_EQ(octets_of(back), Octets(30, 0x85));
+    }
+  });
+}
+
+}  // namespace
+}  // namespace quarn::test

@@ -1,0 +1,495 @@
+// The JSON mapping: what each element renders as, what each document writes, and what both refuse.
+// Expected octets and documents are worked out by hand from X.690.
+#include <gtest/gtest.h>
+
+#include <string_view>
+
+#include "tests/support/allocation.h"
+#include "tests/support/handles.h"
+#include "tests/support/json.h"
+#include "tests/support/thread.h"
+
+namespace quarn::test {
+namespace {
+
+struct Pair {
+  const char *hex;
+  const char *json;
+};
+
+std::string repeat(std::size_t count, std::string_view text) {
+  std::string result;
+  result.reserve(count * text.size());
+  for (std::size_t i = 0; i < count; i++) result += text;
+  return result;
+}
+
+// count definite lengths around inner, each of six octets of header.
+std::string nested(std::size_t count, char identifier, const std::string &inner) {
+  std::string result;
+  for (std::size_t left = count; left > 0; left--) {
+    const std::size_t length = 6 * (left - 1) + inner.size();
+    result += {identifier, '\x84'};
+    for (int shift = 24; shift >= 0; shift -= 8) result += static_cast<char>(length >> shift);
+  }
+  return result + inner;
+}
+
+std::string without_blanks(std::string hex) {
+  std::erase(hex, ' ');
+  return hex;
+}
+
+TEST(Json, elements_render_and_come_back) {
+  const Pair kPairs[] = {
+      {"30 00", R"({"type":"SEQUENCE","value":[]})"},
+      {"30 80 00 00", R"({"type":"SEQUENCE","indefinite":true,"value":[]})"},
+      {"31 80 0500 0000", R"({"type":"SETOF","indefinite":true,"value":[{"type":"NULL"}]})"},
+      {"01 01 00", R"({"type":"BOOLEAN","value":false})"},
+      {"02 01 00", R"({"type":"INTEGER","value":0})"},
+      {"0A 04 80000000", R"({"type":"ENUM","value":-2147483648})"},
+      {"02 04 7FFFFFFF", R"({"type":"INTEGER","value":2147483647})"},
+      {"02 05 0080000000", R"({"type":"INTEGER","value":"0X80000000"})"},
+      {"02 05 FF7FFFFFFF", R"({"type":"INTEGER","value":"-0X80000001"})"},
+      {"02 05 FF00000000", R"({"type":"INTEGER","value":"-0X0100000000"})"},
+      {"02 05 8000000000", R"({"type":"INTEGER","value":"-0X8000000000"})"},
+      {"0A 03 FFFF80", R"({"type":"ENUM","user defined":{"content":"FFFF80","length":3}})"},
+      {"03 01 00", R"({"type":"BITSTRING","value":{"unused bits":0,"value":""}})"},
+      {"03 02 07 FF", R"({"type":"BITSTRING","value":{"unused bits":7,"value":"FF"}})"},
+      {"04 00", R"({"type":"OCTETSTRING","value":""})"},
+      {"06 03 883703", R"({"type":"OID","value":"2.999.3"})"},
+      {"0D 03 813403", R"({"type":"ROID","value":"180.3"})"},
+      {"0C 05 E282AC 00 1F", R"({"type":"UTF8STRING","value":"€\u0000\u001f"})"},
+      {"13 02 61FF", R"({"type":"PRINTABLESTRING","user defined":{"content":"61FF","length":2}})"},
+      {"14 02 C1E9", R"({"type":"TELETEXSTRING","value":"C1E9"})"},
+      {"17 0B 323030313031313230305A", R"({"type":"UTCTIME","value":"2001011200Z"})"},
+      {"18 11 32303136313233313233353936302C305A",
+       R"({"type":"GENTIME","value":"20161231235960,0Z"})"},
+      {"1C 08 0001F600 00000041", R"({"type":"UNIVERSALSTRING","value":"😀A"})"},
+      {"1C 04 0000D800",
+       R"({"type":"UNIVERSALSTRING","user defined":{"content":"0000D800","length":4}})"},
+      {"1C 04 00110000",
+       R"({"type":"UNIVERSALSTRING","user defined":{"content":"00110000","length":4}})"},
+      {"1E 06 007E 07FF 0800", R"({"type":"BMPSTRING","value":"~߿ࠀ"})"},
+      {"1E 03 004100", R"({"type":"BMPSTRING","user defined":{"content":"004100","length":3}})"},
+      {"1E 02 D83D", R"({"type":"BMPSTRING","user defined":{"content":"D83D","length":2}})"},
+      {"37 80 04 01 32 0000", R"({"type":"UTCTIME","constructed":true,"indefinite":true,)"
+                              R"("value":[{"type":"OCTETSTRING","value":"32"}]})"},
+      {"07 01 41",
+       R"({"type":"UNKNOWN","user defined":{"content":"070141","identifier":"","length":""}})"},
+      {"1F 22 00",
+       R"({"type":"UNKNOWN","user defined":{"content":"1F2200","identifier":"","length":""}})"},
+      {"A0 00", R"({"type":"TAGGEDTYPE","class":"CONTEXT","implicit":true,"number":0,)"
+                R"("value":{"type":"SEQUENCE","value":[]}})"},
+      {"E1 80 0000", R"({"type":"TAGGEDTYPE","class":"PRIVATE","implicit":true,"number":1,)"
+                     R"("value":{"type":"SEQUENCE","indefinite":true,"value":[]}})"},
+      {"A0 80 0500 0500 0000",
+       R"({"type":"TAGGEDTYPE","class":"CONTEXT","implicit":true,"number":0,"value":)"
+       R"({"type":"SEQUENCE","indefinite":true,"value":[{"type":"NULL"},{"type":"NULL"}]}})"},
+      {"A0 80 0500 0000",
+       R"({"type":"TAGGEDTYPE","class":"CONTEXT","implicit":false,"indefinite":true,)"
+       R"("number":0,"value":{"type":"NULL"}})"},
+      {"DF 87FFFFFF7F 00",
+       R"({"type":"TAGGEDTYPE","class":"PRIVATE","implicit":true,"number":2147483647,)"
+       R"("value":{"type":"OCTETSTRING","value":""}})"},
+  };
+  for (const Pair &pair : kPairs) {
+    SCOPED_TRACE(pair.json);
+    const std::string octets = from_hex(pair.hex);
+    EXPECT_EQ(rendered(octets), pair.json);
+    EXPECT_EQ(encoded(to_json(octets)), without_blanks(pair.hex));
+  }
+}
+
+// The document has no place for what makes these encodings special.
+TEST(Json, some_elements_render_and_come_back_otherwise) {
+  const struct {
+    const char *hex;
+    const char *json;
+    const char *again;
+  } kCases[] = {
+      {"30 8100", R"({"type":"SEQUENCE","value":[]})", "3000"},
+      {"06 02 2A86", R"({"type":"OID","value":"1.2"})", "06012A"},
+      {"06 01 86", R"({"type":"OID","value":""})", "null"},
+      // The constructed form of a type without a name, and its primitive form of indefinite length.
+      {"28 02 0500",
+       R"({"type":"UNKNOWN","user defined":{"identifier":"28"},"constructed":true,)"
+       R"("value":[{"type":"NULL"}]})",
+       "null"},
+      {"1F1F 80 0000",
+       R"({"type":"UNKNOWN","user defined":{"identifier":"3F1F"},"constructed":true,)"
+       R"("indefinite":true,"value":[]})",
+       "null"},
+  };
+  for (const auto &c : kCases) {
+    SCOPED_TRACE(c.hex);
+    EXPECT_EQ(rendered(from_hex(c.hex)), c.json);
+    EXPECT_EQ(encoded(to_json(from_hex(c.hex))), c.again);
+  }
+}
+
+TEST(Json, octets_that_are_no_encoding_have_no_document) {
+  const char *const kHex[] = {
+      "05 00 00",  // an octet too many
+      "05",
+      "05 01",
+      "30 03 0500",
+      "9F",
+      "00 00",
+      "30 02 0000",
+      "30 80 0500",
+      "30 80 00",
+      "30 80 00 01",
+      "A0 02 0000",  // a tag around nothing but an end-of-contents
+      "A0 04 0500 0000",
+      "30 05 30 80 0500 00",  // the inner end lies outside
+      "30 04 04 03 0000 00",  // an element longer than its container
+      "30 02 05 8100",
+      "30 01 05 00",  // the header runs out of its container
+      "01 00",
+      "01 02 FFFF",
+      "02 00",
+      "05 01 00",
+      "03 00",
+      "03 01 01",
+      "03 02 08 00",
+      "06 00",
+      "06 02 8001",
+      "17 00",
+      "17 03 323030",
+      "18 0F 3230303031303131323030303058",
+      "22 03 020105",  // forms that tags do not have
+      "2F 00",
+      "0F 00",
+      "1D 00",
+      "10 00",
+      "08 00",
+      "3F23 00",
+      "1F23 00",
+      "3F1F 00",
+      "20 00",
+      "04 80 0000",
+      "80 80 0000",
+      "1E 80 0000",        // primitives of indefinite length
+      "DF 8880808000 00",  // tag number 2^31
+  };
+  for (const char *hex : kHex) EXPECT_EQ(rendered(from_hex(hex)), "null") << hex;
+  EXPECT_EQ(quarn_asn1_tojson(nullptr, 1), nullptr);
+  EXPECT_EQ(quarn_asn1_tojson(octets_of("\x05"), 0), nullptr);
+}
+
+// Only layers that follow each other directly count: definite content starts afresh, and the last
+// layer may be empty.
+TEST(Json, indefinite_lengths_nest_to_the_limit) {
+  const auto layers = [](int count, const std::string &header, const std::string &inner) {
+    const auto n = static_cast<std::size_t>(count);
+    return repeat(n, header) + inner + std::string(2 * n, '\0');
+  };
+  const int limit = quarn_get_recursive_level();
+  const std::string null("\x05\0", 2);
+  for (const std::string header : {"\x30\x80", "\xA0\x80", "\x07\x80"}) {
+    EXPECT_NE(rendered(layers(limit - 1, header, null)), "null");
+    EXPECT_NE(rendered(layers(limit, header, "")), "null");
+    EXPECT_EQ(rendered(layers(limit, header, null)), "null");
+    EXPECT_EQ(rendered(layers(limit + 1, header, "")), "null");
+    const std::string inner = nested(1, '\x31', layers(limit, header, ""));
+    EXPECT_NE(rendered(layers(limit - 1, header, inner)), "null");
+  }
+}
+
+TEST(Json, documents_write_octets) {
+  const Pair kPairs[] = {
+      // Numbers.
+      {"02 02 FF00", R"({"type":"INTEGER","value":"-0X0100"})"},
+      {"02 01 00", R"({"type":"INTEGER","value":"-0"})"},
+      {"02 01 00", R"({"type":"INTEGER","value":"-0x0000"})"},
+      {"02 01 80", R"({"type":"INTEGER","value":"-0x0080"})"},
+      {"02 03 FF7FFF", R"({"type":"INTEGER","value":"-0x8001"})"},
+      {"02 02 00FF", R"({"type":"INTEGER","value":"0xfF"})"},
+      {"02 02 0080", R"({"type":"INTEGER","value":"128"})"},
+      {"02 09 FF0000000000000000", R"({"type":"INTEGER","value":"-18446744073709551616"})"},
+      {"02 08 8000000000000000", R"({"type":"INTEGER","value":-9223372036854775808})"},
+      {"02 01 05", R"({"type":"INTEGER","value":5.0})"},
+      // Strings.
+      {"03 01 00", R"({"type":"BITSTRING","value":[false]})"},
+      {"03 01 00", R"({"type":"BITSTRING","value":[]})"},
+      {"03 03 00 8001", R"({"type":"BITSTRING","value":[true,false,false,false,false,false,)"
+                        R"(false,false,false,false,false,false,false,false,false,true,false]})"},
+      {"1E 04 0041 20AC", R"({"type":"BMPSTRING","value":"A€"})"},
+      {"14 01 AB", R"({"type":"T61STRING","value":"ab"})"},
+      {"17 01 3F", R"({"type":"UTCTIME","value":"?"})"},
+      // Forms and lengths.
+      {"04 80 0500 0000", R"({"type":"OCTETSTRING","indefinite":true,"value":[{"type":"NULL"}]})"},
+      {"24 02 0500", R"({"type":"OCTETSTRING","constructed":true,"value":[{"type":"NULL"}]})"},
+      {"05 00", R"({"type":"NULL","indefinite":true,"constructed":1,"value":7})"},
+      {"30 00", R"({"type":"SEQUENCEOF","indefinite":"true","value":[]})"},
+      // Tags.
+      {"A3 03 020105", R"({"type":"TAGGEDTYPE","number":3,"value":{"type":"INTEGER","value":5}})"},
+      {"3F 8100 00", R"({"type":"TAGGEDTYPE","class":"UNIVERSAL","number":128,"implicit":true,)"
+                     R"("value":{"type":"SEQUENCE","value":[]}})"},
+      {"81 01 FF",
+       R"({"type":"TAGGEDTYPE","number":1,"implicit":true,"indefinite":true,"constructed":true,)"
+       R"("value":{"type":"TAGGEDTYPE","implicit":true,"value":{"type":"BOOLEAN","value":true,)"
+       R"("user defined":{"identifier":"05","content":"00"}}}})"},
+      {"A1 80 0500 0000",
+       R"({"type":"TAGGEDTYPE","number":1,"implicit":true,"value":{"type":"TAGGEDTYPE",)"
+       R"("indefinite":true,"value":{"type":"NULL"}}})"},
+      {"A1 00", R"({"type":"TAGGEDTYPE","number":1,"implicit":true,"value":)"
+                R"({"type":"OCTETSTRING","constructed":true,"value":[]}})"},
+      {"A1 02 0500", R"({"type":"TAGGEDTYPE","number":1,"implicit":true,)"
+                     R"("user defined":{"length":2,"content":"0500"}})"},
+      // Overrides.
+      {"01 01 AABB", R"({"type":"BOOLEAN","user defined":{"content":"AABB"}})"},
+      {"02 01 FFFF", R"({"type":"INTEGER","value":5,"user defined":{"content":"ffff"}})"},
+      {"30 04 AA", R"({"type":"SEQUENCE","value":[{"type":"NULL"},{"type":"NULL"}],)"
+                   R"("user defined":{"content":"AA"}})"},
+      {"30 80 AA 0000", R"({"type":"SEQUENCE","indefinite":true,"user defined":{"content":"AA"}})"},
+      {"30 81FF 0500 0F", R"({"type":"SEQUENCE","indefinite":true,"value":[{"type":"NULL"}],)"
+                          R"("user defined":{"length":255,"end of contents":"0F"}})"},
+      {"05 8100", R"({"type":"NULL","user defined":{"length":"8100"}})"},
+      {"", R"({"user defined":{"identifier":"","length":"","content":""}})"},
+      {"05 00", R"({"type":"NULL","user defined":["identifier"]})"},
+  };
+  for (const Pair &pair : kPairs) {
+    SCOPED_TRACE(pair.json);
+    EXPECT_EQ(encoded(parse(pair.json)), without_blanks(pair.hex));
+  }
+}
+
+TEST(Json, documents_that_describe_nothing_are_refused) {
+  const char *const kDocuments[] = {
+      "null",
+      "[]",
+      "5",
+      "{}",
+      R"({"type":5})",
+      R"({"type":"Integer"})",
+      R"({"type":"UNKNOWN"})",
+      R"({"type":"BOOLEAN"})",
+      R"({"type":"BOOLEAN","value":1})",
+      R"({"type":"INTEGER"})",
+      R"({"type":"INTEGER","value":2.5})",
+      R"({"type":"INTEGER","value":1e19})",
+      R"({"type":"INTEGER","value":true})",
+      R"({"type":"INTEGER","value":""})",
+      R"({"type":"INTEGER","value":"-"})",
+      R"({"type":"INTEGER","value":"0X"})",
+      R"({"type":"INTEGER","value":"0X123"})",
+      R"({"type":"INTEGER","value":"0X1G"})",
+      R"({"type":"INTEGER","value":"--5"})",
+      R"({"type":"INTEGER","value":"5\u0000"})",
+      R"({"type":"INTEGER","value":"1234567890123456789\u0000"})",
+      R"({"type":"OCTETSTRING","value":"ABC"})",
+      R"({"type":"OCTETSTRING","value":"A "})",
+      R"({"type":"OCTETSTRING","value":[]})",
+      R"({"type":"OCTETSTRING","constructed":true,"value":"AA"})",
+      R"({"type":"BITSTRING","value":"AA"})",
+      R"({"type":"BITSTRING","value":[true,0]})",
+      R"({"type":"BITSTRING","value":{"value":"AA"}})",
+      R"({"type":"BITSTRING","value":{"unused bits":8,"value":"AA"}})",
+      R"({"type":"BITSTRING","value":{"unused bits":0.5,"value":"AA"}})",
+      R"({"type":"BITSTRING","value":{"unused bits":1,"value":""}})",
+      R"({"type":"OID","value":"3.1"})",
+      R"({"type":"OID"})",
+      R"({"type":"ROID","value":""})",
+      R"({"type":"UTF8STRING","value":5})",
+      R"({"type":"BMPSTRING","value":"😀"})",
+      R"({"type":"SEQUENCE"})",
+      R"({"type":"SEQUENCE","value":{}})",
+      R"({"type":"SEQUENCE","value":[null]})",
+      R"({"type":"SET","indefinite":true})",
+      R"({"type":"REAL"})",
+      R"({"type":"REAL","user defined":{"length":1}})",
+      R"({"type":"REAL","user defined":{"content":"40"}})",
+      R"({"type":"TAGGEDTYPE","number":0})",
+      R"({"type":"TAGGEDTYPE","value":{"type":"NULL"}})",
+      R"({"type":"TAGGEDTYPE","number":-1,"value":{"type":"NULL"}})",
+      R"({"type":"TAGGEDTYPE","number":2.5,"value":{"type":"NULL"}})",
+      R"({"type":"TAGGEDTYPE","number":1,"class":"context","value":{"type":"NULL"}})",
+      R"({"type":"TAGGEDTYPE","number":1,"class":null,"value":{"type":"NULL"}})",
+      R"({"type":"TAGGEDTYPE","number":1,"implicit":true})",
+      R"({"type":"NULL","user defined":{"identifier":5}})",
+      R"({"type":"NULL","user defined":{"identifier":"05"}})",
+      R"({"type":"NULL","user defined":{"identifier":"05","length":0}})",
+      R"({"type":"NULL","user defined":{"length":-1}})",
+      R"({"type":"NULL","user defined":{"length":true}})",
+      R"({"type":"NULL","user defined":{"content":0}})",
+      R"({"type":"NULL","user defined":{"end of contents":null}})",
+      R"({"type":"INTEGER","value":"x","user defined":{"content":"00"}})",
+  };
+  for (const char *text : kDocuments) {
+    const Json document = parse(text);
+    ASSERT_NE(document, nullptr) << text;
+    EXPECT_EQ(encoded(document), "null") << text;
+  }
+  EXPECT_EQ(quarn_asn1_encodejson(nullptr), nullptr);
+}
+
+std::string raw(const std::string &hex) {
+  return R"({"user defined":{"identifier":")" + hex + R"(","length":"","content":""}})";
+}
+
+TEST(Json, sets_are_sorted_on_request) {
+  const auto sorted = [](const std::string &type, const std::string &elements) {
+    return encoded(parse(R"({"type":")" + type + R"(","sort":true,"value":[)" + elements + "]}"));
+  };
+  // By class, then by number; form and the rest do not count.
+  EXPECT_EQ(sorted("SET", raw("DF21") + "," + raw("8000") + "," + raw("61") + "," + raw("A1") +
+                              "," + raw("0501") + "," + raw("25") + "," + raw("80FF")),
+            "310B050125618000"
+            "80FFA1DF21");
+  EXPECT_EQ(sorted("SET", raw("") + "," + raw("05")), "null");
+  EXPECT_EQ(sorted("SET", raw("")), "3100");
+  EXPECT_EQ(sorted("SET", raw("1F01") + "," + raw("05")), "null");
+  // By octets, as if zeros followed: 05 00 and 05 are equal and keep their order.
+  EXPECT_EQ(sorted("SETOF", raw("0500") + "," + raw("") + "," + raw("FF") + "," + raw("05") + "," +
+                                raw("0401") + "," + raw("050000") + "," + raw("050001")),
+            "310C"
+            "0401"
+            "0500"
+            "05"
+            "050000"
+            "050001"
+            "FF");
+  // An inner set is in order before the outer one compares it; what an override replaces is gone.
+  const std::string inner =
+      R"({"type":"SETOF","sort":true,"value":[)" + raw("02") + "," + raw("01") + "]}";
+  EXPECT_EQ(sorted("SETOF", raw("31020102FF") + "," + inner + "," + raw("31020101")),
+            "310D"
+            "31020101"
+            "31020102"
+            "31020102FF");
+  EXPECT_EQ(sorted("SETOF", raw("0502") + "," + inner.substr(0, inner.size() - 1) +
+                                R"(,"user defined":{"content":"00"}})"),
+            "3105"
+            "0502"
+            "310200");
+  EXPECT_EQ(encoded(parse(R"({"type":"SETOF","sort":true,"indefinite":true,"value":[)" + raw("02") +
+                          "," + raw("01") + "]}")),
+            "318002010000");
+}
+
+TEST(Json, streams_receive_what_blobs_do) {
+  const std::string text = R"({"type":"SETOF","sort":true,"value":[)" + raw("02") + "," +
+                           raw("01") + "," + raw("03") + "]}";
+  const Stream s(quarn_stream_new_mem(0, nullptr));
+  const Json document = parse(text);
+  EXPECT_EQ(quarn_asn1_encodejsoninstream(s.get(), document.get()), 1);
+  EXPECT_EQ(quarn_asn1_encodejsoninstream(s.get(), parse(R"({"type":"NULL"})").get()), 1);
+  EXPECT_EQ(to_hex(rest_of(s)), "31030102030500");
+  EXPECT_EQ(quarn_asn1_encodejsoninstream(s.get(), nullptr), 0);
+  EXPECT_EQ(quarn_asn1_encodejsoninstream(nullptr, document.get()), 0);
+  const Stream full(quarn_stream_new_romem(nullptr, 0, 0, nullptr));
+  EXPECT_NE(quarn_asn1_encodejsoninstream(full.get(), document.get()), 1);
+}
+
+// What it costs to render octets and to come back, in the libraries' own allocations.
+struct Cost {
+  std::uint64_t allocations = 0;
+  std::size_t tree = 0;
+  std::size_t peak = 0;
+};
+
+Cost cost_of(const std::string &octets) {
+  Cost cost;
+  Allocation allocation;
+  {
+    const Json document = to_json(octets);
+    cost.tree = allocation.live_octets();
+    if (document != nullptr) {
+      const Blob blob(quarn_asn1_encodejson(document.get()));
+      const std::string_view back(reinterpret_cast<const char *>(blob->data),
+                                  static_cast<std::size_t>(blob->length));
+      EXPECT_TRUE(back.size() <= octets.size());
+    }
+    cost.peak = allocation.peak_octets();
+    cost.allocations = allocation.count();
+  }
+  EXPECT_EQ(allocation.live_blocks(), 0);
+  return cost;
+}
+
+TEST(Json, depth_is_not_limited_and_costs_grow_with_the_size) {
+  on_small_stack([] {
+    constexpr std::size_t kMany = 200000;
+    const auto indefinite = [](std::size_t n, std::string_view header) {
+      return repeat(n, header) + std::string(2 * n, '\0');
+    };
+    // A definite length after each hundred indefinite ones keeps those within their limit.
+    const auto mixed = [&](std::size_t n) {
+      std::string result;
+      for (; n > 0; n /= 2) result = nested(n, '\xA0', indefinite(100, "\xA0\x80") + result);
+      return result;
+    };
+    const auto flat = [](std::size_t n) { return nested(1, '\x30', repeat(n, {"\x05\0", 2})); };
+    const std::function<std::string(std::size_t)> kFamilies[] = {
+        [](std::size_t n) { return nested(n, '\x30', ""); },
+        [](std::size_t n) {
+          return nested(n, '\xA0', {"\x05\0", 2});
+        },
+        mixed,
+        flat,
+        [&](std::size_t n) {
+          return "\x24\x80" + repeat(n, "\x04\x01\x41") + std::string(2, '\0');
+        },
+        [&](std::size_t n) { return indefinite(n, "\x30\x80"); },
+    };
+    for (const auto &family : kFamilies) {
+      const Cost half = cost_of(family(kMany / 2));
+      const Cost whole = cost_of(family(kMany));
+      EXPECT_LE(whole.allocations, 21 * half.allocations / 10);
+      EXPECT_LE(whole.peak, 23 * half.peak / 10);
+    }
+    EXPECT_LE(cost_of(flat(kMany)).tree, 160 * kMany);
+    for (const char identifier : {'\x30', '\xA0'}) {
+      const Json deep = to_json(nested(1000000, identifier, ""));
+      ASSERT_NE(deep, nullptr);
+      EXPECT_TRUE(encoded(deep).ends_with("00"));
+    }
+    EXPECT_EQ(to_json(indefinite(1000000, "\x30\x80")), nullptr);
+  });
+}
+
+// Octets are not moved once for each level, nor runs of zeros read once for each comparison: either
+// would take minutes here.
+TEST(Json, sorting_hostile_sets_takes_no_time) {
+  on_small_stack([] {
+    constexpr std::size_t kLevels = 200000;
+    const std::string chain = repeat(kLevels, R"({"type":"SETOF","sort":true,"value":[)") +
+                              raw("00") + repeat(kLevels, R"(,{"type":"NULL"}]})");
+    const Json document = parse(chain);
+    const std::string hex = encoded(document);
+    EXPECT_TRUE(
+        hex.ends_with("0500"
+                      "3103"
+                      "000500"));
+    std::string zeros = raw("05" + repeat(kLevels, "00"));
+    for (std::size_t i = 0; i < kLevels; i++) zeros += "," + raw("05");
+    EXPECT_NE(encoded(parse(R"({"type":"SETOF","sort":true,"value":[)" + zeros + "]}")), "null");
+  });
+}
+
+TEST(Json, every_failed_allocation_ends_without_a_leak) {
+  const std::string octets = from_hex(
+      "30 80 A0 80 0101FF 010101 0000 A1 00 810102 0206010203040506 02020001 0302040F 0603883703"
+      "0D0105 0C0141 1301FF 1E0220AC 1C04000000E9 170B323030313031313230305A 0701 41 2800 0000");
+  const std::string text =
+      R"({"type":"SET","sort":true,"value":[)" + raw("05") + "," +
+      R"({"type":"INTEGER","value":"-18446744073709551616"},)" +
+      R"({"type":"OID","value":"1.2.840.113549"},)" +
+      R"({"type":"SETOF","sort":true,"user defined":{"content":"AA"},"value":[)" + raw("02") + "," +
+      raw("01") + "]}]}";
+  ASSERT_NE(rendered(octets), "null");
+  fail_each_allocation([&](Allocation &allocation) {
+    const Json document = to_json(octets);
+    EXPECT_EQ(document == nullptr, allocation.failed());
+  });
+  fail_each_allocation([&](Allocation &allocation) {
+    const Json document = parse(text);
+    const std::string hex = document == nullptr ? "null" : encoded(document);
+    EXPECT_EQ(hex == "null", allocation.failed());
+  });
+}
+
+}  // namespace
+}  // namespace quarn::test
