@@ -12,9 +12,9 @@ Seen walk_inside(const std::uint8_t *octets, std::size_t count, Seen seen) {
     std::int64_t length = 0;
     if (!read_identifier(in, identifier) || !read_length(in, length)) return {};
     seen.add(identifier.number, static_cast<std::uint64_t>(length));
-    if (!identifier.primitive) continue;
-    if (static_cast<std::uint64_t>(length) > in.left()) return {};
-    in.advance(static_cast<std::uint64_t>(length));
+    const std::uint64_t step = identifier.primitive ? static_cast<std::uint64_t>(length) : 0;
+    if (step > in.left()) return {};
+    in.advance(step);
   }
   return seen;
 }
