@@ -35,6 +35,14 @@ class JsonKey {
  public:
   std::string_view view() const { return {length_ <= sizeof near_ ? near_ : far(), length_}; }
 
+  // Mostly told by length and first octet.
+  bool is(std::string_view octets) const {
+    if (length_ != octets.size()) return false;
+    const char *own = view().data();
+    return octets.empty() ||
+           (*own == octets.front() && std::memcmp(own, octets.data(), octets.size()) == 0);
+  }
+
   // Makes an empty key a copy of the octets; false when memory is short.
   bool assign(std::string_view octets) {
     char *to = near_;

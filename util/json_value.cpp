@@ -27,7 +27,7 @@ uint32_t *find_cell(quarn_json *const *children, uint64_t pointers, std::string_
   auto *cells = reinterpret_cast<uint32_t *>(const_cast<quarn_json **>(children + pointers));
   const uint64_t mask = 2 * pointers - 1;
   uint64_t at = keyed_hash(key) & mask;
-  while (cells[at] != 0 && children[cells[at] - 1]->key.view() != key) at = (at + 1) & mask;
+  while (cells[at] != 0 && !children[cells[at] - 1]->key.is(key)) at = (at + 1) & mask;
   return &cells[at];
 }
 
@@ -53,7 +53,7 @@ quarn_json **grown_block(const quarn_json *container, uint64_t pointers) {
 // Makes room for one more child; false when that cannot be.
 bool reserve(quarn_json *container) {
   if (container->size == UINT32_MAX) return false;
-  if (!std::has_single_bit(container->size)) return true;
+  if ((container->size & (container->size - 1)) != 0) return true;  // no power of two
   quarn_json **block = grown_block(container, uint64_t{container->size} * 2);
   if (block == nullptr) return false;
   if (container->size > 1) quarn_free(const_cast<quarn_json **>(container->children()));
@@ -134,7 +134,7 @@ quarn_json *json_find(const quarn_json *object, std::string_view key) {
     return cell == 0 ? nullptr : children[cell - 1];
   }
   for (uint32_t i = 0; i < object->size; i++) {
-    if (children[i]->key.view() == key) return children[i];
+    if (children[i]->key.is(key)) return children[i];
   }
   return nullptr;
 }
