@@ -1,15 +1,14 @@
 // The tree behind the JSON handles.
 //
 // A value is one block that never moves, so that handles stay valid: a fixed head, then the number,
-// the text with its NUL, or the pointer to the children.
+// the text with its NUL, or the pointers to a few children, or to more in a block of their own.
 //
 //     {"type":"SET","value":[5]}
 //
-//     [object, 2 | o ]        [array, 1, "value" | o ]--->[number | 5.0]
-//                  |                ^
-//                  +-->[ o | o ]----+                one child: pointed to directly;
-//                        |                           more: a block of pointers, doubled when full
-//                        +-->[string, 3, "type" | SET\0]
+//     [object, 2 | o o . ]    [array, 1, "value" | o . . ]--->[number | 5.0]
+//                  | |              ^
+//                  | '--------------'               up to three children: pointed to directly;
+//                  '-->[string, 3, "type" | SET\0]    more: a block of pointers, doubled when full
 //
 // A value also holds its key, its parent and its position there. That is enough to walk, print and
 // free a tree of any depth with neither recursion nor a stack.
@@ -78,6 +77,9 @@ uint64_t keyed_hash(std::string_view octets);
 }  // namespace quarn::util
 
 struct quarn_json {
+  // Children that are pointed to from the value's own block.
+  static constexpr uint32_t kMostNear = 3;
+
   quarn_json *parent = nullptr;
   uint32_t position = 0;  // among the parent's children
   uint32_t size = 0;      // octets of text, number of children, or whether a boolean is true
@@ -91,7 +93,7 @@ struct quarn_json {
 
   // Pointers to the children of a value that has some.
   quarn_json *const *children() const {
-    if (size == 1) return reinterpret_cast<quarn_json *const *>(this + 1);
+    if (size <= kMostNear) return reinterpret_cast<quarn_json *const *>(this + 1);
     return *reinterpret_cast<quarn_json **const *>(this + 1);
   }
   // The child after this one; null for the last and for a value without a parent.
