@@ -115,7 +115,7 @@ quarn_json *json_new_text(std::string_view octets);
 quarn_json *json_find(const quarn_json *object, std::string_view key);
 // Makes value, which has no parent and no key, the last child of container. The key is taken over
 // when it succeeds; for an object it must be a new one. False when memory or positions run out.
-bool json_append(quarn_json *container, quarn_json *value, JsonKey key);
+bool json_append(quarn_json *container, quarn_json *value, const JsonKey &key);
 
 }  // namespace quarn::util
 

@@ -145,7 +145,7 @@ quarn_json *json_find(const quarn_json *object, std::string_view key) {
   return nullptr;
 }
 
-bool json_append(quarn_json *container, quarn_json *value, JsonKey key) {
+bool json_append(quarn_json *container, quarn_json *value, const JsonKey &key) {
   if (!reserve(container)) return false;
   value->parent = container;
   value->position = container->size++;
