@@ -11,14 +11,8 @@ const char *message_of(int code) {
   return text;
 }
 
-[[gnu::cold]] Status Unit::fail(quarn_err_ctx *ctx, int code, std::int64_t offset, int line) const {
-  return pass_on(Status::failure(), ctx, code, offset, line);
-}
-
-[[gnu::cold]] Status Unit::pass_on(
-    Status status, quarn_err_ctx *ctx, int code, std::int64_t offset, int line) const {
+[[gnu::cold]] void Unit::record(quarn_err_ctx *ctx, int code, std::int64_t offset, int line) const {
   quarn_err_ctx_put_at(ctx, name, line, code, message_of(code), offset);
-  return status;
 }
 
 [[gnu::cold]] Status Unit::fail_generally(quarn_err_ctx *ctx, int code, int line) const {

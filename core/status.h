@@ -43,17 +43,28 @@ struct Unit {
   Status fail(quarn_err_ctx *ctx,
               int code,
               std::int64_t offset = -1,
-              int line = __builtin_LINE()) const;
+              int line = __builtin_LINE()) const {
+    record(ctx, code, offset, line);
+    return Status::failure();
+  }
   // Records code after a step below has failed and hands that step's result up.
   Status pass_on(Status status,
                  quarn_err_ctx *ctx,
                  int code,
                  std::int64_t offset = -1,
-                 int line = __builtin_LINE()) const;
+                 int line = __builtin_LINE()) const {
+    record(ctx, code, offset, line);
+    return status;
+  }
   // Records code with the text that the general errors have for it. The content encoders of
   // BOOLEAN, INTEGER, NULL, OBJECT IDENTIFIER and the times report a length that does not fit this
   // way; callers match on the empty text.
   Status fail_generally(quarn_err_ctx *ctx, int code, int line = __builtin_LINE()) const;
+  // Records code for what is accepted nevertheless.
+  void record(quarn_err_ctx *ctx,
+              int code,
+              std::int64_t offset = -1,
+              int line = __builtin_LINE()) const;
 };
 
 }  // namespace quarn::asn1

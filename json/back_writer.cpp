@@ -12,7 +12,7 @@ bool BackWriter::grow(std::size_t count) {
   if (capacity < needed) capacity = needed;
   auto *block = util::allocate_array<std::uint8_t>(capacity);
   if (block == nullptr) return false;
-  if (written_ > 0) {
+  if (block_ != nullptr) {
     std::memcpy(block + (capacity - written_), block_ + (capacity_ - written_), written_);
   }
   quarn_free(block_);

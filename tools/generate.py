@@ -4,11 +4,12 @@
     tools/generate.py           writes the files
     tools/generate.py --check   writes nothing; exits 1 and names each file that is not up to date
 
-Sources are modules/registry.tsv and core/messages.tsv. Only Python's standard library is used, and a
+Sources are modules/registry.tsv, core/messages.tsv and cli/oids.tsv. Only Python's standard library is used, and a
 build does not need this program: its outputs are checked in.
 """
 
 import pathlib
+import re
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
@@ -143,11 +144,35 @@ def errors_page():
     return "".join(lines)
 
 
+def oid_names():
+    """In the order of the strings, for a binary search."""
+    rows = sorted(line if len(line) == 3 else [*line, ""] for line in rows_of("cli/oids.tsv"))
+    body = "".join("    {" + ", ".join(c_string(text) for text in row) + "},\n" for row in rows)
+    return made_from("cli/oids.tsv") + "constexpr OidName kOidNames[] = {\n" + body + "};\n"
+
+
+def support_codes():
+    """Code, name and use of the codes of the support library, from the enumerators' comments."""
+    header = re.sub(r"\s+", " ", (ROOT / "include/quarn_util.h").read_text(encoding="utf-8"))
+    for name, code, use in re.findall(r"(QUARN_(?:STREAM_)?ERROR_\w+) = (0x\w+),? /\*\*< (.*?) \*/", header):
+        yield int(code, 16), name, use
+
+
+def error_uses():
+    rows = list(support_codes())
+    rows += [(code, f"QUARN_ASN1_ERROR_{name}", use) for code, _, name, use in messages() if name != "-"]
+    body = "".join(f"    {{{code:#x}, {c_string(name)}, {c_string(use)}}},\n" for code, name, use in rows)
+    return (made_from("core/messages.tsv and include/quarn_util.h") +
+            "constexpr CodeUse kCodeUses[] = {\n" + body + "};\n")
+
+
 def outputs():
     yield "include/quarn_asn1/ids.h", ids_header()
     yield "include/quarn_asn1/errors.h", errors_header()
     yield "core/gen/messages.inc", messages_table()
     yield "modules/gen/registry.inc", registry_table()
+    yield "cli/gen/oid_names.inc", oid_names()
+    yield "cli/gen/error_uses.inc", error_uses()
     yield "docs/types.md", types_page()
     yield "docs/errors.md", errors_page()
 

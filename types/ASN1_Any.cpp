@@ -44,16 +44,22 @@ Status pass_octets(Reader &in, std::uint64_t count, Writer *copy) {
   return Status::success();
 }
 
+// Moves over identifier and length, or an end-of-contents.
+Status pass_header(Reader &in, Element &out, Writer *copy) {
+  if (copy == nullptr) return read_element_header(in, out);
+  const Capture header(in);
+  const Status status = read_element_header(in, out);
+  return status ? copy->octets(header.data(), header.size()) : status;
+}
+
 // Moves over content. An element counts as one level deeper than what it stands in, whatever its
 // own form, so that the innermost level of all holds nothing but its end-of-contents.
 Status pass_content(Reader &in, std::int64_t length, Writer *copy) {
   if (length != kIndefinite) return pass_octets(in, static_cast<std::uint64_t>(length), copy);
   const int limit = quarn_get_recursive_level();
   for (int open = 1; open > 0;) {
-    const Capture header(in);
     Element element{};
-    Status status = read_element_header(in, element);
-    if (status && copy != nullptr) status = copy->octets(header.data(), header.size());
+    Status status = pass_header(in, element, copy);
     if (!status) return status;
     if (element.end_of_contents) {
       open--;
@@ -131,7 +137,7 @@ Status write_octets(Writer &out, const quarn_asn1_any &v, std::size_t offset, in
   std::uint64_t content = v.in_stream ? 0 : v.content_size;
   StreamContent source(v);
   if (v.in_stream) {
-    out.settle();  // the content may be in the stream that is written
+    out.settle();  // the content may be in the stream that is being written
     if (const Status status = source.open(out.stream(), out.ctx()); !status) return status;
   }
   Status status = out.octets(v.header() + offset, v.header_size - offset + content);

@@ -1,11 +1,12 @@
 // The order of a SET OF in DER (X.690, 11.6).
 //
 // Encodings are compared octet by octet as unsigned numbers, the shorter one padded at its end with
-// zero octets. An encoding without the zero octets at its end stands for all that padding can make
-// of it, and such stripped encodings are in plain lexicographic order:
+// zero octets. Those that differ in zero octets at the end only may come in any order; with the
+// shorter one first, the rule is plain lexicographic order:
 //
-//     04 01 00   ->  04 01           first
-//     04 01 01   ->  04 01 01
+//     04 01 00
+//     04 01 01
+//     04 02
 //
 // All encodings lie one behind the other in one buffer.
 #include <algorithm>
@@ -31,14 +32,13 @@ bool precedes(const Key &a, const Key &b) {
 }
 
 // Makes each key's size, which so far says where its encoding ends in the buffer, that of the
-// encoding itself without zero octets at the end.
-void strip(Key *keys, std::size_t count, const std::uint8_t *encodings) {
+// encoding itself.
+void locate(Key *keys, std::size_t count, const std::uint8_t *encodings) {
   std::size_t start = 0;
   for (std::size_t i = 0; i < count; i++) {
     const std::size_t end = keys[i].size;
     keys[i].octets = encodings + start;
     keys[i].size = end - start;
-    while (keys[i].size > 0 && keys[i].octets[keys[i].size - 1] == 0) keys[i].size--;
     start = end;
   }
 }
@@ -57,7 +57,7 @@ bool sort_with(quarn_asn1_list *list, EncodeAll encode_all) {
   for (std::size_t i = 0; i < count; i++) keys[i] = {nullptr, 0, list->items[i]};
   if (!encode_all(scratch, keys, count)) return false;
   if (scratch.size() == 0) return true;
-  strip(keys, count, scratch.data());
+  locate(keys, count, scratch.data());
   std::sort(keys, keys + count, precedes);
   for (std::size_t i = 0; i < count; i++) list->items[i] = keys[i].element;
   return true;

@@ -54,6 +54,24 @@ class Sink {
   Buffer piece_;
 };
 
+// Reads the octet that counts unused bits, if the content begins with one. count, the octets of the
+// content, becomes those of the string.
+Status read_unused_bits(const SegmentRules &rules,
+                        Reader &in,
+                        std::uint64_t &count,
+                        std::uint32_t &unused_bits) {
+  if (!rules.counts_unused_bits) return Status::success();
+  if (count == 0) return rules.unit.fail(in.ctx(), QUARN_ASN1_ERROR_LENGTH, in.offset());
+  std::uint8_t unused = 0;
+  if (const Status status = in.octet(unused); !status) return status;
+  count--;
+  if (unused > (count > 0 ? kMostUnusedBits : 0)) {
+    return rules.unit.fail(in.ctx(), QUARN_ASN1_ERROR_UNUSED_BITS, in.offset());
+  }
+  unused_bits = unused;
+  return Status::success();
+}
+
 // Walks the segments of one string. It recurses once for each level of segments in segments, up to
 // quarn_get_recursive_level(); nothing large may stand in its frames.
 class Segments {
@@ -80,13 +98,8 @@ class Segments {
   static bool at_limit(int level) { return level >= quarn_get_recursive_level(); }
 
   Status octets(std::uint64_t count) {
-    if (rules_.counts_unused_bits) {
-      if (count == 0) return fail(QUARN_ASN1_ERROR_LENGTH);
-      std::uint8_t unused = 0;
-      if (const Status status = in_.octet(unused); !status) return status;
-      const bool has_octets = --count > 0;
-      if (unused > (has_octets ? kMostUnusedBits : 0)) return fail(QUARN_ASN1_ERROR_UNUSED_BITS);
-      unused_bits_ = unused;
+    if (const Status status = read_unused_bits(rules_, in_, count, unused_bits_); !status) {
+      return status;
     }
     return sink_.take(in_, count, rules_.unit);
   }
@@ -158,16 +171,34 @@ Status read_segment(const SegmentRules &rules, Reader &in, Segment &out) {
   return status;
 }
 
+namespace {
+
+// One run of octets in memory, as nearly every string is: the value is made at once.
+Status decode_run(const SegmentRules &rules, Reader &in, void **value, std::uint64_t count) {
+  std::uint32_t unused_bits = 0;
+  const Status status = read_unused_bits(rules, in, count, unused_bits);
+  if (!status) return status;
+  if (count > in.left()) return in.short_read();
+  StringValue *made = new_string(in.next(), count);
+  if (made == nullptr) return rules.unit.fail(in.ctx(), QUARN_ERROR_NO_MEMORY, in.offset());
+  in.advance(count);
+  made->unused_bits = unused_bits;
+  *value = made;
+  return status;
+}
+
+}  // namespace
+
 Status decode_string_content(
     const SegmentRules &rules, Reader &in, void **value, bool primitive, std::int64_t length) {
   if (in.is_null() || value == nullptr) return rules.unit.fail(in.ctx(), QUARN_ERROR_ARGUMENT);
   *value = nullptr;
+  if (primitive && length >= 0 && in.in_memory()) {
+    return decode_run(rules, in, value, static_cast<std::uint64_t>(length));
+  }
   // The octets are collected behind the room of the value, and so become a part of it in place.
-  // What is there in one run gets all its room at once.
-  const bool is_there =
-      primitive && in.in_memory() && length > 0 && static_cast<std::uint64_t>(length) <= in.left();
   Buffer block;
-  if (!block.start(sizeof(StringValue) + (is_there ? static_cast<std::size_t>(length) : 0))) {
+  if (!block.start(sizeof(StringValue))) {
     return rules.unit.fail(in.ctx(), QUARN_ERROR_NO_MEMORY, in.offset());
   }
   block.extend(sizeof(StringValue));

@@ -313,7 +313,11 @@ QUARN_ASN1_API int quarn_asn1_decode_any(quarn_stream *s,
                                          quarn_asn1_any **v,
                                          uint64_t *consumed,
                                          quarn_err_ctx *ctx);
-/** As quarn_asn1_decode_any(), with the content appended to a stream that stays the caller's. */
+/**
+ * As quarn_asn1_decode_any(), with the content appended to a stream that stays the caller's. It must
+ * be another than s, empty if the value is to be encoded again, and outlive the value. After a
+ * failure it keeps what it was given.
+ */
 QUARN_ASN1_API int quarn_asn1_decode_any_ex(quarn_stream *s,
                                             quarn_stream *content,
                                             quarn_asn1_any **v,

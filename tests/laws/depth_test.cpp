@@ -72,7 +72,7 @@ TEST(Depth, a_million_definite_levels_go_through_json_and_back) {
 TEST(Depth, a_million_indefinite_levels_end_at_the_limit) {
   on_small_stack([] {
     Allocation allocation;
-    for (const std::uint8_t identifier : {0x30, 0x24, 0x23, 0xA0}) {
+    for (const auto identifier : Octets{0x30, 0x24, 0x23, 0xA0}) {
       const Octets octets = nested_indefinite(identifier, kLevels);
       EXPECT_EQ(quarn_asn1_tojson(octets.data(), static_cast<std::int64_t>(octets.size())),
                 nullptr);

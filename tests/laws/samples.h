@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "quarn_asn1.h"
-#include "tests/vectors/vector_file.h"
+#include "tests/support/vector_file.h"
 
 namespace quarn::test {
 

@@ -263,6 +263,19 @@ TEST(Any, values_become_elements_and_copies) {
   EXPECT_EQ(codes_in(ctx.get()), (Codes{0x1027f, 0x10235, 0x10235, 0x1026b, 0x1026b}));
 }
 
+TEST(Any, strings_of_both_forms_are_read) {
+  for (const Octets &octets :
+       {Octets{0x0C, 0x02, 0x41, 0x42},
+        Octets{0x2C, 0x80, 0x04, 0x01, 0x41, 0x04, 0x01, 0x42, 0x00, 0x00}}) {
+    quarn_asn1_octetstring *string = nullptr;
+    ASSERT_EQ(quarn_asn1_any_decode_string(any_of(octets).get(), &string, nullptr), 1);
+    quarn_data_blob *blob = quarn_asn1_octetstring_getblob(string);
+    EXPECT_EQ(std::string(blob->data, blob->data + blob->length), "AB");
+    quarn_data_blob_free(blob);
+    quarn_asn1_value_free(QUARN_ASN1_OCTETSTRING, string);
+  }
+}
+
 TEST(Any, single_elements_are_copied_from_streams) {
   const Octets octets{0x04, 0x01, 0x41, 0x30, 0x80, 0x00, 0x00, 0x22, 0x00};
   SlowSource source(octets);

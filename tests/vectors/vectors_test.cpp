@@ -6,7 +6,7 @@
 #include "quarn_asn1.h"
 #include "tests/support/allocation.h"
 #include "tests/support/streams.h"
-#include "tests/vectors/vector_file.h"
+#include "tests/support/vector_file.h"
 
 namespace quarn::test {
 namespace {

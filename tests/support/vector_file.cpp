@@ -1,4 +1,4 @@
-#include "tests/vectors/vector_file.h"
+#include "tests/support/vector_file.h"
 
 #include <algorithm>
 #include <cctype>

@@ -8,8 +8,8 @@
 //
 // type holds until the next type line; a case line begins a case. Octets are hexadecimal; a group
 // in parentheses can be repeated: (30 80)*3.
-#ifndef QUARN_TESTS_VECTORS_VECTOR_FILE_H
-#define QUARN_TESTS_VECTORS_VECTOR_FILE_H
+#ifndef QUARN_TESTS_SUPPORT_VECTOR_FILE_H
+#define QUARN_TESTS_SUPPORT_VECTOR_FILE_H
 
 #include <cstdint>
 #include <optional>

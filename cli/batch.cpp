@@ -1,0 +1,188 @@
+// Many inputs in one run: one bad file never hides the rest, and the exit code tells.
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <new>
+
+#include "cli/diagnosis.h"
+#include "cli/input.h"
+#include "cli/output.h"
+
+namespace quarn::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::chrono::seconds kQuietTime{1};
+constexpr std::chrono::milliseconds kBetweenLines{200};
+
+// Progress of a long run, for somebody who watches a terminal.
+class Progress {
+ public:
+  explicit Progress(std::size_t total)
+      : total_(total), shown_(isatty(STDERR_FILENO) == 1 && isatty(STDOUT_FILENO) == 0) {}
+  ~Progress() { clear(); }
+  Progress(const Progress &) = delete;
+  Progress &operator=(const Progress &) = delete;
+
+  void step(std::size_t done) {
+    const auto now = std::chrono::steady_clock::now();
+    if (!shown_ || now - start_ < kQuietTime || now - last_ < kBetweenLines) return;
+    last_ = now;
+    put("\r\033[K" + std::to_string(done) + " of " + std::to_string(total_) + " files");
+  }
+  void clear() {
+    if (last_ != start_) put("\r\033[K");
+    last_ = start_;
+  }
+
+ private:
+  static void put(const std::string &text) {
+    static_cast<void>(!::write(STDERR_FILENO, text.data(), text.size()));
+  }
+
+  std::size_t total_;
+  bool shown_;
+  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+  std::chrono::steady_clock::time_point last_ = start_;
+};
+
+Form form_of(const Arguments &arguments) {
+  const std::string name = arguments.value(Opt::in_form, "auto");
+  if (name == "der") return Form::der;
+  if (name == "pem") return Form::pem;
+  if (name == "base64") return Form::base64;
+  return name == "hex" ? Form::hex : Form::automatic;
+}
+
+// A run over all inputs.
+class Batch {
+ public:
+  Batch(Visitor &visitor, Form form) : visitor_(visitor), form_(form) {}
+
+  void add(const std::string &operand, bool recursive);
+  int run();
+
+ private:
+  void add_directory(const std::string &directory);
+  void visit_file(const std::string &path);
+  void visit_object(const Source &source, const Object &object);
+  void failed(const std::string &path, const Object *object, const Failure &failure);
+
+  Visitor &visitor_;
+  Form form_;
+  std::vector<std::string> files_;
+  std::size_t objects_ = 0;
+  std::size_t failures_ = 0;
+  Exit first_ = kGood;
+};
+
+void Batch::failed(const std::string &path, const Object *object, const Failure &failure) {
+  if (failures_++ == 0) first_ = failure.code();
+  visitor_.failure(path, object, failure);
+}
+
+void Batch::add(const std::string &operand, bool recursive) {
+  std::error_code error;
+  if (recursive && operand != "-" && fs::is_directory(operand, error)) {
+    add_directory(operand);
+  } else {
+    files_.push_back(operand);
+  }
+}
+
+// Links to directories are not followed, so that no loop can be entered; links to files are.
+void Batch::add_directory(const std::string &directory) {
+  const std::size_t before = files_.size();
+  std::error_code error;
+  fs::recursive_directory_iterator it(directory, error);
+  while (!error && it != fs::recursive_directory_iterator()) {
+    std::error_code ignored;
+    if (it->is_regular_file(ignored)) files_.push_back(it->path().string());
+    it.increment(error);
+  }
+  std::sort(files_.begin() + static_cast<std::ptrdiff_t>(before), files_.end());
+  if (error) {
+    objects_++;
+    failed(directory, nullptr, {kFile, "cannot be searched: " + error.message()});
+  }
+}
+
+void Batch::visit_object(const Source &source, const Object &object) {
+  objects_++;
+  try {
+    if (object.unreadable) throw Failure(*object.unreadable);
+    visitor_.object(source, object, files_.size() > 1 || source.objects().size() > 1);
+  } catch (const Failure &failure) {
+    const bool text = source.looks_like_text() && object.index == 0 && failure.report() != nullptr;
+    if (!text) return failed(source.path(), &object, failure);
+    failed(source.path(), &object,
+           {failure.code(),
+            std::string("looks like text, but is neither PEM nor hexadecimal nor base64; read as "
+                        "DER, at ") +
+                failure.what(),
+            std::make_shared<const Report>(*failure.report())});
+  } catch (const std::bad_alloc &) {
+    failed(source.path(), &object, {kLimit, "not enough memory"});
+  }
+}
+
+void Batch::visit_file(const std::string &path) {
+  std::optional<Source> source;
+  try {
+    source.emplace(path, form_);
+  } catch (const Failure &failure) {
+    objects_++;
+    return failed(path, nullptr, failure);
+  } catch (const std::bad_alloc &) {
+    objects_++;
+    return failed(path, nullptr, {kLimit, "not enough memory"});
+  }
+  for (const Object &object : source->objects()) visit_object(*source, object);
+}
+
+int Batch::run() {
+  Progress progress(files_.size());
+  for (std::size_t i = 0; i < files_.size(); i++) {
+    progress.step(i);
+    visit_file(files_[i]);
+  }
+  if (failures_ == 0) return kGood;
+  return failures_ < objects_ ? kSomeFailed : first_;
+}
+
+}  // namespace
+
+int visit_inputs(const Arguments &arguments, Visitor &visitor) {
+  Batch batch(visitor, form_of(arguments));
+  if (arguments.operands.empty()) {
+    if (isatty(STDIN_FILENO) == 1) say("quarn: reading from the terminal; end with Ctrl-D");
+    batch.add("-", false);
+  }
+  for (const std::string &operand : arguments.operands) {
+    batch.add(operand, arguments.has(Opt::recursive));
+  }
+  return batch.run();
+}
+
+void say_failure(const std::string &command,
+                 const std::string &path,
+                 const Object *object,
+                 const Failure &failure) {
+  const bool later = object != nullptr && (object->index > 0 || !object->label.empty());
+  std::string line =
+      "quarn " + command + ": " + (path == "-" ? "standard input" : printable(path)) + ": ";
+  if (later) {
+    line += "object " + std::to_string(object->index) + " at " + std::to_string(object->offset);
+    if (!object->label.empty()) line += " (" + printable(object->label) + ")";
+    line += ": ";
+  }
+  line += failure.what();
+  if (failure.report() != nullptr) line += "\n" + details(*failure.report());
+  say(line);
+}
+
+}  // namespace quarn::cli

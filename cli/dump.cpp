@@ -1,0 +1,137 @@
+// `quarn dump`: one line for each element.
+//
+//       offset head   length  form  element
+//            0   4      893  cons  SEQUENCE
+//            4   2        3  prim    OID 2.5.4.3 commonName
+//
+// Elements are written as they are met, so that the tree is never in memory and a fault leaves
+// everything before it on the screen. Indentation stops at a depth where nobody can count it any
+// more; the depth is then written as a number, which keeps the output linear in the input.
+#include <cstdio>
+
+#include "cli/commands.h"
+#include "cli/diagnosis.h"
+#include "cli/input.h"
+#include "cli/output.h"
+#include "cli/value.h"
+#include "cli/walk.h"
+
+namespace quarn::cli {
+
+namespace {
+
+constexpr std::size_t kMostIndent = 32;
+constexpr const char *kTitle = "  offset head   length  form  element";
+constexpr std::uint64_t kDefaultWidth = 72;
+
+std::string column(const std::string &text, std::size_t width) {
+  return text.size() < width ? std::string(width - text.size(), ' ') + text : text;
+}
+
+class Dump : public Visitor {
+ public:
+  explicit Dump(const Arguments &arguments)
+      : dig_(!arguments.has(Opt::no_dig)),
+        depth_(arguments.number(Opt::depth, UINT64_MAX)),
+        width_(arguments.number(Opt::width, kDefaultWidth)) {}
+
+  void object(const Source &source, const Object &object, bool several) override;
+  void failure(const std::string &path, const Object *object, const Failure &failure) override {
+    say_failure("dump", path, object, failure);
+  }
+
+ private:
+  void heading(const Source &source, const Object &object);
+  void line(Walk &walk);
+  void write(const Walk &walk, bool encapsulates) const;
+  // Where the encodings inside the element start, or nothing when it holds none.
+  std::optional<std::uint64_t> encapsulated(const Walk &walk) const;
+
+  bool dig_;
+  std::uint64_t depth_;
+  std::uint64_t width_;
+  bool first_ = true;
+  bool titled_ = false;
+};
+
+void Dump::heading(const Source &source, const Object &object) {
+  std::string text = source.name() + ": object " + std::to_string(object.index);
+  if (!object.label.empty()) text += " (" + printable(object.label) + ")";
+  text +=
+      " at offset " + std::to_string(object.offset) + ", " + counted(object.octets.size(), "octet");
+  standard_output().write((first_ ? "" : "\n") + painted(Paint::tag, text) + "\n");
+  first_ = false;
+}
+
+// Whether the octets are encodings that make sense: any octets may happen to be well-formed.
+bool sensible_encodings(Octets octets) {
+  if (octets.size() < 2) return false;
+  Walk walk(octets, Walk::Top::several);
+  Walk::Step step = walk.next();
+  for (; step == Walk::Step::element; step = walk.next()) {
+    const Element &found = walk.element();
+    if (found.depth > 0 || found.constructed()) continue;
+    if (found.header.tag_class != kUniversal || !plausible(found.header, walk.content())) {
+      return false;
+    }
+  }
+  return step == Walk::Step::end;
+}
+
+std::optional<std::uint64_t> Dump::encapsulated(const Walk &walk) const {
+  const Element &element = walk.element();
+  if (!dig_ || element.constructed()) return std::nullopt;
+  const Octets content = walk.content();
+  if (element.universal(4) && sensible_encodings(content)) return 0;
+  const bool whole_octets = element.universal(3) && !content.empty() && content[0] == 0;
+  if (whole_octets && sensible_encodings(content.subspan(1))) return 1;
+  return std::nullopt;
+}
+
+void Dump::write(const Walk &walk, bool encapsulates) const {
+  const Element &element = walk.element();
+  const std::size_t indent = std::min(element.depth, kMostIndent);
+  const std::string length =
+      element.indefinite() ? "indef" : std::to_string(element.content_length());
+  std::string text =
+      painted(Paint::dim, column(std::to_string(element.offset), 8) +
+                              column(std::to_string(element.header.header_length), 4) +
+                              column(length, 9)) +
+      (element.constructed() ? "  cons  " : "  prim  ") + std::string(2 * indent, ' ');
+  if (indent < element.depth) {
+    text += painted(Paint::dim, "(depth " + std::to_string(element.depth) + ") ");
+  }
+  text += painted(element.end_of_contents ? Paint::dim : Paint::tag, tag_name(element.header));
+  if (encapsulates) {
+    text += painted(Paint::dim, " encapsulates");
+  } else if (!element.constructed() && !element.end_of_contents) {
+    const std::string value = value_text(element.header, walk.content(), width_);
+    text += (value.empty() ? "" : " ") + value;
+  }
+  standard_output().write(text + "\n");
+}
+
+void Dump::line(Walk &walk) {
+  const std::optional<std::uint64_t> inside = encapsulated(walk);
+  if (walk.element().depth <= depth_) write(walk, inside.has_value());
+  if (inside) walk.descend(*inside);
+}
+
+void Dump::object(const Source &source, const Object &object, bool several) {
+  if (several) heading(source, object);
+  if (!titled_) standard_output().write(painted(Paint::dim, kTitle) + "\n");
+  titled_ = true;
+  Walk walk(object.octets);
+  Walk::Step step = walk.next();
+  for (; step == Walk::Step::element; step = walk.next()) line(walk);
+  if (step == Walk::Step::fault) throw failure_at(walk, object.octets);
+}
+
+}  // namespace
+
+int run_dump(const Arguments &arguments) {
+  Dump dump(arguments);
+  return visit_inputs(arguments, dump);
+}
+
+}  // namespace quarn::cli

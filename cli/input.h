@@ -1,0 +1,87 @@
+// Where encodings come from: files, directories and the standard input, in any of the forms in
+// which people keep them.
+#ifndef QUARN_CLI_INPUT_H
+#define QUARN_CLI_INPUT_H
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/failure.h"
+#include "cli/handles.h"
+#include "cli/options.h"
+#include "cli/text.h"
+#include "quarn_util.h"
+
+namespace quarn::cli {
+
+enum class Form { automatic, der, pem, base64, hex };
+
+// One encoding, or what should have been one.
+struct Object {
+  std::size_t index = 0;
+  // Where it starts: in the decoded octets of the file, or, for PEM, in its text.
+  std::uint64_t offset = 0;
+  Octets octets;
+  std::string label;                  // of its PEM block
+  std::optional<Failure> unreadable;  // a PEM block that cannot be decoded
+};
+
+// A file in memory, and the objects in it.
+class Source {
+ public:
+  // Reads it whole. "-" is the standard input. Throws Failure.
+  Source(std::string path, Form form);
+
+  const std::string &path() const { return path_; }
+  // The path, fit to be printed.
+  std::string name() const;
+  Form form() const { return form_; }
+  const std::vector<Object> &objects() const { return objects_; }
+  // The octets of the file as they are.
+  Octets text() const { return text_; }
+  // Set when the octets were taken for DER although they look like ordinary text.
+  bool looks_like_text() const { return looks_like_text_; }
+
+ private:
+  void find_objects();
+  void find_pem_blocks();
+  void split_encodings(Octets octets);
+  void decode_hex();
+  void decode_base64();
+
+  std::string path_;
+  Form form_;
+  Blob blob_;
+  Octets text_;
+  std::vector<std::uint8_t> decoded_;
+  std::vector<OwnedOctets> blocks_;
+  std::vector<Object> objects_;
+  bool looks_like_text_ = false;
+};
+
+// What a sub-command does with each object.
+class Visitor {
+ public:
+  virtual ~Visitor() = default;
+  // Throws Failure when the object is bad. `several` tells that there are other objects too.
+  virtual void object(const Source &source, const Object &object, bool several) = 0;
+  // Reports what went wrong; object is null when the file itself could not be used.
+  virtual void failure(const std::string &path, const Object *object, const Failure &failure) = 0;
+};
+
+// Shows every object of the operands to the visitor, and returns the exit code.
+int visit_inputs(const Arguments &arguments, Visitor &visitor);
+
+// The message of a failure on standard error, with the details of its report.
+void say_failure(const std::string &command,
+                 const std::string &path,
+                 const Object *object,
+                 const Failure &failure);
+
+}  // namespace quarn::cli
+
+#endif

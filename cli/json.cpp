@@ -1,0 +1,91 @@
+// `quarn json`: encodings as JSON documents.
+#include <memory>
+
+#include "cli/commands.h"
+#include "cli/diagnosis.h"
+#include "cli/handles.h"
+#include "cli/input.h"
+#include "cli/output.h"
+#include "quarn_asn1/json.h"
+
+namespace quarn::cli {
+
+namespace {
+
+constexpr int kIndent = 2;
+
+Json document_of(const Object &object) {
+  const auto length = static_cast<std::int64_t>(object.octets.size());
+  Json json(quarn_asn1_tojson(object.octets.data(), length));
+  if (json == nullptr) {
+    throw diagnose(object.octets, "an encoding that the library cannot show as a document");
+  }
+  return json;
+}
+
+// The document on standard output, piece by piece.
+void write(const quarn_json *json, int indent) {
+  const Stream stream(stream_of(standard_output()));
+  if (quarn_json_write(json, indent, stream.get(), nullptr) == 1) return;
+  standard_output().flush();  // throws when it was the writing that failed
+  throw std::bad_alloc();
+}
+
+// Documents as they are, one after another.
+class Documents : public Visitor {
+ public:
+  explicit Documents(bool compact) : indent_(compact ? 0 : kIndent) {}
+
+  void object(const Source & /*source*/, const Object &object, bool /*several*/) override {
+    write(document_of(object).get(), indent_);
+    standard_output().write("\n");
+  }
+  void failure(const std::string &path, const Object *object, const Failure &failure) override {
+    say_failure("json", path, object, failure);
+  }
+
+ private:
+  int indent_;
+};
+
+// One line an object, whether it is good or bad.
+class Lines : public Visitor {
+ public:
+  void object(const Source &source, const Object &object, bool /*several*/) override {
+    const Json json = document_of(object);
+    standard_output().write(head(source.path(), &object) + ",\"document\":");
+    write(json.get(), 0);
+    standard_output().write("}\n");
+  }
+  void failure(const std::string &path, const Object *object, const Failure &failure) override {
+    std::string text = head(path, object) +
+                       ",\"error\":{\"exit\":" + std::to_string(failure.code()) +
+                       ",\"message\":" + json_string(failure.what());
+    if (failure.report() != nullptr) text += "," + json_members(*failure.report());
+    standard_output().write(text + "}}\n");
+  }
+
+ private:
+  static std::string head(const std::string &path, const Object *object) {
+    std::string text = "{\"source\":" + json_string(path);
+    if (object == nullptr) return text;
+    text += ",\"index\":" + std::to_string(object->index) +
+            ",\"offset\":" + std::to_string(object->offset) +
+            ",\"length\":" + std::to_string(object->octets.size());
+    if (!object->label.empty()) text += ",\"label\":" + json_string(object->label);
+    return text;
+  }
+};
+
+}  // namespace
+
+int run_json(const Arguments &arguments) {
+  if (arguments.has(Opt::lines)) {
+    Lines lines;
+    return visit_inputs(arguments, lines);
+  }
+  Documents documents(arguments.has(Opt::compact));
+  return visit_inputs(arguments, documents);
+}
+
+}  // namespace quarn::cli

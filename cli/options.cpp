@@ -1,0 +1,201 @@
+// The table itself, and look-ups in it. The texts are what users read: help, man page, completions.
+#include "cli/options.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "cli/commands.h"
+#include "cli/failure.h"
+
+namespace quarn::cli {
+
+namespace {
+
+constexpr Option kOptions[] = {
+    {Opt::help, "-h,--help", nullptr, nullptr, "Show help and exit."},
+    {Opt::version, "-V,--version", nullptr, nullptr, "Show the version and exit."},
+    {Opt::color, "--color", "WHEN", "auto,always,never",
+     "Colour the output. auto, the default, does so on a terminal unless NO_COLOR is set or TERM "
+     "is dumb; CLICOLOR_FORCE asks for colour in a pipe too."},
+    {Opt::in_form, "--in-form", "FORM", "auto,der,pem,base64,hex",
+     "Form of the input. auto, the default, looks at the octets. der stands for BER too."},
+    {Opt::recursive, "-r,--recursive", nullptr, nullptr,
+     "Take every file below the directories that are named."},
+    {Opt::compact, "-c,--compact", nullptr, nullptr, "Write each document on one line."},
+    {Opt::lines, "-l,--lines", nullptr, nullptr,
+     "Write one JSON object a line for each object of the input, with its source, index, offset "
+     "and length, and either the document or the error."},
+    {Opt::output, "-o,--output", "FILE", nullptr,
+     "Write to FILE, which is replaced only when everything went well."},
+    {Opt::pem, "--pem", "LABEL", nullptr,
+     "Write PEM blocks with this label, for example CERTIFICATE."},
+    {Opt::hex, "--hex", nullptr, nullptr, "Write hexadecimal text."},
+    {Opt::no_dig, "--no-dig", nullptr, nullptr,
+     "Do not look for encodings inside OCTET STRING and BIT STRING."},
+    {Opt::depth, "--depth", "N", nullptr, "Show elements down to level N; the outermost is 0."},
+    {Opt::width, "--width", "N", nullptr,
+     "Cut values after N characters; 0 shows them whole. The default is 72."},
+    {Opt::json, "--json", nullptr, nullptr, "Write JSON."},
+};
+
+constexpr const char *kInputText =
+    "FILE may hold DER, BER, PEM, base64 or hexadecimal text; - or no FILE is the standard input. "
+    "Every PEM block, and every encoding of a file that holds several one after another, is an "
+    "object of its own. Octets that belong to no encoding are an error.";
+
+const std::vector<Command> &table() {
+  static const std::vector<Command> kTable = {
+      {"json",
+       "[FILE...]",
+       "Show encodings as JSON documents",
+       "Writes the JSON document of each object, from which `quarn der` makes the same octets "
+       "again.",
+       {Opt::in_form, Opt::recursive, Opt::compact, Opt::lines},
+       {{"quarn json server.pem | jq .", "the certificates of a file"},
+        {"quarn json --lines -r /etc/ssl/certs | jq -r 'select(.error).source'",
+         "the files of a directory that are bad"}},
+       0,
+       SIZE_MAX,
+       run_json},
+      {"der",
+       "[FILE]",
+       "Turn JSON documents back into encodings",
+       "Reads JSON documents in the form that `quarn json` writes, one or several, also as written "
+       "with --lines, and writes the octets that they describe. - or no FILE is the standard "
+       "input.",
+       {Opt::output, Opt::pem, Opt::hex},
+       {{"quarn json a.der | quarn der | cmp - a.der", "there and back"},
+        {"quarn der --pem CERTIFICATE -o new.pem edited.json", "a certificate edited as text"}},
+       0,
+       1,
+       run_der},
+      {"dump",
+       "[FILE...]",
+       "Show the elements of encodings for people",
+       "Writes one line for each element: offset, header length, content length (indef for the "
+       "indefinite form), constructed or primitive, the tag, and the value. Object identifiers "
+       "are shown as numbers and by name. Encodings inside OCTET STRING and BIT STRING are shown "
+       "below the string; all offsets count from the start of the object. Of a damaged encoding "
+       "everything up to the fault is shown.",
+       {Opt::in_form, Opt::recursive, Opt::no_dig, Opt::depth, Opt::width},
+       {{"quarn dump server.pem", "the tree of a certificate"},
+        {"echo '30 03 02 01 05' | quarn dump", "a few octets by hand"}},
+       0,
+       SIZE_MAX,
+       run_dump},
+      {"types",
+       "[PATTERN]",
+       "List the ASN.1 types that the library names",
+       "Lists id, name, tag and error codes of the types, or of those whose name contains PATTERN "
+       "or matches it when it has *, ? or [. Upper and lower case are the same. A type marked * "
+       "has its name and codes reserved and cannot be decoded by this version.",
+       {Opt::json},
+       {{"quarn types time", "types with time in their name"},
+        {"quarn types --json 'x509*' | jq .", "the same for programs"}},
+       0,
+       1,
+       run_types},
+      {"error",
+       "CODE...",
+       "Explain error codes of the libraries",
+       "Tells the message of each CODE, hexadecimal as 0x10203 or decimal, what it reports and "
+       "which types record it.",
+       {Opt::json},
+       {{"quarn error 0x10203", "what a code in a log means"}},
+       1,
+       SIZE_MAX,
+       run_error},
+      {"help", "[COMMAND]", "Show help", "Shows help for a command.", {}, {}, 0, 1, run_help},
+  };
+  return kTable;
+}
+
+}  // namespace
+
+const std::vector<Command> &commands() {
+  return table();
+}
+
+const Command *find_command(std::string_view name) {
+  for (const Command &command : table()) {
+    if (name == command.name) return &command;
+  }
+  return nullptr;
+}
+
+const Option &option(Opt id) {
+  for (const Option &each : kOptions) {
+    if (each.id == id) return each;
+  }
+  return kOptions[0];
+}
+
+const std::vector<Opt> &common_options() {
+  static const std::vector<Opt> kCommon = {Opt::color, Opt::help};
+  return kCommon;
+}
+
+std::vector<const Option *> options_of(const Command *command) {
+  std::vector<const Option *> list;
+  if (command != nullptr) {
+    for (const Opt id : command->options) list.push_back(&option(id));
+  }
+  for (const Opt id : common_options()) list.push_back(&option(id));
+  if (command == nullptr) list.push_back(&option(Opt::version));
+  return list;
+}
+
+const char *input_text() {
+  return kInputText;
+}
+
+std::vector<std::string> split(std::string_view list) {
+  std::vector<std::string> items;
+  while (!list.empty()) {
+    const std::size_t comma = std::min(list.find(','), list.size());
+    items.emplace_back(list.substr(0, comma));
+    list.remove_prefix(std::min(comma + 1, list.size()));
+  }
+  return items;
+}
+
+std::string full_help(const Option &option) {
+  if (option.choices == nullptr) return option.help;
+  std::string list;
+  for (const std::string &choice : split(option.choices)) {
+    list += (list.empty() ? "" : ", ") + choice;
+  }
+  return std::string(option.help) + " One of " + list + ".";
+}
+
+const std::vector<ExitMeaning> &exit_meanings() {
+  static const std::vector<ExitMeaning> kMeanings = {
+      {kGood, "good"},
+      {kBadInput, "the input is not acceptable"},
+      {kUsage, "the command line is wrong"},
+      {kFile, "a file or stream cannot be read or written"},
+      {kLimit, "a limit was hit, such as memory"},
+      {kSomeFailed, "some of several inputs failed"},
+      {kInternal, "an internal error"}};
+  return kMeanings;
+}
+
+std::vector<std::string> names_of(const Option &option) {
+  return split(option.names);
+}
+
+std::string Arguments::value(Opt option, const std::string &fallback) const {
+  const auto found = values_.find(option);
+  return found == values_.end() ? fallback : found->second;
+}
+
+std::uint64_t Arguments::number(Opt option, std::uint64_t fallback) const {
+  const auto found = values_.find(option);
+  if (found == values_.end()) return fallback;
+  std::uint64_t number = fallback;
+  const std::string &text = found->second;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return number;
+}
+
+}  // namespace quarn::cli

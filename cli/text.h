@@ -1,0 +1,48 @@
+// Text that is safe to print. What comes from input may hold escape sequences, controls that turn
+// the direction of writing, line separators, or no UTF-8 at all: none of it reaches a terminal or a
+// log as it is.
+#ifndef QUARN_CLI_TEXT_H
+#define QUARN_CLI_TEXT_H
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace quarn::cli {
+
+using Octets = std::span<const std::uint8_t>;
+
+inline std::string_view as_text(Octets octets) {
+  return {reinterpret_cast<const char *>(octets.data()), octets.size()};
+}
+inline Octets as_octets(std::string_view text) {
+  return {reinterpret_cast<const std::uint8_t *>(text.data()), text.size()};
+}
+
+// UTF-8 with everything that is not plainly visible written as \n, \u{202E} or, for octets that are
+// no UTF-8, \xFF. A backslash becomes two, so that the result is unambiguous.
+std::string printable(std::string_view text);
+// The same between single quotes.
+std::string in_quotes(std::string_view text);
+// The same for a string of code points, each in `width` octets, big-endian; a last incomplete one
+// is shown as octets.
+std::string printable_wide(Octets octets, std::size_t width);
+
+// A JSON string with its quotation marks, all of ASCII control, bidirectional and non-UTF-8 content
+// escaped; octets that are no UTF-8 become U+FFFD.
+std::string json_string(std::string_view text);
+
+// Octets as "30 82 01", at most `most` of them.
+std::string hex_octets(Octets octets, std::size_t most = SIZE_MAX);
+// "0x88"
+std::string hex_number(std::uint64_t number);
+// "1 octet", "2 octets"
+std::string counted(std::uint64_t count, const std::string &thing);
+
+// The first `width` characters of UTF-8 text, with "..." when that cuts it; 0 leaves it whole.
+std::string cut(const std::string &text, std::size_t width);
+
+}  // namespace quarn::cli
+
+#endif

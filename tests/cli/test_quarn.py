@@ -1,0 +1,391 @@
+#!/usr/bin/env python3
+"""The command `quarn` as a person runs it: output, messages and exit codes.
+
+Environment: QUARN is the command; QUARN_COMPLETION and QUARN_MAN are what was made from its table of
+options, tested when they are set. Certificates come from the openssl command where there is one.
+"""
+
+import json
+import os
+import pathlib
+import pty
+import shutil
+import subprocess
+import tempfile
+import unittest
+
+QUARN = os.environ.get("QUARN", "quarn")
+ENVIRONMENT = {"PATH": os.environ["PATH"], "LC_ALL": "C", "TERM": "xterm"}
+SEQUENCE = bytes.fromhex("3003020105")
+NULL = bytes.fromhex("0500")
+# SEQUENCE { OID commonName, UTF8String with every kind of hidden character }
+HOSTILE_TEXT = "a\x1b[31m\u202eb\u2028c\x7f\x85\ufeffd\r\ne".encode() + b"\xff\xc0\x80"
+HOSTILE = b"\x0c" + bytes([len(HOSTILE_TEXT)]) + HOSTILE_TEXT
+
+
+class Run:
+    """One run of the command."""
+
+    def __init__(self, *arguments, data=b"", **variables):
+        done = subprocess.run([QUARN, *arguments], input=data, capture_output=True, timeout=120,
+                              env={**ENVIRONMENT, **variables}, check=False)
+        self.code, self.raw = done.returncode, done.stdout
+        self.out = done.stdout.decode("utf-8", "replace")
+        self.err = done.stderr.decode("utf-8", "replace")
+        self.lines = self.out.splitlines()
+
+    def records(self):
+        return [json.loads(line) for line in self.lines]
+
+
+class Case(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self.folder.cleanup)
+        self.path = pathlib.Path(self.folder.name)
+
+    def file(self, name, content):
+        path = self.path / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(content if isinstance(content, bytes) else content.encode())
+        return str(path)
+
+    def check(self, run, code, *err):
+        self.assertEqual(run.code, code, run.err + run.out)
+        for text in err:
+            self.assertIn(text, run.err)
+        if not err:
+            self.assertEqual(run.err, "")
+
+
+class CommandLine(Case):
+    def test_help_and_version_go_to_standard_output(self):
+        run = Run("--version")
+        self.check(run, 0)
+        self.assertRegex(run.lines[0], r"^quarn \d+\.\d+\.\d+$")
+        self.assertRegex(run.lines[2], r"^libquarn_util \d")
+        self.assertEqual(Run("json", "--help").out, Run("help", "json").out)
+        for command in ("json", "der", "dump", "types", "error", "help"):
+            self.assertIn(f"  {command} ", Run("--help").out)
+            self.check(Run(command, "-h"), 0)
+
+    def test_usage_errors_are_one_line_with_a_hint(self):
+        for arguments, text in [
+                (["jsno"], "did you mean 'json'?"),
+                (["json", "--compat"], "did you mean '--compact'?"),
+                (["dump", "--deph=3"], "did you mean '--depth'?"),
+                (["json", "--in-form", "foo"], "one of auto, der, pem, base64, hex"),
+                (["json", "--compact=3"], "--compact takes no value"),
+                (["dump", "--depth", "-1"], "number from 0 up"),
+                (["dump", "--width", "99999999999999999999"], "number from 0 up"),
+                (["der", "-o"], "needs a value"),
+                (["der", "--pem", "A", "--hex"], "exclude each other"),
+                (["der", "--pem", "A\nB"], "cannot be the label"),
+                (["types", "a", "b"], "unexpected operand 'b'"),
+                (["error"], "CODE"),
+                (["error", "0x102zz"], "no code"),
+                (["help", "dmup"], "did you mean 'dump'?"),
+                (["\x1b[2J"], r"unknown command '\u{1B}[2J'")]:
+            with self.subTest(arguments):
+                run = Run(*arguments)
+                self.check(run, 2, text, "--help")
+                self.assertEqual((run.out, run.err.count("\n")), ("", 1))
+        self.check(Run(), 2, "quarn --help")
+
+    def test_double_dash_ends_options_and_commands_may_be_file_names(self):
+        self.check(Run("dump", "--", "--none"), 3, "--none: cannot be opened: No such file")
+        self.check(Run("json", "dump"), 3, "dump: cannot be opened")
+
+    @unittest.skipUnless("QUARN_COMPLETION" in os.environ, "no completion to test")
+    def test_bash_completion_offers_commands_options_and_values(self):
+        def complete(*words):
+            script = (f"source {os.environ['QUARN_COMPLETION']}; COMP_WORDS=({' '.join(words)} '');"
+                      f"COMP_WORDS[{len(words) - 1}]={words[-1]}; COMP_CWORD={len(words) - 1};"
+                      "_quarn; echo ${COMPREPLY[*]}")
+            return subprocess.run(["bash", "-c", script], capture_output=True, check=True,
+                                  text=True).stdout.split()
+        self.assertEqual(complete("quarn", "d"), ["der", "dump"])
+        self.assertEqual(complete("quarn", "json", "--co"), ["--compact", "--color"])
+        self.assertEqual(complete("quarn", "json", "--in-form", "d"), ["der"])
+
+    @unittest.skipUnless("QUARN_MAN" in os.environ and shutil.which("man"), "no man page to test")
+    def test_man_page_has_no_warnings_and_every_option(self):
+        done = subprocess.run(["man", "--warnings", "-E", "UTF-8", "-l", os.environ["QUARN_MAN"]],
+                              capture_output=True, check=True, env={**ENVIRONMENT, "MANWIDTH": "100"})
+        self.assertEqual(done.stderr, b"")
+        for option in ("--in-form", "--recursive", "--lines", "--no-dig", "--pem", "EXIT STATUS"):
+            self.assertIn(option, done.stdout.decode())
+
+
+class Input(Case):
+    def test_every_form_is_found_by_itself(self):
+        pem = "explanation\n-----BEGIN X-----\nMAMCAQU=\n-----END X-----\n"
+        for form, text in [("der", SEQUENCE), ("hex", b"0x30 03:02\n01 05\n"), ("hex", b"3003020105"),
+                           ("base64", b"MAMCAQU=\n"), ("base64", b"MAMC\nAQU"),
+                           ("pem", pem.encode()), ("pem", pem.replace("\n", "\r\n").encode())]:
+            for arguments in ([], ["--in-form", form]):
+                with self.subTest(text=text, arguments=arguments):
+                    run = Run("json", "--compact", *arguments, data=text)
+                    self.check(run, 0)
+                    self.assertEqual(json.loads(run.out)["value"], [{"type": "INTEGER", "value": 5}])
+
+    def test_der_that_holds_a_pem_block_is_der(self):
+        text = b"\n-----BEGIN X-----\nMAMCAQU=\n-----END X-----\n"
+        self.assertEqual(Run("json", data=b"\x04" + bytes([len(text)]) + text).out.count("OCTETSTRING"), 1)
+
+    def test_several_objects_have_indexes_and_offsets(self):
+        pem = self.file("two.pem", "-----BEGIN A-----\nBQA=\n-----END A-----\ntext\n"
+                                   "-----BEGIN B-----\nBQ!A=\n-----END B-----\n"
+                                   "-----BEGIN C-----\nMAMCAQU=\n-----END C-----\n")
+        found = Run("json", "--lines", pem)
+        self.check(found, 5)
+        records = found.records()
+        self.assertEqual([(r["index"], r["offset"], "error" in r) for r in (records[0], records[2])],
+                         [(0, 0, False), (2, pathlib.Path(pem).read_text().index("-----BEGIN C"), False)])
+        self.assertEqual(records[2]["label"], "C")
+        self.assertEqual(records[1]["error"]["exit"], 1)
+        records = Run("json", "--lines", data=NULL + SEQUENCE + b"\x30\x80\x05\0\0\0" + b"\n").records()
+        self.assertEqual([(r["offset"], r["length"]) for r in records], [(0, 2), (2, 5), (7, 6), (13, 1)])
+        self.assertIn("error", records[3])
+
+    def test_bad_text_is_refused_with_its_offset(self):
+        for form, text, message in [("hex", b"30 0g", "offset 4: 'g' is no hexadecimal digit"),
+                                    ("hex", b"300", "odd number"), ("base64", b"MAM*", "offset 3"),
+                                    ("pem", b"none", "holds no PEM block"),
+                                    ("auto", b"This is a letter.\n", "looks like text")]:
+            with self.subTest(text):
+                self.check(Run("json", "--in-form", form, data=text), 1, message)
+
+    def test_files_that_cannot_be_read(self):
+        self.check(Run("json", self.folder.name), 3, "is a directory; --recursive")
+        self.check(Run("dump", self.file("empty", "")), 1, "the input is empty")
+        self.check(Run("der", str(self.path / "none")), 3, "cannot be read")
+
+    def test_directories_are_walked_in_order_and_one_bad_file_hides_nothing(self):
+        self.file("b", SEQUENCE)
+        self.file("a/z", NULL)
+        self.file("a/bad\x1b\u202e", b"\x30")
+        os.symlink(self.path, self.path / "a/loop")
+        run = Run("json", "--lines", "-r", self.folder.name)
+        self.check(run, 5)
+        names = [os.path.relpath(r["source"], self.path) for r in run.records()]
+        self.assertEqual(names, ["a/bad\x1b\u202e", "a/z", "b"])
+        self.assertNotIn("\x1b", run.out)
+        run = Run("dump", "-r", self.folder.name)
+        self.check(run, 5, r"a/bad\u{1B}\u{202E}")
+
+
+class Json(Case):
+    def test_documents_turn_back_into_the_same_octets(self):
+        for octets in [SEQUENCE, NULL + SEQUENCE, bytes.fromhex("30800101ff24800401410000a1800000"
+                                                                "0c01ff020200050000")]:
+            for arguments in ([], ["--compact"], ["--lines"]):
+                self.assertEqual(Run("der", data=Run("json", *arguments, data=octets).raw).raw, octets)
+
+    def test_errors_in_documents_are_shown_with_their_place(self):
+        for text, *message in [
+                ('{"type":"SEQUENCE",\n "value":[,]}', "line 2, column 11, offset 30", "          ^"),
+                ('{"type":"NULL"', "offset 14", "ends in the middle"), ("", "holds no JSON"),
+                ("garbage", "line 1, column 1, offset 0"),
+                ('{"type":"SET","value":[{"type":"NULL"},{"type":"SET","value":[{"type":"N\\u001b"}]}]}',
+                 "/value/1/value/0", '{"type":"N'),
+                ('{"source":"a","error":{}}', "reports an error")]:
+            with self.subTest(text):
+                run = Run("der", data=text.encode())
+                self.check(run, 1, *message)
+                self.assertNotIn("\x1b", run.err)
+
+    def test_output_file_is_replaced_only_when_all_went_well(self):
+        target = pathlib.Path(self.file("out", "old"))
+        target.chmod(0o640)
+        link = self.path / "link"
+        link.symlink_to(target)
+        self.check(Run("der", "-o", str(link), data=b'{"type":"NIL"}'), 1, "no encoding")
+        self.assertEqual(target.read_bytes(), b"old")
+        self.check(Run("der", "-o", str(link), data=b'{"type":"NULL"}'), 0)
+        self.assertEqual((target.read_bytes(), target.stat().st_mode & 0o777, link.is_symlink()),
+                         (NULL, 0o640, True))
+        self.assertEqual(sorted(os.listdir(self.path)), ["link", "out"])
+        self.check(Run("der", "-o", "/dev/null", data=b'{"type":"NULL"}'), 0)
+        self.check(Run("der", "-o", str(self.path / "no/out"), data=b"{}"), 3, "cannot be written")
+
+    def test_text_forms_of_octets(self):
+        data = b'{"type":"NULL"} {"type":"NULL"}'
+        self.assertEqual(Run("der", "--hex", data=data).out, "0500\n0500\n")
+        self.assertEqual(Run("der", "--pem", "X Y", data=data).out,
+                         2 * "-----BEGIN X Y-----\nBQA=\n-----END X Y-----\n")
+
+
+class Dump(Case):
+    def rows(self, octets, *arguments):
+        run = Run("dump", *arguments, data=octets)
+        self.check(run, 0)
+        return [" ".join(line.split()) for line in run.lines[1:]]
+
+    def test_values_are_shown_for_people(self):
+        for octets, row in [
+                ("010100", "BOOLEAN FALSE"), ("010101", "BOOLEAN TRUE (0x1)"),
+                ("0201ff", "INTEGER -1"), ("02087fffffffffffffff", "INTEGER 9223372036854775807"),
+                ("0209008000000000000000", "INTEGER (9 octets) 00 80 00 00 00 00 00 00 00"),
+                ("0200", "INTEGER (no INTEGER)"), ("03020520", "BIT STRING (3 bits) '001'B"),
+                ("03020920", "BIT STRING (no BIT STRING) 09 20"), ("0500", "NULL"),
+                ("0603550403", "OID 2.5.4.3 commonName"), ("060388370a", "OID 2.999.10"),
+                ("06028001", "OID (no OID that can be shown) 80 01"), ("0d0187", "RELATIVE-OID (no RELATIVE-OID that can be shown) 87"),
+                ("170d3439313233313233353935395a", "UTCTime 2049-12-31 23:59:59 UTC"),
+                ("170d3530303130313030303030305a", "UTCTime 1950-01-01 00:00:00 UTC"),
+                ("18153230323630313031313230303030" + "2e352b30313030", "GeneralizedTime 2026-01-01 12:00:00.5+0100"),
+                ("17023131", "UTCTime (no time) '11'"), ("1e0400e4202e", "BMPString 'ä\\u{202E}'"),
+                ("1c040001f600", "UniversalString '\U0001f600'"), ("800161", "[0] (1 octet) 61"),
+                ("8203612e62", "[2] 'a.b'"), ("5f8101026162", "[APPLICATION 129] 'ab'"),
+                ("0403010203", "OCTET STRING (3 octets) 01 02 03"), ("0400", "OCTET STRING (empty)")]:
+            with self.subTest(octets):
+                self.assertIn(row, self.rows(bytes.fromhex(octets))[0])
+
+    def test_strings_that_hold_encodings_are_opened_with_absolute_offsets(self):
+        octets = bytes.fromhex("300d04053003020105030400050100")
+        self.assertEqual([row.split()[0] for row in self.rows(octets)], ["0", "2", "4", "6", "9"])
+        self.assertIn("OCTET STRING encapsulates", self.rows(octets)[1])
+        self.assertEqual(len(self.rows(octets, "--no-dig")), 3)
+        self.assertEqual(len(self.rows(octets, "--depth", "1")), 3)
+        self.assertIn("encapsulates", self.rows(bytes.fromhex("0306003003020105"))[0])
+
+    def test_everything_up_to_a_fault_is_shown(self):
+        run = Run("dump", data=bytes.fromhex("3080020105300404"))
+        self.check(run, 1, "offset 7 (0x7)", "path      SEQUENCE[1].SEQUENCE[0]\n",
+                   "[04]", "library   0x10103")
+        self.assertEqual(len(run.lines), 4)
+
+    def test_nothing_hidden_in_text_reaches_the_terminal(self):
+        for arguments in (["dump"], ["json"], ["json", "--lines"]):
+            out = Run(*arguments, data=HOSTILE).raw
+            for octet in out:
+                self.assertTrue(octet == 10 or octet >= 32 and octet != 127, arguments)
+        shown = Run("dump", data=HOSTILE).lines[1]
+        self.assertIn(r"'a\u{1B}[31m\u{202E}b\u{2028}c\u{7F}\u{85}\u{FEFF}d\r\ne\xFF\xC0\x80'", shown)
+
+    def test_colour_follows_option_and_environment(self):
+        for arguments, variables, colored in [
+                ([], {}, False), (["--color=always"], {}, True), ([], {"CLICOLOR_FORCE": "1"}, True),
+                ([], {"CLICOLOR_FORCE": "1", "NO_COLOR": "1"}, False), ([], {"CLICOLOR_FORCE": "0"}, False),
+                (["--color=never"], {"CLICOLOR_FORCE": "1"}, False)]:
+            run = Run("dump", *arguments, data=NULL, **variables)
+            self.assertEqual("\x1b[" in run.out, colored, (arguments, variables))
+        for term, colored in (("xterm", True), ("dumb", False)):
+            master, slave = pty.openpty()
+            subprocess.run([QUARN, "dump"], input=NULL, stdout=slave, check=True,
+                           env={**ENVIRONMENT, "TERM": term})
+            self.assertEqual(b"\x1b[" in os.read(master, 4096), colored, term)
+            os.close(master)
+            os.close(slave)
+
+
+class Errors(Case):
+    def test_each_fault_is_named_with_place_and_expectation(self):
+        for octets, offset, path, found in [
+                ("3004020401020304", 2, "SEQUENCE[0].INTEGER", "INTEGER with 4 octets"),
+                ("30023080", 4, "SEQUENCE[0].SEQUENCE[0]", "the end of the element around it"),
+                ("3080020105", 5, "SEQUENCE[1]", "the end of the input"),
+                ("300405000000", 4, "SEQUENCE[1].END-OF-CONTENTS", "nothing of indefinite length"),
+                ("308000810000", 2, None, "not 00 00"),
+                ("02800000", 0, "INTEGER", "primitive INTEGER of indefinite length"),
+                ("1f0100", 0, None, "tag number 1 in the long form"),
+                ("1fffffffffffffffffffff7f00", 0, None, "more than 64 bits"),
+                ("04ff", 1, None, "length octet FF"),
+                ("0489ffffffffffffffffff", 1, None, "does not fit 63 bits"),
+                ("048440000000", 0, "OCTET STRING", "1073741824 octets"),
+                ("3004010201ff", 2, "SEQUENCE[0].BOOLEAN", "primitive BOOLEAN with 2 octets"),
+                ("a08010020000" + "0000", 2, "[0][0].SEQUENCE", "primitive SEQUENCE")]:
+            with self.subTest(octets):
+                error = Run("json", "--lines", "--in-form=der", data=bytes.fromhex(octets)).records()[0]
+                error = error["error"]
+                self.assertEqual((error["exit"], error["offset"]), (1, offset), error)
+                self.assertIn(found, error["found"])
+                self.assertTrue(error["expected"] and error["octets"]["hex"], error)
+                if path is not None:
+                    self.assertEqual(error["path"], path)
+
+    def test_deep_nesting_ends_well_on_a_small_stack(self):
+        def small_stack(command, octets):
+            return subprocess.run(["sh", "-c", 'ulimit -s 256; exec "$0" "$@"', QUARN, *command],
+                                  input=octets, capture_output=True, timeout=300, env=ENVIRONMENT, check=False)
+        depth = 50000
+        definite = b""
+        for _ in range(depth):
+            size = len(definite)
+            count = (size.bit_length() + 7) // 8
+            length = bytes([size]) if size < 128 else bytes([0x80 | count]) + size.to_bytes(count, "big")
+            definite = b"\x30" + length + definite
+        text = small_stack(["json", "--compact"], definite).stdout
+        self.assertEqual(small_stack(["der"], text).stdout, definite)
+        indefinite = b"\x30\x80" * depth + b"\0\0" * depth
+        done = small_stack(["dump", "--color=never"], indefinite)
+        self.assertEqual((done.returncode, done.stdout.count(b"\n")), (0, 2 * depth + 1))
+        self.assertLess(len(done.stdout), 130 * 2 * depth)
+        done = small_stack(["json"], indefinite)
+        self.assertEqual(done.returncode, 4)
+        self.assertIn(b"128 elements of indefinite length", done.stderr)
+
+    def test_a_broken_standard_output_ends_the_run(self):
+        with open("/dev/full", "wb") as full:
+            for arguments in (["types"], ["json"], ["--help"]):
+                done = subprocess.run([QUARN, *arguments], input=SEQUENCE, stdout=full,
+                                      stderr=subprocess.PIPE, env=ENVIRONMENT, check=False)
+                self.assertEqual(done.returncode, 3)
+                self.assertIn(b"cannot write to the standard output: No space left", done.stderr)
+        process = subprocess.Popen([QUARN, "types"], stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        process.stdout.close()
+        self.assertEqual(process.stderr.read(), b"")
+        process.stderr.close()
+        self.assertEqual(process.wait(), -13)
+
+
+class Tables(Case):
+    def test_types_are_found_by_part_of_the_name_and_by_pattern(self):
+        run = Run("types")
+        self.assertEqual(len(run.lines), 421)
+        self.assertEqual(Run("types", "BOOL").lines[1].split()[:6],
+                         ["1", "boolean", "1", "primitive", "0x1020d", "0x1020e"])
+        rows = json.loads(Run("types", "--json", "*Time").out)
+        self.assertEqual([row["name"] for row in rows][:3], ["time", "utctime", "gentime"])
+        self.check(Run("types", "zzz"), 1, "no type's name matches 'zzz'")
+
+    def test_codes_are_explained(self):
+        run = Run("error", "0x10203", "66062", "0x10103", "0x10000")
+        self.check(run, 0)
+        for text in ("Bad length", "decode boolean fail", "decoding  boolean", "stream", "general",
+                     "QUARN_STREAM_ERROR_END"):
+            self.assertIn(text, run.out)
+        self.assertEqual(Run("error", "--json", "0x1020d").records()[0]["encoding"], ["boolean"])
+        self.check(Run("error", "1", "0x10203"), 5, "no library has a code 0x1")
+
+
+@unittest.skipUnless(shutil.which("openssl"), "needs the openssl command")
+class RealFiles(Case):
+    def openssl(self, *arguments, data=None):
+        subprocess.run(["openssl", *arguments], check=True, capture_output=True, input=data, cwd=self.path)
+
+    def test_what_openssl_makes_comes_back_octet_for_octet(self):
+        key, cert = self.path / "key.pem", self.path / "cert.pem"
+        self.openssl("req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:P-256", "-nodes",
+                     "-keyout", str(key), "-out", str(cert), "-subj", "/CN=a b/O=c", "-addext",
+                     "subjectAltName=DNS:example.com,IP:::1")
+        self.openssl("cms", "-sign", "-signer", str(cert), "-inkey", str(key), "-outform", "DER",
+                     "-out", "cms.der", "-stream", "-indef", "-nodetach", "-binary", data=b"x" * 5000)
+        self.openssl("req", "-new", "-key", str(key), "-subj", "/CN=r", "-outform", "DER", "-out", "req.der")
+        self.openssl("x509", "-in", str(cert), "-outform", "DER", "-out", "cert.der")
+        for name in ("cms.der", "req.der", "cert.der"):
+            octets = (self.path / name).read_bytes()
+            self.assertEqual(Run("der", data=Run("json", str(self.path / name)).raw).raw, octets)
+            parsed = subprocess.run(["openssl", "asn1parse", "-inform", "DER", "-in", name], check=True,
+                                    capture_output=True, cwd=self.path, text=True).stdout
+            offsets = [line.split(":")[0].strip() for line in parsed.splitlines()]
+            rows = Run("dump", "--no-dig", str(self.path / name)).lines[1:]
+            self.assertEqual([row.split()[0] for row in rows], offsets)
+        both = self.file("both.pem", cert.read_bytes() + key.read_bytes())
+        self.assertEqual([r["label"] for r in Run("json", "--lines", both).records()],
+                         ["CERTIFICATE", "PRIVATE KEY"])
+        self.assertIn("2.5.29.17 subjectAltName", Run("dump", str(cert)).out)
+
+
+if __name__ == "__main__":
+    unittest.main()
