@@ -205,6 +205,12 @@ Status read_element_header(Reader &in, Element &out) {
 
 Status find_element(Reader &in, Element &out) {
   if (const Status status = read_element_header(in, out); !status) return status;
+  const auto claimed = static_cast<std::uint64_t>(out.content_length);
+  if (claimed <= in.left()) [[likely]] {  // the indefinite form claims more than any memory holds
+    in.advance(claimed);
+    out.content_size = claimed;
+    return Status::success();
+  }
   const std::uint64_t start = in.count();
   if (!out.end_of_contents) {
     if (const Status status = pass_content(in, out.content_length, nullptr); !status) return status;

@@ -19,16 +19,37 @@ namespace {
 
 constexpr Unit kUnit{"QUARN_ASN1_List"};
 
-constexpr std::int32_t kFirstCapacity = 4;
+// Elements for which there is room in the list itself: fills a block of 40 octets.
+constexpr std::int32_t kMostNear = 3;
+
+// An empty list with room for so many elements, at most kMostNear, in its own block; null when
+// memory is short.
+quarn_asn1_list *new_list(std::int32_t room) {
+  auto *list = util::allocate<quarn_asn1_list>(static_cast<std::size_t>(room) * sizeof(void *));
+  if (list == nullptr) return nullptr;
+  list->items = list->near();
+  list->capacity = room;
+  return list;
+}
+
+// The room that content of a length, no element of which is shorter than two octets, calls for.
+std::int32_t room_for(std::int64_t length) {
+  if (length < 0 || length >= 2 * kMostNear) return kMostNear;
+  return static_cast<std::int32_t>((length + 1) / 2);
+}
+
+void free_items(quarn_asn1_list &list) {
+  if (list.items != list.near()) quarn_free(list.items);
+}
 
 bool grow(quarn_asn1_list &list) {
-  std::int32_t capacity = list.capacity == 0 ? kFirstCapacity : list.capacity;
+  std::int32_t capacity = list.capacity == 0 ? kMostNear : list.capacity;
   if (list.capacity != 0 && !multiply_by<std::int32_t>(capacity, 2)) return false;
   auto **items = util::allocate_array<void *>(static_cast<std::size_t>(capacity));
   if (items == nullptr) return false;
   const auto count = static_cast<std::size_t>(list.count);
   if (count > 0) std::memcpy(items, list.items, count * sizeof(void *));
-  quarn_free(list.items);
+  free_items(list);
   list.items = items;
   list.capacity = capacity;
   return true;
@@ -43,7 +64,7 @@ template <typename Release>
 void free_with(quarn_asn1_list *list, Release release) {
   if (list == nullptr) return;
   for (std::int32_t i = 0; i < list->count; i++) release(list->items[i]);
-  quarn_free(list->items);
+  free_items(*list);
   quarn_free(list);
 }
 
@@ -78,8 +99,8 @@ Status encode_with(Writer &out, const quarn_asn1_list *list, std::int64_t length
 template <typename Elements>
 class Building {
  public:
-  explicit Building(Elements &elements)
-      : elements_(elements), list_(util::allocate<quarn_asn1_list>()) {}
+  Building(Elements &elements, std::int64_t length)
+      : elements_(elements), list_(new_list(room_for(length))) {}
   Building(const Building &) = delete;
   Building &operator=(const Building &) = delete;
   ~Building() {
@@ -239,7 +260,7 @@ Status decode_with(Reader &in,
   if (out != nullptr) *out = nullptr;
   if (in.is_null() || out == nullptr) return kUnit.fail(in.ctx(), QUARN_ERROR_ARGUMENT);
   if (primitive) return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_FORM, in.offset());
-  Building list(elements);
+  Building list(elements, length);
   if (list.get() == nullptr) return kUnit.fail(in.ctx(), QUARN_ERROR_NO_MEMORY, in.offset());
   if (length < kIndefinite) return kUnit.fail(in.ctx(), QUARN_ERROR_RANGE, in.offset());
   if (length != 0) {
@@ -347,7 +368,7 @@ const Codec kAnylist1Codec = {free_anylist,   anylist_content_length, nullptr,
 using namespace quarn::asn1;
 
 quarn_asn1_list *quarn_asn1_list_new(void) {
-  return quarn::util::allocate<quarn_asn1_list>();
+  return new_list(kMostNear);
 }
 
 int quarn_asn1_list_put(quarn_asn1_list *l, void *element) {

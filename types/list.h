@@ -1,8 +1,9 @@
 // Lists: the values of every SEQUENCE OF and SET OF.
 //
 // A list holds pointers to its elements and nothing about their type, which each operation is told.
-// Room for elements is allocated with the first one and doubles, so that an empty list, of which
-// hostile input can hold one for every two octets, is one small block.
+// The first few lie in the list's own block; more get a block of their own, which doubles. A list
+// that is decoded has no more room at first than its content can fill, so that an empty one, of
+// which hostile input can hold one for every two octets, is one small block.
 #ifndef QUARN_TYPES_LIST_H
 #define QUARN_TYPES_LIST_H
 
@@ -13,6 +14,9 @@ struct quarn_asn1_list {
   void **items;
   std::int32_t capacity;
   std::int32_t count;
+
+  // The room in the list's own block.
+  void **near() { return reinterpret_cast<void **>(this + 1); }
 };
 
 namespace quarn::asn1 {

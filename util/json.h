@@ -1,15 +1,14 @@
 // The tree behind the JSON handles.
 //
 // A value is one block that never moves, so that handles stay valid: a fixed head, then the number,
-// the text with its NUL, or the pointer to the children.
+// the text with its NUL, or the pointers to a few children, or to more in a block of their own.
 //
 //     {"type":"SET","value":[5]}
 //
-//     [object, 2 | o ]        [array, 1, "value" | o ]--->[number | 5.0]
-//                  |                ^
-//                  +-->[ o | o ]----+                one child: pointed to directly;
-//                        |                           more: a block of pointers, doubled when full
-//                        +-->[string, 3, "type" | SET\0]
+//     [object, 2 | o o . ]    [array, 1, "value" | o . . ]--->[number | 5.0]
+//                  | |              ^
+//                  | '--------------'               up to three children: pointed to directly;
+//                  '-->[string, 3, "type" | SET\0]    more: a block of pointers, doubled when full
 //
 // A value also holds its key, its parent and its position there. That is enough to walk, print and
 // free a tree of any depth with neither recursion nor a stack.
@@ -34,6 +33,14 @@ inline constexpr Unit kJsonUnit{"QUARN_JSON"};
 class JsonKey {
  public:
   std::string_view view() const { return {length_ <= sizeof near_ ? near_ : far(), length_}; }
+
+  // Mostly told by length and first octet.
+  bool is(std::string_view octets) const {
+    if (length_ != octets.size()) return false;
+    const char *own = view().data();
+    return octets.empty() ||
+           (*own == octets.front() && std::memcmp(own, octets.data(), octets.size()) == 0);
+  }
 
   // Makes an empty key a copy of the octets; false when memory is short.
   bool assign(std::string_view octets) {
@@ -70,6 +77,9 @@ uint64_t keyed_hash(std::string_view octets);
 }  // namespace quarn::util
 
 struct quarn_json {
+  // Children that are pointed to from the value's own block.
+  static constexpr uint32_t kMostNear = 3;
+
   quarn_json *parent = nullptr;
   uint32_t position = 0;  // among the parent's children
   uint32_t size = 0;      // octets of text, number of children, or whether a boolean is true
@@ -83,7 +93,7 @@ struct quarn_json {
 
   // Pointers to the children of a value that has some.
   quarn_json *const *children() const {
-    if (size == 1) return reinterpret_cast<quarn_json *const *>(this + 1);
+    if (size <= kMostNear) return reinterpret_cast<quarn_json *const *>(this + 1);
     return *reinterpret_cast<quarn_json **const *>(this + 1);
   }
   // The child after this one; null for the last and for a value without a parent.
@@ -105,7 +115,7 @@ quarn_json *json_new_text(std::string_view octets);
 quarn_json *json_find(const quarn_json *object, std::string_view key);
 // Makes value, which has no parent and no key, the last child of container. The key is taken over
 // when it succeeds; for an object it must be a new one. False when memory or positions run out.
-bool json_append(quarn_json *container, quarn_json *value, JsonKey key);
+bool json_append(quarn_json *container, quarn_json *value, const JsonKey &key);
 
 }  // namespace quarn::util
 

@@ -13,7 +13,9 @@ namespace {
 // position plus 1, or 0.
 constexpr uint32_t kMostUnindexed = 16;
 
-// Number of pointers in the block of a value with two or more children.
+constexpr std::size_t kNearRoom = quarn_json::kMostNear * sizeof(quarn_json *);
+
+// Number of pointers in the block of a value that has one.
 uint64_t capacity(const quarn_json *container) {
   return std::bit_ceil(uint64_t{container->size});
 }
@@ -27,7 +29,7 @@ uint32_t *find_cell(quarn_json *const *children, uint64_t pointers, std::string_
   auto *cells = reinterpret_cast<uint32_t *>(const_cast<quarn_json **>(children + pointers));
   const uint64_t mask = 2 * pointers - 1;
   uint64_t at = keyed_hash(key) & mask;
-  while (cells[at] != 0 && children[cells[at] - 1]->key.view() != key) at = (at + 1) & mask;
+  while (cells[at] != 0 && !children[cells[at] - 1]->key.is(key)) at = (at + 1) & mask;
   return &cells[at];
 }
 
@@ -52,11 +54,14 @@ quarn_json **grown_block(const quarn_json *container, uint64_t pointers) {
 
 // Makes room for one more child; false when that cannot be.
 bool reserve(quarn_json *container) {
-  if (container->size == UINT32_MAX) return false;
-  if (!std::has_single_bit(container->size)) return true;
-  quarn_json **block = grown_block(container, uint64_t{container->size} * 2);
+  const uint32_t size = container->size;
+  if (size < quarn_json::kMostNear) return true;
+  if (size == UINT32_MAX) return false;
+  const bool first = size == quarn_json::kMostNear;
+  if (!first && (size & (size - 1)) != 0) return true;  // the block is full at powers of two
+  quarn_json **block = grown_block(container, std::bit_ceil(uint64_t{size} + 1));
   if (block == nullptr) return false;
-  if (container->size > 1) quarn_free(const_cast<quarn_json **>(container->children()));
+  if (!first) quarn_free(const_cast<quarn_json **>(container->children()));
   new (container + 1) quarn_json **(block);
   return true;
 }
@@ -94,7 +99,8 @@ bool may_add(const quarn_json *container, quarn_json_kind kind, const quarn_json
 quarn_json *release(quarn_json *j) {
   quarn_json *parent = j->parent;
   j->key.clear();
-  if (j->is_container() && j->size > 1) quarn_free(const_cast<quarn_json **>(j->children()));
+  if (j->is_container() && j->size > quarn_json::kMostNear)
+    quarn_free(const_cast<quarn_json **>(j->children()));
   quarn_free(j);
   return parent;
 }
@@ -134,17 +140,13 @@ quarn_json *json_find(const quarn_json *object, std::string_view key) {
     return cell == 0 ? nullptr : children[cell - 1];
   }
   for (uint32_t i = 0; i < object->size; i++) {
-    if (children[i]->key.view() == key) return children[i];
+    if (children[i]->key.is(key)) return children[i];
   }
   return nullptr;
 }
 
-bool json_append(quarn_json *container, quarn_json *value, JsonKey key) {
-  if (container->size == 0) {
-    new (container + 1) quarn_json *(value);
-  } else if (!reserve(container)) {
-    return false;
-  }
+bool json_append(quarn_json *container, quarn_json *value, const JsonKey &key) {
+  if (!reserve(container)) return false;
   value->parent = container;
   value->position = container->size++;
   value->key = key;
@@ -165,11 +167,11 @@ quarn_json *quarn_json_newnull(void) {
 }
 
 quarn_json *quarn_json_newobject(void) {
-  return json_new(QUARN_JSON_OBJECT, sizeof(quarn_json *));
+  return json_new(QUARN_JSON_OBJECT, quarn::util::kNearRoom);
 }
 
 quarn_json *quarn_json_newarray(void) {
-  return json_new(QUARN_JSON_ARRAY, sizeof(quarn_json *));
+  return json_new(QUARN_JSON_ARRAY, quarn::util::kNearRoom);
 }
 
 quarn_json *quarn_json_newstring(const char *text, uint32_t length) {

@@ -1,0 +1,76 @@
+// The certificates that are measured: those that every Debian system has.
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include "bench/bench.h"
+#include "quarn_util.h"
+
+namespace bench {
+
+namespace {
+
+constexpr const char *kFolder = "/usr/share/ca-certificates/mozilla";
+
+Octets certificate(const std::string &path) {
+  quarn_data_blob *file = quarn_data_blob_fromfile(path.c_str(), nullptr);
+  require(file != nullptr, "read " + path);
+  std::uint8_t *octets = nullptr;
+  std::int64_t count = 0;
+  const int result = quarn_pemdecode("CERTIFICATE", reinterpret_cast<const char *>(file->data),
+                                     file->length, &octets, &count);
+  quarn_data_blob_free(file);
+  require(result == 1, "find a certificate in " + path);
+  Octets der(octets, octets + count);
+  quarn_free(octets);
+  return der;
+}
+
+std::vector<Octets> read_certificates() {
+  std::vector<std::string> paths;
+  std::error_code error;
+  for (const auto &entry : std::filesystem::directory_iterator(kFolder, error)) {
+    if (entry.path().extension() == ".crt") paths.push_back(entry.path());
+  }
+  require(!paths.empty(), std::string("find certificates in ") + kFolder);
+  std::sort(paths.begin(), paths.end());
+  std::vector<Octets> all;
+  for (const std::string &path : paths) all.push_back(certificate(path));
+  return all;
+}
+
+}  // namespace
+
+const std::vector<Octets> &certificates() {
+  static const std::vector<Octets> kAll = read_certificates();
+  return kAll;
+}
+
+std::size_t octets_of_certificates() {
+  std::size_t sum = 0;
+  for (const Octets &der : certificates()) sum += der.size();
+  return sum;
+}
+
+Octets element(std::uint8_t identifier, const Octets &content) {
+  Octets der{identifier};
+  if (content.size() < 0x80) {
+    der.push_back(static_cast<std::uint8_t>(content.size()));
+  } else {
+    der.push_back(0x84);
+    for (int shift = 24; shift >= 0; shift -= 8) {
+      der.push_back(static_cast<std::uint8_t>(content.size() >> shift));
+    }
+  }
+  der.insert(der.end(), content.begin(), content.end());
+  return der;
+}
+
+void require(bool good, const std::string &what) {
+  if (good) return;
+  std::fprintf(stderr, "quarn_bench: cannot %s\n", what.c_str());
+  std::exit(2);
+}
+
+}  // namespace bench

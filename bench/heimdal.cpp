@@ -1,0 +1,41 @@
+#include "bench/peers.h"
+
+// Its headers are written for C and for other warnings than ours.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wpedantic"
+extern "C" {
+#include <heimdal/asn1_err.h>
+// The rest after what it needs.
+#include <heimdal/rfc2459_asn1.h>
+// And this last.
+#include <heimdal/der.h>
+}
+#pragma GCC diagnostic pop
+
+namespace bench {
+
+bool header_heimdal(const std::uint8_t *octets, std::size_t count, Found &found) {
+  Der_class tag_class{};
+  Der_type type{};
+  unsigned number = 0;
+  std::size_t identifier_length = 0;
+  std::size_t length = 0;
+  std::size_t length_length = 0;
+  if (der_get_tag(octets, count, &tag_class, &type, &number, &identifier_length) != 0 ||
+      der_get_length(octets + identifier_length, count - identifier_length, &length,
+                     &length_length) != 0) {
+    return false;
+  }
+  found = {number, length, identifier_length + length_length, type == CONS};
+  return true;
+}
+
+bool decode_heimdal(const Octets &der) {
+  Certificate certificate;
+  std::size_t size = 0;
+  if (decode_Certificate(der.data(), der.size(), &certificate, &size) != 0) return false;
+  free_Certificate(&certificate);
+  return true;
+}
+
+}  // namespace bench
