@@ -7,7 +7,7 @@ target_compile_options(quarn_flags INTERFACE
   $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast -Wnon-virtual-dtor>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # False alarms about std::string in optimised builds (GCC bug 105651).
-  target_compile_options(quarn_flags INTERFACE -Wno-restrict)
+  target_compile_options(quarn_flags INTERFACE $<$<NOT:$<CONFIG:Debug>>:-Wno-restrict>)
 endif()
 if(QUARN_WERROR)
   target_compile_options(quarn_flags INTERFACE -Werror)
