@@ -18,6 +18,8 @@ function(quarn_add_test_program folder)
                         GTest::gtest GTest::gtest_main)
   target_compile_definitions(quarn_test_${folder} PRIVATE QUARN_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   add_test(NAME ${folder} COMMAND quarn_test_${folder} --gtest_brief=1)
+  set_tests_properties(${folder} PROPERTIES
+    ENVIRONMENT "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/thread_sanitizer.supp")
 endfunction()
 
 foreach(folder util unit vectors laws)
