@@ -79,20 +79,33 @@ struct rapidjson::StreamTraits<quarn::util::TextStream> {
 namespace quarn::util {
 namespace {
 
-// Memory of the reader's stack, which holds 8 octets a level and the string or number at hand. The
-// reader counts these in 32 bits, so that the stack must stay below that.
+// Memory of the reader's stack, which holds 8 octets a level and the string or number at hand: one
+// block, at first this object itself. The reader counts it in 32 bits, so that it must stay below
+// that.
 class StackMemory {
  public:
-  static const bool kNeedFree = true;
+  static const bool kNeedFree = false;
+
+  StackMemory() = default;
+  StackMemory(const StackMemory &) = delete;
+  StackMemory &operator=(const StackMemory &) = delete;
+  ~StackMemory() { quarn_free(block_); }
 
   void *Realloc(void *old, std::size_t old_size, std::size_t new_size) {
+    if (block_ == nullptr && new_size <= sizeof near_) return near_;
     void *block = new_size <= INT32_MAX ? allocate_array<char>(new_size) : nullptr;
     if (block == nullptr) throw std::bad_alloc();
     if (old != nullptr) std::memcpy(block, old, std::min(old_size, new_size));
-    Free(old);
+    quarn_free(block_);
+    block_ = block;
     return block;
   }
-  static void Free(void *block) { quarn_free(block); }
+  // The reader has only one block, which goes with this object.
+  static void Free(void * /*block*/) {}
+
+ private:
+  void *block_ = nullptr;
+  alignas(std::max_align_t) char near_[2048];
 };
 
 struct LoneSurrogate {};
