@@ -30,6 +30,7 @@ install:
 	cmake -S . -B build/install -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=$(PREFIX) -DQUARN_BUILD_TESTS=OFF
 	cmake --build build/install -j $(JOBS)
 	cmake --install build/install
+	@[ -n "$(DESTDIR)" ] || [ "$$(id -u)" != 0 ] || ldconfig
 
 bench:
 	@tools/setup.sh bench

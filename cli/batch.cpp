@@ -117,14 +117,7 @@ void Batch::visit_object(const Source &source, const Object &object) {
     if (object.unreadable) throw Failure(*object.unreadable);
     visitor_.object(source, object, files_.size() > 1 || source.objects().size() > 1);
   } catch (const Failure &failure) {
-    const bool text = source.looks_like_text() && object.index == 0 && failure.report() != nullptr;
-    if (!text) return failed(source.path(), &object, failure);
-    failed(source.path(), &object,
-           {failure.code(),
-            std::string("looks like text, but is neither PEM nor hexadecimal nor base64; read as "
-                        "DER, at ") +
-                failure.what(),
-            std::make_shared<const Report>(*failure.report())});
+    failed(source.path(), &object, failure);
   } catch (const std::bad_alloc &) {
     failed(source.path(), &object, {kLimit, "not enough memory"});
   }

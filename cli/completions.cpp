@@ -45,14 +45,15 @@ std::string option_names(const Command *command) {
 
 std::string bash_values() {
   std::string text;
-  std::string plain;
   for (const Command &command : commands()) {
     for (const Option *each : options_of(&command)) {
-      const std::string names = replaced(each->names, ",", "|");
-      if (each->value == nullptr || text.find("    " + names + ")") != std::string::npos) continue;
+      std::string label = "    ";
+      label.append(replaced(each->names, ",", "|")).append(")");
+      if (each->value == nullptr || text.find(label) != std::string::npos) continue;
       const bool file = std::string_view(each->value) == "FILE";
-      const std::string words = file ? "-f" : "-W \"" + choices_of(*each) + "\"";
-      text += "    " + names + ") COMPREPLY=($(compgen " + words + " -- \"$cur\")); return ;;\n";
+      text.append(label).append(" COMPREPLY=($(compgen ");
+      text.append(file ? "-f" : "-W \"" + choices_of(*each) + "\"");
+      text.append(" -- \"$cur\")); return ;;\n");
     }
   }
   return text;

@@ -164,7 +164,11 @@ Source::Source(std::string path, Form form) : path_(std::move(path)), form_(form
   if (text_.empty()) throw Failure(kBadInput, "the input is empty");
   if (form_ == Form::automatic) {
     form_ = recognise(text_);
-    looks_like_text_ = form_ == Form::der && ordinary_text(text_);
+    if (form_ == Form::der && ordinary_text(text_) && !well_formed(text_)) {
+      throw Failure(kBadInput,
+                    "is text, but neither PEM nor hexadecimal nor base64; --in-form der reads it "
+                    "as an encoding all the same");
+    }
   }
   find_objects();
 }

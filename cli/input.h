@@ -43,8 +43,6 @@ class Source {
   const std::vector<Object> &objects() const { return objects_; }
   // The octets of the file as they are.
   Octets text() const { return text_; }
-  // Set when the octets were taken for DER although they look like ordinary text.
-  bool looks_like_text() const { return looks_like_text_; }
 
  private:
   void find_objects();
@@ -60,7 +58,6 @@ class Source {
   std::vector<std::uint8_t> decoded_;
   std::vector<OwnedOctets> blocks_;
   std::vector<Object> objects_;
-  bool looks_like_text_ = false;
 };
 
 // What a sub-command does with each object.

@@ -43,8 +43,9 @@ constexpr const char *kInputText =
     "Every PEM block, and every encoding of a file that holds several one after another, is an "
     "object of its own. Octets that belong to no encoding are an error.";
 
-const std::vector<Command> &table() {
-  static const std::vector<Command> kTable = {
+// Commands that read or make encodings.
+std::vector<Command> encoding_commands() {
+  return {
       {"json",
        "[FILE...]",
        "Show encodings as JSON documents",
@@ -82,7 +83,12 @@ const std::vector<Command> &table() {
         {"echo '30 03 02 01 05' | quarn dump", "a few octets by hand"}},
        0,
        SIZE_MAX,
-       run_dump},
+       run_dump}};
+}
+
+// Commands that tell what the libraries know.
+std::vector<Command> reference_commands() {
+  return {
       {"types",
        "[PATTERN]",
        "List the ASN.1 types that the library names",
@@ -105,9 +111,16 @@ const std::vector<Command> &table() {
        1,
        SIZE_MAX,
        run_error},
-      {"help", "[COMMAND]", "Show help", "Shows help for a command.", {}, {}, 0, 1, run_help},
-  };
-  return kTable;
+      {"help", "[COMMAND]", "Show help", "Shows help for a command.", {}, {}, 0, 1, run_help}};
+}
+
+const std::vector<Command> &table() {
+  static const std::vector<Command> all = [] {
+    std::vector<Command> list = encoding_commands();
+    for (Command &command : reference_commands()) list.push_back(std::move(command));
+    return list;
+  }();
+  return all;
 }
 
 }  // namespace
@@ -131,8 +144,8 @@ const Option &option(Opt id) {
 }
 
 const std::vector<Opt> &common_options() {
-  static const std::vector<Opt> kCommon = {Opt::color, Opt::help};
-  return kCommon;
+  static const std::vector<Opt> common = {Opt::color, Opt::help};
+  return common;
 }
 
 std::vector<const Option *> options_of(const Command *command) {
@@ -169,7 +182,7 @@ std::string full_help(const Option &option) {
 }
 
 const std::vector<ExitMeaning> &exit_meanings() {
-  static const std::vector<ExitMeaning> kMeanings = {
+  static const std::vector<ExitMeaning> meanings = {
       {kGood, "good"},
       {kBadInput, "the input is not acceptable"},
       {kUsage, "the command line is wrong"},
@@ -177,7 +190,7 @@ const std::vector<ExitMeaning> &exit_meanings() {
       {kLimit, "a limit was hit, such as memory"},
       {kSomeFailed, "some of several inputs failed"},
       {kInternal, "an internal error"}};
-  return kMeanings;
+  return meanings;
 }
 
 std::vector<std::string> names_of(const Option &option) {

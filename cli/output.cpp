@@ -94,7 +94,7 @@ void choose_color(const std::string &when) {
   const char *terminal = std::getenv("TERM");
   const bool dumb = terminal != nullptr && std::strcmp(terminal, "dumb") == 0;
   const char *force = std::getenv("CLICOLOR_FORCE");
-  const bool forced = set("CLICOLOR_FORCE") && std::strcmp(force, "0") != 0;
+  const bool forced = force != nullptr && *force != '\0' && std::strcmp(force, "0") != 0;
   colored = !set("NO_COLOR") && (forced || (!dumb && isatty(STDOUT_FILENO) == 1));
 }
 

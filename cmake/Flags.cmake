@@ -5,6 +5,10 @@ target_compile_options(quarn_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wcast-qual -Wformat=2
   -Wundef -Wvla -Walloca -fstack-protector-strong -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.
   $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast -Wnon-virtual-dtor>)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # False alarms about std::string in optimised builds (GCC bug 105651).
+  target_compile_options(quarn_flags INTERFACE $<$<NOT:$<CONFIG:Debug>>:-Wno-restrict>)
+endif()
 if(QUARN_WERROR)
   target_compile_options(quarn_flags INTERFACE -Werror)
 endif()

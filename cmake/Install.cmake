@@ -31,3 +31,13 @@ foreach(component util asn1)
                  ${PROJECT_BINARY_DIR}/quarn-${component}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/quarn-${component}.pc DESTINATION ${QUARN_PKGCONFIG_DIR})
 endforeach()
+
+if(QUARN_BUILD_CLI)
+  install(TARGETS quarn_cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(FILES ${QUARN_MAN_PAGE} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  install(FILES ${QUARN_COMPLETION_bash}
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+  install(FILES ${QUARN_COMPLETION_zsh} DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
+  install(FILES ${QUARN_COMPLETION_fish}
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
+endif()

@@ -1,6 +1,10 @@
 # The two shared libraries, and static archives of the same objects. Tests, benchmarks and fuzz
 # targets link the archives, which also show what the shared libraries hide.
 
+# Header-only, behind the support library's own functions.
+find_path(QUARN_RAPIDJSON_INCLUDE_DIR rapidjson/reader.h REQUIRED)
+find_path(QUARN_BOOST_INCLUDE_DIR boost/multiprecision/cpp_int.hpp REQUIRED)
+
 file(GLOB QUARN_UTIL_SOURCES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/util/*.cpp)
 file(GLOB QUARN_ASN1_SOURCES CONFIGURE_DEPENDS
      ${PROJECT_SOURCE_DIR}/core/*.cpp ${PROJECT_SOURCE_DIR}/types/*.cpp

@@ -35,9 +35,12 @@ Octets repeated(const Octets &unit, std::size_t times) {
 
 // An element of indefinite length around content.
 Octets wrapped(std::uint8_t identifier, const Octets &content) {
-  Octets octets{identifier, 0x80};
+  Octets octets;
+  octets.reserve(content.size() + 4);
+  octets.push_back(identifier);
+  octets.push_back(0x80);
   octets.insert(octets.end(), content.begin(), content.end());
-  octets.insert(octets.end(), {0x00, 0x00});
+  octets.resize(octets.size() + 2);
   return octets;
 }
 
