@@ -21,6 +21,8 @@ constexpr Unit kUnit{"QUARN_ASN1_List"};
 
 // Elements for which there is room in the list itself: fills a block of 40 octets.
 constexpr std::int32_t kMostNear = 3;
+// Elements for which there is room in the first block of their own.
+constexpr std::int32_t kFirstBlock = 8;
 
 // An empty list with room for so many elements, at most kMostNear, in its own block; null when
 // memory is short.
@@ -43,8 +45,8 @@ void free_items(quarn_asn1_list &list) {
 }
 
 bool grow(quarn_asn1_list &list) {
-  std::int32_t capacity = list.capacity == 0 ? kMostNear : list.capacity;
-  if (list.capacity != 0 && !multiply_by<std::int32_t>(capacity, 2)) return false;
+  std::int32_t capacity = list.capacity <= kMostNear ? kFirstBlock / 2 : list.capacity;
+  if (!multiply_by<std::int32_t>(capacity, 2)) return false;
   auto **items = util::allocate_array<void *>(static_cast<std::size_t>(capacity));
   if (items == nullptr) return false;
   const auto count = static_cast<std::size_t>(list.count);
