@@ -31,6 +31,63 @@ TEST(Dispatch, an_id_without_a_row_is_refused) {
   }
 }
 
+// The records of calls with null arguments.
+struct NullArguments {
+  std::int64_t id;
+  Octets element;
+  std::vector<int> decode;          // no stream
+  std::vector<int> decode_content;  // no stream
+  std::vector<int> nowhere;         // the element, and no place for its value
+  std::vector<int> encode;          // no value
+};
+
+TEST(Dispatch, null_arguments_are_told_by_the_layer_that_meets_them) {
+  const std::vector<int> argument{0x10002};
+  const std::vector<int> header{0x10002, 0x102e5};
+  const NullArguments cases[] = {
+      {QUARN_ASN1_EOC, {0, 1}, argument, {}, {0x10205}, {}},
+      {QUARN_ASN1_BOOLEAN, {1, 0}, header, argument, argument, argument},
+      {QUARN_ASN1_BITSTRING, {3, 0}, header, argument, argument, {0x10203}},
+      {4, {4, 0}, {0x10002, 0x102e5, 0x10219}, argument, {0x10002, 0x10219}, {0x10203}},
+      {QUARN_ASN1_NULL, {5, 0}, header, argument, {}, {}},
+      {QUARN_ASN1_OID, {6, 0}, header, argument, argument, argument},
+      {QUARN_ASN1_STRING, {4, 0}, {0x1026d}, argument, {0x1026d}, {0x1026c}},
+      {QUARN_ASN1_UTF8STRING, {12, 0}, argument, argument, argument, {0x102ea}},
+      {QUARN_ASN1_TIME, {23, 0}, argument, {0x1026d}, argument, argument},
+      {QUARN_ASN1_GENTIME, {24, 0}, argument, argument, argument, argument},
+      {QUARN_ASN1_ANY, {5, 0}, header, {0x1026d}, argument, argument},
+      {QUARN_ASN1_ANYLIST, {0x30, 0}, header, argument, argument, argument},
+  };
+  const auto codes = [](auto call) {
+    const Context ctx(quarn_err_ctx_new());
+    const bool ok = call(ctx.get()) == 1;
+    EXPECT_EQ(ok, quarn_err_ctx_count(ctx.get()) == 0);
+    return codes_in(ctx.get());
+  };
+  for (const auto &[id, element, decode, decode_content, nowhere, encode] : cases) {
+    SCOPED_TRACE(id);
+    const Stream in = memory_stream(element);
+    const Stream out(quarn_stream_new_mem(0, nullptr));
+    const auto type = id;
+    void *value = &value;
+    void *content = &value;
+    const auto decoded =
+        codes([&](auto *ctx) { return quarn_asn1_decode(nullptr, type, &value, nullptr, ctx); });
+    const auto content_decoded = codes([&](auto *ctx) {
+      return quarn_asn1_decode_content(nullptr, type, &content, 1, 0, nullptr, ctx);
+    });
+    EXPECT_EQ(decoded, decode);
+    EXPECT_EQ(content_decoded, decode_content);
+    EXPECT_EQ(value == nullptr && content == nullptr, type != QUARN_ASN1_EOC);
+    EXPECT_EQ(
+        codes([&](auto *ctx) { return quarn_asn1_decode(in.get(), type, nullptr, nullptr, ctx); }),
+        nowhere);
+    EXPECT_EQ(
+        codes([&](auto *ctx) { return quarn_asn1_encode(out.get(), type, nullptr, nullptr, ctx); }),
+        encode);
+  }
+}
+
 TEST(Dispatch, rows_have_the_codes_that_callers_know) {
   const Context ctx(quarn_err_ctx_new());
   EXPECT_EQ(quarn_asn1_encode_puterr(ctx.get(), 38, "UNIT", 1), 1);
