@@ -274,8 +274,9 @@ Status decode_with(Reader &in,
   return Status::success();
 }
 
-// The dispatch by type id and the list each make their record.
-Status no_such_type(quarn_err_ctx *ctx) {
+// The dispatch by type id and the list each make their record, after null arguments.
+Status no_such_type(const quarn_stream *stream, const void *list, quarn_err_ctx *ctx) {
+  if (stream == nullptr || list == nullptr) return kUnit.fail(ctx, QUARN_ERROR_ARGUMENT);
   return kUnit.pass_on(kUnit.fail(ctx, QUARN_ASN1_ERROR_TYPE), ctx, QUARN_ASN1_ERROR_TYPE);
 }
 
@@ -432,7 +433,7 @@ int quarn_asn1_encode_list_content(quarn_stream *s,
                                    uint64_t *written,
                                    quarn_err_ctx *ctx) {
   const Type *type = find_type(element_type_id);
-  if (type == nullptr) return no_such_type(ctx).raw();
+  if (type == nullptr) return no_such_type(s, l, ctx).raw();
   return writing(s, written, ctx,
                  [=](Writer &out) { return encode_list_content(out, l, *type, content_length); });
 }
@@ -478,7 +479,7 @@ int quarn_asn1_decode_list_content(quarn_stream *s,
                                    quarn_err_ctx *ctx) {
   if (l != nullptr) *l = nullptr;
   const Type *type = find_type(element_type_id);
-  if (type == nullptr) return no_such_type(ctx).raw();
+  if (type == nullptr) return no_such_type(s, l, ctx).raw();
   const ElementTag expected{element_class, element_form, element_tag};
   return reading(s, consumed, ctx, [&](Reader &in) {
     return decode_list_content(in, l, *type, form != 0, content_length, expected);
