@@ -53,7 +53,9 @@ void add(std::vector<Case> &cases,
          void (*release)(T *),
          const Octets &der,
          double allocations = 1) {
-  cases.push_back({.name = "OpenSSL " + name, .work = decode_openssl(decode, release, der)});
+  cases.push_back({.name = "OpenSSL " + name,
+                   .work = decode_openssl(decode, release, der),
+                   .reference = "OpenSSL " + name});
   cases.push_back({.name = name,
                    .work = decode_quarn(type, der),
                    .allocations = allocations,

@@ -36,7 +36,7 @@ quarn_asn1_list *new_list(std::int32_t room) {
 
 // The room that content of a length, no element of which is shorter than two octets, calls for.
 std::int32_t room_for(std::int64_t length) {
-  if (length < 0 || length >= 2 * kMostNear) return kMostNear;
+  if (length < 0 || length >= std::int64_t{2} * kMostNear) return kMostNear;
   return static_cast<std::int32_t>((length + 1) / 2);
 }
 
