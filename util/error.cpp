@@ -157,8 +157,8 @@ void quarn_err_ctx_clear(quarn_err_ctx *ctx) {
 }
 
 int quarn_err_ctx_print(const quarn_err_ctx *ctx, char **text, size_t *length) {
+  if (text != nullptr) *text = nullptr;
   if (ctx == nullptr || text == nullptr) return 0;
-  *text = nullptr;
   std::size_t size = 0;
   for (std::size_t i = 0; i < ctx->count; i++) {
     size += static_cast<std::size_t>(print_entry(ctx->entries[i], nullptr, 0));
