@@ -62,6 +62,7 @@ int print_entry(const Entry &entry, char *out, std::size_t room) {
   if (entry.offset < 0) {
     return std::snprintf(out, room, "%s:%d: 0x%x %s\n", r.file, r.line, code, r.message);
   }
+  // cppcheck-suppress nullPointer ; with no room nothing is written
   return std::snprintf(out, room, "%s:%d: 0x%x %s (offset %lld)\n", r.file, r.line, code, r.message,
                        static_cast<long long>(entry.offset));
 }
