@@ -45,7 +45,7 @@ TEST(Dispatch, null_arguments_are_told_by_the_layer_that_meets_them) {
   const std::vector<int> argument{0x10002};
   const std::vector<int> header{0x10002, 0x102e5};
   const NullArguments cases[] = {
-      {QUARN_ASN1_EOC, {0, 1}, argument, {}, {0x10205}, {}},
+      {QUARN_ASN1_EOC, {0, 1}, argument, {0x1026a}, {0x10205}, {}},
       {QUARN_ASN1_BOOLEAN, {1, 0}, header, argument, argument, argument},
       {QUARN_ASN1_BITSTRING, {3, 0}, header, argument, argument, {0x10203}},
       {4, {4, 0}, {0x10002, 0x102e5, 0x10219}, argument, {0x10002, 0x10219}, {0x10203}},
@@ -74,7 +74,7 @@ TEST(Dispatch, null_arguments_are_told_by_the_layer_that_meets_them) {
     const auto decoded =
         codes([&](auto *ctx) { return quarn_asn1_decode(nullptr, type, &value, nullptr, ctx); });
     const auto content_decoded = codes([&](auto *ctx) {
-      return quarn_asn1_decode_content(nullptr, type, &content, 1, 0, nullptr, ctx);
+      return quarn_asn1_decode_content(nullptr, type, &content, 0, -1, nullptr, ctx);
     });
     EXPECT_EQ(decoded, decode);
     EXPECT_EQ(content_decoded, decode_content);
