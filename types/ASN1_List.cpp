@@ -28,8 +28,8 @@ bool grow(quarn_asn1_list &list) {
   if (items == nullptr) return false;
   const auto count = static_cast<std::size_t>(list.count);
   if (count > 0) std::memcpy(items, list.items, count * sizeof(void *));
-  quarn_free(list.items);
-  list.items = items;
+  quarn_free(list.block);
+  list.block = list.items = items;
   list.capacity = capacity;
   return true;
 }
@@ -43,7 +43,7 @@ template <typename Release>
 void free_with(quarn_asn1_list *list, Release release) {
   if (list == nullptr) return;
   for (std::int32_t i = 0; i < list->count; i++) release(list->items[i]);
-  quarn_free(list->items);
+  quarn_free(list->block);
   quarn_free(list);
 }
 
@@ -368,8 +368,13 @@ void *quarn_asn1_list_delete(quarn_asn1_list *l, int index) {
   if (!has(l, index)) return nullptr;
   void **place = l->items + index;
   void *element = *place;
-  const auto later = static_cast<std::size_t>(l->count - index - 1);
-  std::memmove(place, place + 1, later * sizeof(void *));
+  if (index == 0) {
+    l->items++;
+    l->capacity--;
+  } else {
+    const auto later = static_cast<std::size_t>(l->count - index - 1);
+    std::memmove(place, place + 1, later * sizeof(void *));
+  }
   l->count--;
   return element;
 }

@@ -2,7 +2,8 @@
 //
 // A list holds pointers to its elements and nothing about their type, which each operation is told.
 // Room for elements is allocated with the first one and doubles, so that an empty list, of which
-// hostile input can hold one for every two octets, is one small block.
+// hostile input can hold one for every two octets, is one small block. Removing the first element
+// moves none of the others: callers empty lists that way.
 #ifndef QUARN_TYPES_LIST_H
 #define QUARN_TYPES_LIST_H
 
@@ -10,8 +11,9 @@
 #include "quarn_asn1/types.h"
 
 struct quarn_asn1_list {
-  void **items;
-  std::int32_t capacity;
+  void **block;
+  void **items;           // into the block: behind what was removed from the front
+  std::int32_t capacity;  // from items on
   std::int32_t count;
 };
 
