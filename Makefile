@@ -4,6 +4,7 @@
 #   make demo      builds and shows the main job on a real certificate
 #   make check     builds and runs all tests, optimised and under the sanitizers
 #   make install   installs below PREFIX (DESTDIR is honoured)
+#   make lint      clang-tidy and cppcheck
 #   make bench     benchmarks against the peer libraries
 #   make fuzz      every fuzz target for SECONDS seconds each
 
@@ -11,7 +12,7 @@ PREFIX ?= /usr/local
 SECONDS ?= 300
 JOBS ?= $(shell nproc)
 
-.PHONY: all setup demo check install bench fuzz clean
+.PHONY: all setup demo check install lint bench fuzz clean
 
 all:
 	cmake --preset release
@@ -31,6 +32,10 @@ install:
 	cmake --build build/install -j $(JOBS)
 	cmake --install build/install
 	@[ -n "$(DESTDIR)" ] || [ "$$(id -u)" != 0 ] || ldconfig
+
+lint:
+	@tools/setup.sh lint
+	@tools/lint.sh
 
 bench:
 	@tools/setup.sh bench

@@ -110,7 +110,7 @@ std::string short_message(const CLI::ParseError &error) {
   std::string text = error.what();
   text.resize(std::min(text.find('\n'), text.size()));
   const std::size_t missing = text.find(": 1 required");
-  if (missing != std::string::npos) text = text.substr(0, missing) + " needs a value";
+  if (missing != std::string::npos) text.replace(missing, std::string::npos, " needs a value");
   const std::size_t flag = text.find(" was given a disallowed flag override");
   if (flag != std::string::npos) text = "--" + text.substr(0, flag) + " takes no value";
   return printable(text);

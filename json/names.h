@@ -92,7 +92,7 @@ constexpr std::size_t name_cell(std::string_view text) {
   const auto octet = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
   return (text.size() * 9 + octet(0) * 5u + octet(text.size() / 2)) % kNameCells;
 }
-inline constexpr auto kNameTable = [] {
+constexpr std::array<std::uint8_t, kNameCells> make_name_table() {
   std::array<std::uint8_t, kNameCells> cells{};
   for (std::uint8_t row = 0; row < std::size(kTypeNames); row++) {
     std::size_t cell = name_cell(kTypeNames[row].text);
@@ -100,7 +100,8 @@ inline constexpr auto kNameTable = [] {
     cells[cell] = static_cast<std::uint8_t>(row + 1);
   }
   return cells;
-}();
+}
+inline constexpr auto kNameTable = make_name_table();
 
 // The row that a document names, or null.
 constexpr const TypeName *find_type_name(std::string_view text) {

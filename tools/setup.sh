@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages that the build and the tests need, those that are missing only.
-#   tools/setup.sh [bench|fuzz]    what benchmarks or fuzzing need on top
+#   tools/setup.sh [bench|fuzz|lint]    what these need on top
 # Without root rights it prints the command to run and stops.
 set -eu
 
@@ -10,6 +10,7 @@ case "${1:-}" in
   bench) packages="$packages libbenchmark-dev libssl-dev libmbedtls-dev libbotan-2-dev libtasn1-6-dev
 libtasn1-bin heimdal-multidev" ;;
   fuzz) packages="$packages clang libclang-rt-dev" ;;
+  lint) packages="$packages clang-tidy cppcheck" ;;
 esac
 
 missing=""

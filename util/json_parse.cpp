@@ -92,6 +92,7 @@ class StackMemory {
  public:
   [[maybe_unused]] static constexpr bool kNeedFree = false;
 
+  // cppcheck-suppress uninitMemberVar ; near_ is written before it is read
   StackMemory() = default;
   StackMemory(const StackMemory &) = delete;
   StackMemory &operator=(const StackMemory &) = delete;
