@@ -89,12 +89,14 @@ inline constexpr TypeName kTypeNames[] = {
 // The rows by name: cells of a hash table with linear probing, which hold a row's number plus 1.
 constexpr std::size_t kNameCells = 128;
 constexpr std::size_t name_cell(std::string_view text) {
-  const auto octet = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
-  return (text.size() * 9 + octet(0) * 5u + octet(text.size() / 2)) % kNameCells;
+  const auto octet = [&](std::size_t at) -> std::size_t {
+    return static_cast<unsigned char>(text[at]);
+  };
+  return (text.size() * 9 + octet(0) * 5 + octet(text.size() / 2)) % kNameCells;
 }
 constexpr std::array<std::uint8_t, kNameCells> make_name_table() {
   std::array<std::uint8_t, kNameCells> cells{};
-  for (std::uint8_t row = 0; row < std::size(kTypeNames); row++) {
+  for (std::size_t row = 0; row < std::size(kTypeNames); row++) {
     std::size_t cell = name_cell(kTypeNames[row].text);
     while (cells[cell] != 0) cell = (cell + 1) % kNameCells;
     cells[cell] = static_cast<std::uint8_t>(row + 1);
