@@ -2,6 +2,7 @@
 // below depends on the modules.
 #include <iterator>
 
+#include "core/schema_check.h"
 #include "core/type.h"
 #include "types/codecs.h"
 
@@ -9,9 +10,12 @@ namespace quarn::asn1 {
 
 namespace {
 
+#include "modules/ASN1_X500.inc"
+#include "modules/ASN1_X509.inc"
 #include "modules/gen/registry.inc"
 
 static_assert(std::size(kTypes) == QUARN_ASN1_TYPE_COUNT);
+static_assert(all_well_formed(kTypes));
 
 }  // namespace
 
