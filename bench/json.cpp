@@ -27,7 +27,7 @@ struct Documents {
 };
 
 const Documents &documents() {
-  static const Documents kAll = [] {
+  static const Documents documents = [] {
     Documents all;
     for (const Octets &der : certificates()) {
       Json tree(quarn_asn1_tojson(der.data(), static_cast<std::int64_t>(der.size())));
@@ -41,7 +41,7 @@ const Documents &documents() {
     }
     return all;
   }();
-  return kAll;
+  return documents;
 }
 
 // The result of all printing: octets of text.

@@ -126,6 +126,7 @@ void initialize(std::vector<std::string> arguments, bool quick) {
   };
   arguments.insert(arguments.begin() + 1, defaults.begin(), defaults.end());
   std::vector<char *> pointers;
+  pointers.reserve(arguments.size());
   for (std::string &argument : arguments) pointers.push_back(argument.data());
   int count = static_cast<int>(pointers.size());
   benchmark::Initialize(&count, pointers.data());

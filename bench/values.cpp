@@ -23,7 +23,7 @@ std::function<std::uint64_t()> decode_quarn(quarn_asn1_type_id type, const Octet
           quarn_asn1_mem_decode(der.data(), static_cast<std::int64_t>(der.size()), type, &value));
       quarn_asn1_value_free(type, value);
     }
-    require(octets == kTimes * der.size(), "decode a value of type " + std::to_string(type));
+    if (octets != kTimes * der.size()) require(false, "decode type " + std::to_string(type));
     return std::uint64_t{0};
   };
 }
@@ -53,7 +53,9 @@ void add(std::vector<Case> &cases,
          void (*release)(T *),
          const Octets &der,
          double allocations = 1) {
-  cases.push_back({.name = "OpenSSL " + name, .work = decode_openssl(decode, release, der)});
+  cases.push_back({.name = "OpenSSL " + name,
+                   .work = decode_openssl(decode, release, der),
+                   .reference = "OpenSSL " + name});
   cases.push_back({.name = name,
                    .work = decode_quarn(type, der),
                    .allocations = allocations,

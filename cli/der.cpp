@@ -97,6 +97,17 @@ Failure parse_failure(std::string_view text, std::size_t offset, const std::stri
                          ": " + why + "\n" + excerpt(text, offset)};
 }
 
+// What a text that is no JSON looks like.
+std::string no_json(std::string_view text, std::size_t offset) {
+  if (offset <= 1 && text.substr(0, 11) == "-----BEGIN ") {
+    return "this is PEM, not JSON; `quarn json` makes JSON of it";
+  }
+  if (offset <= 1 && (text.substr(0, 1) == "0" || text.substr(0, 1) == "1")) {
+    return "this is not JSON; if it is an encoding, `quarn json` makes JSON of it";
+  }
+  return "this is not JSON";
+}
+
 Json parse_document(std::string_view text, std::size_t start, std::size_t end) {
   const Records records = new_records();
   Json json(quarn_json_parse(text.data() + start, end - start, records.get()));
@@ -110,7 +121,7 @@ Json parse_document(std::string_view text, std::size_t start, std::size_t end) {
   const std::string why = ended ? "the JSON text ends in the middle of a value"
                           : text.substr(offset, 1) == "\""
                               ? "unexpected string, or a key that is there already"
-                              : "this is not JSON";
+                              : no_json(text, offset);
   throw parse_failure(text, offset, why);
 }
 

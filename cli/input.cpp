@@ -186,6 +186,29 @@ void Source::find_objects() {
   }
 }
 
+// A block holds one encoding, or several whole ones: a trusted certificate has its trust behind it.
+void Source::add_block(const quarn_pem_block &block) {
+  Octets rest(block.octets, static_cast<std::size_t>(block.count));
+  const auto begin = static_cast<std::size_t>(block.begin);
+  const auto length = static_cast<std::size_t>(block.end - block.begin);
+  const bool encrypted =
+      as_text(text_).substr(begin, length).find("Proc-Type: 4,ENCRYPTED") != std::string_view::npos;
+  const bool whole = !encrypted && well_formed(rest);
+  do {
+    Object object;
+    object.index = objects_.size();
+    object.offset = begin;
+    object.octets = whole ? rest.first(extent(rest).value_or(rest.size())) : rest;
+    object.label.assign(block.label, static_cast<std::size_t>(block.label_length));
+    if (encrypted) {
+      object.unreadable = Failure(kBadInput, "the PEM block at offset " + std::to_string(begin) +
+                                                 " of the text is encrypted");
+    }
+    rest = rest.subspan(object.octets.size());
+    objects_.push_back(std::move(object));
+  } while (!rest.empty());
+}
+
 void Source::find_pem_blocks() {
   std::int64_t offset = 0;
   const auto length = static_cast<std::int64_t>(text_.size());
@@ -195,20 +218,18 @@ void Source::find_pem_blocks() {
     quarn_pem_block block{};
     const int result = quarn_pemnext(as_text(text_).data(), length, &offset, &block, ctx.get());
     if (result < 0) break;
-    Object object;
-    object.index = objects_.size();
-    object.offset = static_cast<std::uint64_t>(block.begin);
     if (result == 1) {
       blocks_.emplace_back(block.octets);
-      object.octets = {block.octets, static_cast<std::size_t>(block.count)};
-      object.label.assign(block.label, static_cast<std::size_t>(block.label_length));
-    } else {
-      const std::int64_t at = quarn_err_ctx_offset(ctx.get(), 0);
-      if (at >= 0) object.offset = static_cast<std::uint64_t>(at);
-      object.unreadable =
-          Failure(kBadInput, "the PEM block is broken at offset " + std::to_string(object.offset) +
-                                 " of the text: " + first_record(ctx.get()));
+      add_block(block);
+      continue;
     }
+    const std::int64_t at = quarn_err_ctx_offset(ctx.get(), 0);
+    Object object;
+    object.index = objects_.size();
+    object.offset = static_cast<std::uint64_t>(at >= 0 ? at : block.begin);
+    object.unreadable =
+        Failure(kBadInput, "the PEM block is broken at offset " + std::to_string(object.offset) +
+                               " of the text: " + first_record(ctx.get()));
     objects_.push_back(std::move(object));
   }
   if (objects_.empty()) throw Failure(kBadInput, "holds no PEM block");

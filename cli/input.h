@@ -47,6 +47,7 @@ class Source {
  private:
   void find_objects();
   void find_pem_blocks();
+  void add_block(const quarn_pem_block &block);
   void split_encodings(Octets octets);
   void decode_hex();
   void decode_base64();

@@ -50,7 +50,8 @@ std::vector<Command> encoding_commands() {
        "[FILE...]",
        "Show encodings as JSON documents",
        "Writes the JSON document of each object, from which `quarn der` makes the same octets "
-       "again.",
+       "again. What a document cannot carry are superfluous octets of lengths and tags, an object "
+       "identifier's last arc that is cut off, and constructed elements of tags without a name.",
        {Opt::in_form, Opt::recursive, Opt::compact, Opt::lines},
        {{"quarn json server.pem | jq .", "the certificates of a file"},
         {"quarn json --lines -r /etc/ssl/certs | jq -r 'select(.error).source'",

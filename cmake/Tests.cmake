@@ -18,6 +18,8 @@ function(quarn_add_test_program folder)
                         GTest::gtest GTest::gtest_main)
   target_compile_definitions(quarn_test_${folder} PRIVATE QUARN_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   add_test(NAME ${folder} COMMAND quarn_test_${folder} --gtest_brief=1)
+  set_tests_properties(${folder} PROPERTIES
+    ENVIRONMENT "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/thread_sanitizer.supp")
 endfunction()
 
 foreach(folder util unit vectors laws)
@@ -30,4 +32,6 @@ if(TARGET quarn_cli AND Python3_FOUND)
   add_test(NAME cli COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_quarn.py)
   set_tests_properties(cli PROPERTIES ENVIRONMENT
     "QUARN=$<TARGET_FILE:quarn_cli>;QUARN_COMPLETION=${QUARN_COMPLETION_bash};QUARN_MAN=${QUARN_MAN_PAGE}")
+  add_test(NAME files COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_files.py)
+  set_tests_properties(files PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
 endif()

@@ -8,6 +8,8 @@ namespace {
 
 // The unit whose name a short read from octets in memory carries: the same as from a stream.
 constexpr Unit kStreamUnit{"QUARN_Stream"};
+// Without a stream it is an identifier or a length that cannot be read.
+constexpr Unit kHeaderUnit{"QUARN_ASN1_Lib"};
 
 // From a stream that cannot say what it still holds, buffers grow by at most this much ahead.
 constexpr std::uint64_t kStep = 8192;
@@ -41,7 +43,8 @@ Status Reader::short_read() {
 }
 
 Status Reader::octets_slowly(std::uint8_t *out, std::uint64_t count) {
-  if (stream_ == nullptr || in_memory_) return short_read();
+  if (in_memory_) return short_read();
+  if (stream_ == nullptr) return kHeaderUnit.fail(ctx_, QUARN_ERROR_ARGUMENT);
   const auto status =
       Status::from(quarn_stream_readn(stream_, out, static_cast<std::int64_t>(count), ctx_));
   if (!status) return status;

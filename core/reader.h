@@ -18,7 +18,7 @@ namespace quarn::asn1 {
 
 class Reader {
  public:
-  // A null stream gives a Reader on which is_null() is true and every read fails.
+  // A null stream gives a Reader on which is_null() is true and every read fails for the argument.
   Reader(quarn_stream *stream, quarn_err_ctx *ctx) : stream_(stream), ctx_(ctx) { borrow(); }
   // Reads octets that stay where they are while the Reader lives.
   Reader(const std::uint8_t *octets, std::size_t count, quarn_err_ctx *ctx)

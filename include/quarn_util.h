@@ -8,8 +8,7 @@
  *  - A function that makes an object returns null when it fails. The object belongs to the caller,
  *    who gives it to the free function of its kind. Free functions accept null.
  *  - Buffers that a function hands out through a pointer are freed with quarn_free().
- *  - Out pointers for counts may be null. Other null arguments make the call fail; they never
- * crash.
+ *  - Out pointers for counts may be null. Any other null argument makes the call fail.
  *  - An error context may always be null. Where one is given, each failure puts one record into it.
  *  - Counts are octets. A negative count is refused.
  *  - Nothing is shared between calls: distinct objects may be used by several threads at once, one
@@ -99,8 +98,7 @@ QUARN_UTIL_API size_t quarn_err_ctx_count(const quarn_err_ctx *ctx);
 QUARN_UTIL_API size_t quarn_err_ctx_dropped(const quarn_err_ctx *ctx);
 /** Record number index, oldest first; borrowed until the context changes; null past the end. */
 QUARN_UTIL_API const quarn_err_record *quarn_err_ctx_get(const quarn_err_ctx *ctx, size_t index);
-/** Input offset of record number index, counted from the first octet its codec read; -1 if unknown.
- */
+/** Input offset of record number index, from the first octet its codec read; -1 if unknown. */
 QUARN_UTIL_API int64_t quarn_err_ctx_offset(const quarn_err_ctx *ctx, size_t index);
 /** Removes all records. */
 QUARN_UTIL_API void quarn_err_ctx_clear(quarn_err_ctx *ctx);
@@ -197,8 +195,7 @@ typedef struct quarn_stream_callbacks {
   void (*close)(void *user);
 } quarn_stream_callbacks;
 
-/** New growable memory stream, empty. The capacity is a hint; nothing is allocated before the first
- * write. */
+/** New growable memory stream, empty. The capacity is a hint for what the first write allocates. */
 QUARN_UTIL_API quarn_stream *quarn_stream_new_mem(int64_t initial_capacity, quarn_err_ctx *ctx);
 
 /**
@@ -249,8 +246,7 @@ QUARN_UTIL_API int quarn_stream_writen(quarn_stream *s,
                                        int64_t count,
                                        quarn_err_ctx *ctx);
 
-/** Copies the rest of source into destination. copied, which may be null, receives the octets
- * copied. */
+/** Copies the rest of source into destination. copied receives the number of octets copied. */
 QUARN_UTIL_API int quarn_stream_writefromstream(quarn_stream *destination,
                                                 quarn_stream *source,
                                                 quarn_err_ctx *ctx,
@@ -269,8 +265,7 @@ QUARN_UTIL_API uint32_t quarn_stream_gettype(const quarn_stream *s);
 /** The read position: octets from the start of the stream to the next one read. 0 for null. */
 QUARN_UTIL_API uint64_t quarn_stream_position(const quarn_stream *s);
 
-/** Moves the read position forward by exactly count octets: memory and seekable streams without
- * reading. */
+/** Moves the read position forward by exactly count octets, without reading where it can. */
 QUARN_UTIL_API int quarn_stream_skip(quarn_stream *s, uint64_t count, quarn_err_ctx *ctx);
 
 /** Hands buffered writes of a file stream to the system; 1 at once for other kinds. */
@@ -280,15 +275,14 @@ QUARN_UTIL_API int quarn_stream_flush(quarn_stream *s, quarn_err_ctx *ctx);
  * A new read-only stream over the octets that a memory stream holds now, positioned at the start.
  *
  * The buffer is shared and counted: it stays valid whatever happens to the original, and later
- * writes to the original do not show. Fails with 0x10108 for other kinds, which may be the sign to
- * rewind instead: that failure is not recorded.
+ * writes to the original do not show. Other kinds give null without a record: the sign to rewind
+ * instead.
  */
 QUARN_UTIL_API quarn_stream *quarn_memstream_dup_readonly(quarn_stream *s, quarn_err_ctx *ctx);
 
 /**
  * Hands a growable memory stream's buffer to the caller, who frees it with quarn_free(). The stream
- * is empty afterwards and must still be freed. Detaching an empty stream gives a null pointer and
- * 0.
+ * is empty afterwards and must still be freed. An empty stream gives a null pointer and 0.
  */
 QUARN_UTIL_API int quarn_memstreamdeatch(quarn_stream *s, uint8_t **octets, uint64_t *count);
 
@@ -308,8 +302,7 @@ QUARN_UTIL_API int quarn_memstream_peek(const quarn_stream *s,
  * what was written there part of the stream.
  *
  * @param count  octets of room wanted
- * @param room   receives a pointer to at least count octets, valid until the next call on the
- * stream
+ * @param room   receives a pointer to at least count octets, valid until the stream's next call
  * @param size   receives how many octets of room there are
  * @return 1; 0 without a record when the stream is not a growable memory stream, with a record when
  *         memory is short
@@ -333,13 +326,11 @@ QUARN_UTIL_API quarn_biginteger *quarn_biginteger_newdata(const uint8_t *octets,
 QUARN_UTIL_API quarn_biginteger *quarn_biginteger_newunsigneddata(const uint8_t *octets,
                                                                   int64_t count,
                                                                   quarn_err_ctx *ctx);
-/** From decimal text: digits, at most 1,000,000, after an optional '-'. Nothing else is accepted.
- */
+/** From decimal text: at most 1,000,000 digits after an optional '-'; nothing else is accepted. */
 QUARN_UTIL_API quarn_biginteger *quarn_biginteger_newdec(const char *text, quarn_err_ctx *ctx);
 /** The two's complement octets of the minimal encoding, as a new blob. */
 QUARN_UTIL_API quarn_data_blob *quarn_biginteger_getdata(const quarn_biginteger *b);
-/** The decimal text, NUL-terminated; freed with quarn_free(). Fails above 3,321,936 bits, a million
- * digits. */
+/** The decimal text, NUL-terminated. Fails above 3,321,936 bits, which are a million digits. */
 QUARN_UTIL_API int quarn_biginteger_todec(const quarn_biginteger *b, char **text, size_t *length);
 /** Bits of the magnitude: 0 for 0, 1 for 1 and -1, 8 for 255; -1 for null. */
 QUARN_UTIL_API int64_t quarn_biginteger_getbitcount(const quarn_biginteger *b);
@@ -347,8 +338,7 @@ QUARN_UTIL_API int64_t quarn_biginteger_getbitcount(const quarn_biginteger *b);
 QUARN_UTIL_API int quarn_biginteger_getsign(const quarn_biginteger *b);
 /** Negates in place. */
 QUARN_UTIL_API int quarn_biginteger_neg(quarn_biginteger *b);
-/** The magnitude, big-endian, filled up with zeros on the left to size octets; fails if it does not
- * fit. */
+/** The magnitude, big-endian, with zeros on the left to fill size octets, which it must fit. */
 QUARN_UTIL_API int quarn_biginteger_unsigned_tonbuf(const quarn_biginteger *b,
                                                     uint8_t *buffer,
                                                     int64_t size);
@@ -391,8 +381,7 @@ typedef struct quarn_time_fields {
 
 /** 1 when every field lies in its range and the date exists. */
 QUARN_UTIL_API int quarn_time_fields_valid(const quarn_time_fields *fields);
-/** Moves valid fields by minutes, negative goes back. Leaving the years 1582 to 9999 fails and
- * changes nothing. */
+/** Moves valid fields by minutes, also back. Leaving 1582 to 9999 fails and changes nothing. */
 QUARN_UTIL_API int quarn_time_fields_addminutes(quarn_time_fields *fields, int64_t minutes);
 /** Moves valid fields by whole days; as quarn_time_fields_addminutes(). */
 QUARN_UTIL_API int quarn_time_fields_adddays(quarn_time_fields *fields, int64_t days);
@@ -425,8 +414,7 @@ QUARN_UTIL_API int quarn_time_getns(const quarn_time *t);
 QUARN_UTIL_API int quarn_time_isutctime(const quarn_time *t);
 /** 1 when the instant is one of the leap seconds inserted from 1972 to 2016. */
 QUARN_UTIL_API int quarn_time_isleapsecond(const quarn_time *t);
-/** Moves the time by whole days, in place; fails and changes nothing when it would leave 1582 to
- * 9999. */
+/** Moves the time by whole days, in place. Leaving 1582 to 9999 fails and changes nothing. */
 QUARN_UTIL_API int quarn_time_addday(quarn_time *t, int64_t days);
 /** Moves the time by minutes, in place; as quarn_time_addday(). */
 QUARN_UTIL_API int quarn_time_addminute(quarn_time *t, int64_t minutes);
@@ -436,8 +424,7 @@ QUARN_UTIL_API int quarn_time_addminute(quarn_time *t, int64_t minutes);
 /** A sequence of Unicode scalar values. The octets it is made from may be null for none. */
 typedef struct quarn_ustring quarn_ustring;
 
-/** From UTF-8; overlong forms, surrogates and values above U+10FFFF are refused. U+0000 is
- * accepted. */
+/** From UTF-8; overlong forms, surrogates and values above U+10FFFF are refused, U+0000 is not. */
 QUARN_UTIL_API quarn_ustring *quarn_ustring_newutf8(const uint8_t *octets, int64_t count);
 /** From UCS-2, big-endian; an odd count and surrogates are refused. */
 QUARN_UTIL_API quarn_ustring *quarn_ustring_newbmp(const uint8_t *octets, int64_t count);
@@ -517,8 +504,7 @@ QUARN_UTIL_API uint32_t quarn_json_getstringlength(const quarn_json *j);
 QUARN_UTIL_API double quarn_json_getnumber(const quarn_json *j);
 /** 1 when it is the boolean true. */
 QUARN_UTIL_API int quarn_json_istrue(const quarn_json *j);
-/** Releases a value and all below it, without recursion. A value that has a parent is left alone.
- */
+/** Releases a value and all below it, without recursion. One that has a parent is left alone. */
 QUARN_UTIL_API void quarn_json_free(quarn_json *j);
 
 /**
@@ -556,8 +542,7 @@ QUARN_UTIL_API int quarn_hexdecode(const char *text,
                                    int64_t length,
                                    uint8_t **octets,
                                    int64_t *count);
-/** Base64 text (RFC 4648) with padding; line_length characters a line (0: one line).
- * NUL-terminated. */
+/** Base64 text (RFC 4648), padded, NUL-terminated; line_length characters a line (0: one line). */
 QUARN_UTIL_API int quarn_base64encode(
     int line_length, const uint8_t *octets, int64_t count, char **text, int64_t *text_length);
 
@@ -575,8 +560,7 @@ QUARN_UTIL_API int quarn_base64decode(int mode,
                                       int64_t *count,
                                       quarn_err_ctx *ctx);
 
-/** Octets of the first PEM block (RFC 7468, and what precedes or surrounds it in real files) with
- * this label. */
+/** Octets of the first PEM block (RFC 7468, and what is found in real files) with this label. */
 QUARN_UTIL_API int quarn_pemdecode(
     const char *label, const char *text, int64_t length, uint8_t **octets, int64_t *count);
 

@@ -23,23 +23,24 @@ struct Node {
   const quarn_json *end;
   const TypeName *type;       // null under an identifier override
   const quarn_json *subject;  // what content is written from: behind implicit tags their "value"
+  const quarn_json *value;    // of the subject; null when it has none
   Kind kind;                  // of the subject; none when there is none
   bool constructed;
   bool indefinite;
 };
 
-const TypeName *type_of_node(const quarn_json *node) {
-  const std::string_view text = text_of(member(node, "type"));
+const TypeName *type_named(const quarn_json *name) {
+  const std::string_view text = text_of(name);
   return text.data() == nullptr ? nullptr : find_type_name(text);
 }
 
 // Goes down implicit tags to the element whose content they carry.
 void find_subject(Node &node) {
   const TypeName *type = node.type;
-  node.subject = node.json;
   while (type != nullptr && type->kind == Kind::tagged && flag(node.subject, "implicit")) {
-    node.subject = member(node.subject, "value");
-    type = type_of_node(node.subject);
+    node.subject = node.value;
+    node.value = member(node.subject, "value");
+    type = type_named(member(node.subject, "type"));
   }
   node.kind = type == nullptr ? Kind::none : type->kind;
   const bool named = is_string(node.kind) || is_container(node.kind);
@@ -54,7 +55,16 @@ void find_subject(Node &node) {
 bool describe(const quarn_json *json, Node &node) {
   if (!is_kind(json, QUARN_JSON_OBJECT)) return false;
   node = Node{};
-  node.json = json;
+  node.json = node.subject = json;
+  node.value = member(json, "value");
+  const quarn_json *type = member(json, "type");
+  // Most nodes have no other members: then there is nothing else to look for.
+  if (type != nullptr && quarn_json_getobjectsize(json) == (node.value == nullptr ? 1u : 2u)) {
+    node.type = type_named(type);
+    node.kind = node.type == nullptr ? Kind::none : node.type->kind;
+    node.constructed = is_container(node.kind);
+    return node.type != nullptr;
+  }
   const quarn_json *user_defined = member(json, "user defined");
   if (is_kind(user_defined, QUARN_JSON_OBJECT)) {
     node.identifier = member(user_defined, "identifier");
@@ -63,7 +73,7 @@ bool describe(const quarn_json *json, Node &node) {
     node.end = member(user_defined, "end of contents");
   }
   if (node.identifier != nullptr) return is_kind(node.identifier, QUARN_JSON_STRING);
-  node.type = type_of_node(json);
+  node.type = type_named(type);
   if (node.type == nullptr) return false;
   find_subject(node);
   return true;
@@ -157,7 +167,7 @@ bool Encoder::open(const quarn_json *json) {
 }
 
 bool Encoder::open_elements(const Node &node) {
-  const quarn_json *content = member(node.subject, "value");
+  const quarn_json *content = node.value;
   Open open{node.json, content, out_.size(), 1, node.kind != Kind::tagged, false};
   if (open.is_array) {
     if (!is_kind(content, QUARN_JSON_ARRAY)) return false;

@@ -11,19 +11,20 @@
 namespace quarn::asn1::json {
 
 // Two upper-case digits for each octet.
-inline constexpr auto kHexPairs = [] {
+constexpr std::array<std::array<char, 2>, 256> make_hex_pairs() {
   constexpr char kDigits[] = "0123456789ABCDEF";
   std::array<std::array<char, 2>, 256> pairs{};
   for (std::size_t octet = 0; octet < pairs.size(); octet++) {
     pairs[octet] = {kDigits[octet >> 4], kDigits[octet & 15]};
   }
   return pairs;
-}();
+}
+inline constexpr auto kHexPairs = make_hex_pairs();
 
 inline constexpr std::uint8_t kNoDigit = 0xFF;
 
 // The value of each hexadecimal digit, of either case; kNoDigit for every other character.
-inline constexpr auto kHexValues = [] {
+constexpr std::array<std::uint8_t, 256> make_hex_values() {
   std::array<std::uint8_t, 256> values{};
   values.fill(kNoDigit);
   for (std::uint8_t i = 0; i < 10; i++) values[static_cast<std::size_t>('0' + i)] = i;
@@ -32,7 +33,8 @@ inline constexpr auto kHexValues = [] {
     values[static_cast<std::size_t>('a' + i - 10)] = i;
   }
   return values;
-}();
+}
+inline constexpr auto kHexValues = make_hex_values();
 
 // Writes 2 * count characters.
 inline void write_hex(const std::uint8_t *octets, std::size_t count, char *text) {

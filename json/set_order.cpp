@@ -85,16 +85,14 @@ bool SetOrder::by_octets(std::size_t a, std::size_t b) {
 }
 
 bool SetOrder::rest_is_zero(Cursor &rest, std::size_t offset, Zeros &known) {
-  if (offset >= known.begin && offset < known.end) return known.to_the_end;
-  std::size_t end = offset;
-  for (; rest.left() > 0 && rest.octets()[0] == 0; rest.advance(1)) {
-    end++;
-    if (end != known.begin || known.end == 0) continue;
-    known.begin = offset;
-    return known.to_the_end;
+  if (offset < known.none_before) return false;
+  for (std::size_t at = offset; at < known.all_from && rest.left() > 0; rest.advance(1), at++) {
+    if (rest.octets()[0] == 0) continue;
+    known.none_before = at + 1;
+    return false;
   }
-  known = {offset, end, rest.left() == 0};
-  return known.to_the_end;
+  known.all_from = std::min(known.all_from, offset);
+  return true;
 }
 
 bool SetOrder::end() {

@@ -30,12 +30,12 @@ class SetOrder {
     bool by_tag;
   };
 
-  // Octets of an encoding known to be zero, so that elements with long runs of zeros are not walked
-  // again for each comparison.
+  // From where on an encoding has nothing but zeros, as far as that is known: at none of the
+  // offsets before none_before, at each from all_from on. What has been looked at once is not
+  // looked at again, whatever comparisons follow.
   struct Zeros {
-    std::size_t begin;
-    std::size_t end;
-    bool to_the_end;
+    std::size_t none_before = 0;
+    std::size_t all_from = SIZE_MAX;
   };
 
   struct Element {

@@ -98,19 +98,12 @@ void fill(quarn_asn1_any *v, std::size_t offset, const void *octets, std::size_t
   if (count > 0) std::memcpy(reinterpret_cast<std::uint8_t *>(v + 1) + offset, octets, count);
 }
 
-// Without a stream the identifier is what fails.
-Status no_input(const Reader &in) {
-  const Status status = kUnit.fail(in.ctx(), QUARN_ERROR_ARGUMENT);
-  return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_IDENTIFIER);
-}
-
 // Decodes with the content going to a stream of the caller's. That cannot be the stream that is
 // read: its octets are read in place.
 Status decode_any_into(Reader &in, quarn_stream *content, quarn_asn1_any **out) {
   if (out == nullptr || content == nullptr || content == in.stream()) {
     return kUnit.fail(in.ctx(), QUARN_ERROR_ARGUMENT);
   }
-  if (in.is_null()) return no_input(in);
   util::Block<quarn_asn1_any> v;
   Element element{};
   {
@@ -222,7 +215,6 @@ Status find_element(Reader &in, Element &out) {
 Status decode_any(Reader &in, quarn_asn1_any **out) {
   if (out == nullptr) return kUnit.fail(in.ctx(), QUARN_ERROR_ARGUMENT, in.offset());
   *out = nullptr;
-  if (in.is_null()) return no_input(in);
   const Capture octets(in);
   Element element{};
   if (const Status status = find_element(in, element); !status) return status;

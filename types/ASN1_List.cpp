@@ -21,6 +21,8 @@ constexpr Unit kUnit{"QUARN_ASN1_List"};
 
 // Elements for which there is room in the list itself: fills a block of 40 octets.
 constexpr std::int32_t kMostNear = 3;
+// Elements for which there is room in the first block of their own.
+constexpr std::int32_t kFirstBlock = 8;
 
 // An empty list with room for so many elements, at most kMostNear, in its own block; null when
 // memory is short.
@@ -34,7 +36,7 @@ quarn_asn1_list *new_list(std::int32_t room) {
 
 // The room that content of a length, no element of which is shorter than two octets, calls for.
 std::int32_t room_for(std::int64_t length) {
-  if (length < 0 || length >= 2 * kMostNear) return kMostNear;
+  if (length < 0 || length >= std::int64_t{2} * kMostNear) return kMostNear;
   return static_cast<std::int32_t>((length + 1) / 2);
 }
 
@@ -43,8 +45,8 @@ void free_items(quarn_asn1_list &list) {
 }
 
 bool grow(quarn_asn1_list &list) {
-  std::int32_t capacity = list.capacity == 0 ? kMostNear : list.capacity;
-  if (list.capacity != 0 && !multiply_by<std::int32_t>(capacity, 2)) return false;
+  std::int32_t capacity = list.capacity <= kMostNear ? kFirstBlock / 2 : list.capacity;
+  if (!multiply_by<std::int32_t>(capacity, 2)) return false;
   auto **items = util::allocate_array<void *>(static_cast<std::size_t>(capacity));
   if (items == nullptr) return false;
   const auto count = static_cast<std::size_t>(list.count);
@@ -301,8 +303,9 @@ Status decode_with(Reader &in,
   return Status::success();
 }
 
-// The dispatch by type id and the list each make their record.
-Status no_such_type(quarn_err_ctx *ctx) {
+// The dispatch by type id and the list each make their record, after null arguments.
+Status no_such_type(const quarn_stream *stream, const void *list, quarn_err_ctx *ctx) {
+  if (stream == nullptr || list == nullptr) return kUnit.fail(ctx, QUARN_ERROR_ARGUMENT);
   return kUnit.pass_on(kUnit.fail(ctx, QUARN_ASN1_ERROR_TYPE), ctx, QUARN_ASN1_ERROR_TYPE);
 }
 
@@ -474,7 +477,7 @@ int quarn_asn1_encode_list_content(quarn_stream *s,
                                    uint64_t *written,
                                    quarn_err_ctx *ctx) {
   const Type *type = find_type(element_type_id);
-  if (type == nullptr) return no_such_type(ctx).raw();
+  if (type == nullptr) return no_such_type(s, l, ctx).raw();
   return writing(s, written, ctx,
                  [=](Writer &out) { return encode_list_content(out, l, *type, content_length); });
 }
@@ -520,7 +523,7 @@ int quarn_asn1_decode_list_content(quarn_stream *s,
                                    quarn_err_ctx *ctx) {
   if (l != nullptr) *l = nullptr;
   const Type *type = find_type(element_type_id);
-  if (type == nullptr) return no_such_type(ctx).raw();
+  if (type == nullptr) return no_such_type(s, l, ctx).raw();
   const ElementTag expected{element_class, element_form, element_tag};
   return reading(s, consumed, ctx, [&](Reader &in) {
     return decode_list_content(in, l, *type, form != 0, content_length, expected);

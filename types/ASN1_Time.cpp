@@ -175,10 +175,9 @@ char *put_gentime(const quarn_time_fields &time, char *out) {
   out = put_month_to_minute(time, out);
   out = put_pair(time.second, out);
   if (time.nanoseconds != 0) *out++ = '.';
-  int left = time.nanoseconds;
-  for (int weight = 100'000'000; left != 0; weight /= 10) {
-    *out++ = static_cast<char>('0' + left / weight);
-    left %= weight;
+  constexpr int kTenth = 100'000'000;
+  for (int left = time.nanoseconds; left != 0; left = left % kTenth * 10) {
+    *out++ = static_cast<char>('0' + left / kTenth);
   }
   *out++ = 'Z';
   return out;

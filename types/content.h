@@ -13,6 +13,7 @@ namespace quarn::asn1 {
 // as the octets arrive.
 class Content {
  public:
+  // cppcheck-suppress uninitMemberVar ; few_ is written before it is read
   Content() = default;
 
   Status read(Reader &in, std::uint64_t count, const Unit &unit) {

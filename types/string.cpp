@@ -100,8 +100,8 @@ Status read_string(StringValue *value,
 
 Status decode_inside(
     StringValue *value, std::int64_t type_id, void **object, const Unit &unit, quarn_err_ctx *ctx) {
+  if (object != nullptr) *object = nullptr;
   if (value == nullptr || object == nullptr) return unit.fail(ctx, QUARN_ERROR_ARGUMENT);
-  *object = nullptr;
   const Type *type = find_type(type_id);
   if (type == nullptr) {
     // Twice: as the failure of the decoder, and in place of the code of the type it was asked for.

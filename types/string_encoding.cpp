@@ -156,7 +156,6 @@ Status note(const SegmentRules &rules, Status status, const Reader &in, int code
 
 Status read_segment(const SegmentRules &rules, Reader &in, Segment &out) {
   const Unit &unit = rules.unit;
-  if (in.is_null()) return unit.fail(in.ctx(), QUARN_ERROR_ARGUMENT);
   Identifier identifier{};
   Status status = read_identifier(in, identifier);
   if (!status) return unit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_IDENTIFIER, in.offset());
@@ -191,8 +190,8 @@ Status decode_run(const SegmentRules &rules, Reader &in, void **value, std::uint
 
 Status decode_string_content(
     const SegmentRules &rules, Reader &in, void **value, bool primitive, std::int64_t length) {
+  if (value != nullptr) *value = nullptr;
   if (in.is_null() || value == nullptr) return rules.unit.fail(in.ctx(), QUARN_ERROR_ARGUMENT);
-  *value = nullptr;
   if (primitive && length >= 0 && in.in_memory()) {
     return decode_run(rules, in, value, static_cast<std::uint64_t>(length));
   }
@@ -220,11 +219,11 @@ Status decode_string_content_into(const SegmentRules &rules,
                                   void **value,
                                   bool primitive,
                                   std::int64_t length) {
+  if (value != nullptr) *value = nullptr;
   // A stream that was written to the end that it is read from would never end.
   if (in.is_null() || destination == nullptr || value == nullptr || destination == in.stream()) {
     return rules.unit.fail(in.ctx(), QUARN_ERROR_ARGUMENT);
   }
-  *value = nullptr;
   util::Block<StringValue> made(new_string(0));
   if (made == nullptr) return rules.unit.fail(in.ctx(), QUARN_ERROR_NO_MEMORY, in.offset());
   Writer out(destination, in.ctx());

@@ -122,6 +122,7 @@ quarn_data_blob *quarn_biginteger_getdata(const quarn_biginteger *b) {
 }
 
 int quarn_biginteger_todec(const quarn_biginteger *b, char **text, size_t *length) {
+  if (text != nullptr) *text = nullptr;
   if (b == nullptr || text == nullptr) return 0;
   std::size_t count = 0;
   *text = biginteger_to_digits(*b, &count);

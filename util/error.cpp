@@ -62,6 +62,7 @@ int print_entry(const Entry &entry, char *out, std::size_t room) {
   if (entry.offset < 0) {
     return std::snprintf(out, room, "%s:%d: 0x%x %s\n", r.file, r.line, code, r.message);
   }
+  // cppcheck-suppress nullPointer ; with no room nothing is written
   return std::snprintf(out, room, "%s:%d: 0x%x %s (offset %lld)\n", r.file, r.line, code, r.message,
                        static_cast<long long>(entry.offset));
 }
@@ -157,8 +158,8 @@ void quarn_err_ctx_clear(quarn_err_ctx *ctx) {
 }
 
 int quarn_err_ctx_print(const quarn_err_ctx *ctx, char **text, size_t *length) {
+  if (text != nullptr) *text = nullptr;
   if (ctx == nullptr || text == nullptr) return 0;
-  *text = nullptr;
   std::size_t size = 0;
   for (std::size_t i = 0; i < ctx->count; i++) {
     size += static_cast<std::size_t>(print_entry(ctx->entries[i], nullptr, 0));

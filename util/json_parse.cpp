@@ -5,6 +5,7 @@
 #include <rapidjson/reader.h>
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
 #include <new>
 #include <optional>
@@ -15,16 +16,20 @@
 namespace quarn::util {
 namespace {
 
-// Whether one of eight octets does not stand for itself in a string, or is not ASCII.
-bool is_special(const char *octets) {
+// How many of eight octets stand for themselves in a string and are ASCII, before the first that is
+// not so.
+std::size_t plain_of_eight(const char *octets) {
   constexpr uint64_t kOnes = 0x0101010101010101;
   uint64_t word;
   std::memcpy(&word, octets, sizeof word);
+  if constexpr (std::endian::native == std::endian::big) word = __builtin_bswap64(word);
   const uint64_t quote = word ^ kOnes * '"';
   const uint64_t backslash = word ^ kOnes * '\\';
-  // Where all octets are ASCII, the top bit of each difference tells whether it borrowed.
+  // The top bit of a difference tells whether an ASCII octet borrowed, and so is what is looked
+  // for. Octets after it may be marked wrongly.
   const uint64_t low = (word - kOnes * 0x20) | (quote - kOnes) | (backslash - kOnes);
-  return ((word | low) & kOnes * 0x80) != 0;
+  const uint64_t marks = (word | low) & kOnes * 0x80;
+  return static_cast<std::size_t>(std::countr_zero(marks)) / 8;
 }
 
 // NOLINTBEGIN(readability-identifier-naming): the names that the reader asks for
@@ -48,9 +53,10 @@ class TextStream {
   std::string_view plain() const {
     constexpr std::ptrdiff_t kMost = 4096;
     const char *to = at_;
-    const char *last = at_ + std::min(end_ - at_, kMost);
-    while (last - to >= 8 && !is_special(to)) to += 8;
-    while (to < last && *to >= 0x20 && *to != '"' && *to != '\\') to++;
+    for (const char *last = at_ + std::min(end_ - at_, kMost); last - to >= 8; to += 8) {
+      const std::size_t count = plain_of_eight(to);
+      if (count < 8) return {at_, to + count};
+    }
     return {at_, to};
   }
   void Skip(std::size_t count) { at_ += count; }
@@ -79,20 +85,33 @@ struct rapidjson::StreamTraits<quarn::util::TextStream> {
 namespace quarn::util {
 namespace {
 
-// Memory of the reader's stack, which holds 8 octets a level and the string or number at hand. The
-// reader counts these in 32 bits, so that the stack must stay below that.
+// Memory of the reader's stack, which holds 8 octets a level and the string or number at hand: one
+// block, at first this object itself. The reader counts it in 32 bits, so that it must stay below
+// that.
 class StackMemory {
  public:
-  [[maybe_unused]] static constexpr bool kNeedFree = true;
+  [[maybe_unused]] static constexpr bool kNeedFree = false;
+
+  StackMemory() = default;
+  StackMemory(const StackMemory &) = delete;
+  StackMemory &operator=(const StackMemory &) = delete;
+  ~StackMemory() { quarn_free(block_); }
 
   void *Realloc(void *old, std::size_t old_size, std::size_t new_size) {
+    if (block_ == nullptr && new_size <= sizeof near_) return near_;
     void *block = new_size <= INT32_MAX ? allocate_array<char>(new_size) : nullptr;
     if (block == nullptr) throw std::bad_alloc();
     if (old != nullptr) std::memcpy(block, old, std::min(old_size, new_size));
-    Free(old);
+    quarn_free(block_);
+    block_ = block;
     return block;
   }
-  static void Free(void *block) { quarn_free(block); }
+  // The reader has only one block, which goes with this object.
+  static void Free(void * /*block*/) {}
+
+ private:
+  void *block_ = nullptr;
+  alignas(std::max_align_t) char near_[2048];
 };
 
 struct LoneSurrogate {};

@@ -8,12 +8,18 @@
 namespace quarn::util {
 namespace {
 
-// Objects of more members than this have an index of their keys: a hash table of 32-bit cells with
-// linear probing, two cells for each pointer, behind the pointers in the same block. A cell holds a
-// position plus 1, or 0.
+// Objects of more members than this have an index of their keys: a hash table with linear probing,
+// two cells for each pointer, behind the pointers in the same block.
 constexpr uint32_t kMostUnindexed = 16;
 
 constexpr std::size_t kNearRoom = quarn_json::kMostNear * sizeof(quarn_json *);
+
+// A free cell has place 0. The hash spares a look at the member, which lies anywhere in memory,
+// where the keys differ and where a table is made anew.
+struct Cell {
+  uint32_t hash;
+  uint32_t place;  // position of the member plus 1
+};
 
 // Number of pointers in the block of a value that has one.
 uint64_t capacity(const quarn_json *container) {
@@ -24,31 +30,73 @@ bool is_indexed(const quarn_json *container, uint64_t pointers) {
   return container->kind == QUARN_JSON_OBJECT && pointers > kMostUnindexed;
 }
 
-// The cell that holds the key's position, or the free cell where it belongs.
-uint32_t *find_cell(quarn_json *const *children, uint64_t pointers, std::string_view key) {
-  auto *cells = reinterpret_cast<uint32_t *>(const_cast<quarn_json **>(children + pointers));
-  const uint64_t mask = 2 * pointers - 1;
-  uint64_t at = keyed_hash(key) & mask;
-  while (cells[at] != 0 && !children[cells[at] - 1]->key.is(key)) at = (at + 1) & mask;
-  return &cells[at];
+uint32_t hash_of(std::string_view key) {
+  return static_cast<uint32_t>(keyed_hash(key));
 }
 
-void add_to_index(quarn_json *const *children, uint64_t pointers, const quarn_json *child) {
-  *find_cell(children, pointers, child->key.view()) = child->position + 1;
-}
+// The key index of a block of so many pointers.
+class Index {
+ public:
+  Index(quarn_json *const *block, uint64_t pointers)
+      : children_(block),
+        pointers_(pointers),
+        cells_(reinterpret_cast<Cell *>(const_cast<quarn_json **>(block + pointers))) {}
+
+  void clear() { std::memset(cells_, 0, 2 * pointers_ * sizeof(Cell)); }
+
+  quarn_json *find(std::string_view key) const {
+    const uint32_t hash = hash_of(key);
+    for (uint64_t at = first(hash); cells_[at].place != 0; at = next(at)) {
+      if (cells_[at].hash != hash) continue;
+      quarn_json *child = children_[cells_[at].place - 1];
+      if (child->key.is(key)) return child;
+    }
+    return nullptr;
+  }
+
+  // Adds a cell for a key that is not there yet.
+  void add(const Cell &cell) {
+    uint64_t at = first(cell.hash);
+    while (cells_[at].place != 0) at = next(at);
+    cells_[at] = cell;
+  }
+  void add(const quarn_json *child) { add({hash_of(child->key.view()), child->position + 1}); }
+
+  // The cells of a smaller index come in about the order in which they are put here, so that both
+  // tables are passed through from end to end.
+  void add_all(const Index &smaller) {
+    for (uint64_t i = 0; i < 2 * smaller.pointers_; i++) {
+      if (smaller.cells_[i].place != 0) add(smaller.cells_[i]);
+    }
+  }
+
+ private:
+  // Where a hash belongs: in proportion to its size, so that cells keep their order.
+  uint64_t first(uint32_t hash) const { return hash * pointers_ >> 31; }
+  uint64_t next(uint64_t at) const { return (at + 1) & (2 * pointers_ - 1); }
+
+  quarn_json *const *children_;
+  uint64_t pointers_;
+  Cell *cells_;
+};
 
 // A larger block with the same children; null when memory is short.
 quarn_json **grown_block(const quarn_json *container, uint64_t pointers) {
   const bool indexed = is_indexed(container, pointers);
-  const std::size_t cells = indexed ? 2 * sizeof(uint32_t) : 0;
+  const std::size_t cells = indexed ? 2 * sizeof(Cell) : 0;
   std::size_t octets;
   if (__builtin_mul_overflow(pointers, sizeof(void *) + cells, &octets)) return nullptr;
   auto **block = reinterpret_cast<quarn_json **>(allocate_array<char>(octets));
   if (block == nullptr) return nullptr;
   std::copy_n(container->children(), container->size, block);
   if (!indexed) return block;
-  std::memset(block + pointers, 0, pointers * cells);
-  for (uint32_t i = 0; i < container->size; i++) add_to_index(block, pointers, block[i]);
+  Index index(block, pointers);
+  index.clear();
+  if (is_indexed(container, container->size)) {
+    index.add_all(Index(container->children(), container->size));
+  } else {
+    for (uint32_t i = 0; i < container->size; i++) index.add(block[i]);
+  }
   return block;
 }
 
@@ -136,8 +184,7 @@ quarn_json *json_find(const quarn_json *object, std::string_view key) {
   if (object->size == 0) return nullptr;
   quarn_json *const *children = object->children();
   if (is_indexed(object, object->size)) {
-    const uint32_t cell = *find_cell(children, capacity(object), key);
-    return cell == 0 ? nullptr : children[cell - 1];
+    return Index(children, capacity(object)).find(key);
   }
   for (uint32_t i = 0; i < object->size; i++) {
     if (children[i]->key.is(key)) return children[i];
@@ -152,7 +199,7 @@ bool json_append(quarn_json *container, quarn_json *value, const JsonKey &key) {
   value->key = key;
   const_cast<quarn_json **>(container->children())[value->position] = value;
   if (is_indexed(container, container->size)) {
-    add_to_index(container->children(), capacity(container), value);
+    Index(container->children(), capacity(container)).add(value);
   }
   return true;
 }

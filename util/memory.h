@@ -20,7 +20,8 @@ T *allocate(std::size_t extra = 0,
             int line = __builtin_LINE()) {
   if (extra > SIZE_MAX - sizeof(T)) return nullptr;
   void *memory = quarn_malloc(sizeof(T) + extra, file, line);
-  return memory == nullptr ? nullptr : new (memory) T{};
+  if (memory == nullptr) return nullptr;
+  return new (memory) T{};
 }
 
 // Memory for count uninitialised elements of trivial type; null when it is short.

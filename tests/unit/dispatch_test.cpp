@@ -3,7 +3,7 @@
 
 #include "core/type.h"
 #include "quarn_asn1.h"
-#include "tests/support/streams.h"
+#include "tests/support/store.h"
 
 namespace quarn::test {
 namespace {
@@ -29,6 +29,122 @@ TEST(Dispatch, an_id_without_a_row_is_refused) {
     EXPECT_EQ(quarn_asn1_content_length(id, nullptr), -2);
     quarn_asn1_value_free(id, &value);
   }
+}
+
+// The records of calls with null arguments.
+struct NullArguments {
+  std::int64_t id;
+  Octets element;
+  std::vector<int> decode;          // no stream
+  std::vector<int> decode_content;  // no stream
+  std::vector<int> nowhere;         // the element, and no place for its value
+  std::vector<int> encode;          // no value
+};
+
+TEST(Dispatch, null_arguments_are_told_by_the_layer_that_meets_them) {
+  const std::vector<int> argument{0x10002};
+  const std::vector<int> header{0x10002, 0x102e5};
+  const NullArguments cases[] = {
+      {QUARN_ASN1_EOC, {0, 1}, argument, {0x1026a}, {0x10205}, {}},
+      {QUARN_ASN1_BOOLEAN, {1, 0}, header, argument, argument, argument},
+      {QUARN_ASN1_BITSTRING, {3, 0}, header, argument, argument, {0x10203}},
+      {4, {4, 0}, {0x10002, 0x102e5, 0x10219}, argument, {0x10002, 0x10219}, {0x10203}},
+      {QUARN_ASN1_NULL, {5, 0}, header, argument, {}, {}},
+      {QUARN_ASN1_OID, {6, 0}, header, argument, argument, argument},
+      {QUARN_ASN1_STRING, {4, 0}, {0x1026d}, argument, {0x1026d}, {0x1026c}},
+      {QUARN_ASN1_UTF8STRING, {12, 0}, argument, argument, argument, {0x102ea}},
+      {QUARN_ASN1_TIME, {23, 0}, argument, {0x1026d}, argument, argument},
+      {QUARN_ASN1_GENTIME, {24, 0}, argument, argument, argument, argument},
+      {QUARN_ASN1_ANY, {5, 0}, header, {0x1026d}, argument, argument},
+      {QUARN_ASN1_ANYLIST, {0x30, 0}, header, argument, argument, argument},
+  };
+  const auto codes = [](auto call) {
+    const Context ctx(quarn_err_ctx_new());
+    const bool ok = call(ctx.get()) == 1;
+    EXPECT_EQ(ok, quarn_err_ctx_count(ctx.get()) == 0);
+    return codes_in(ctx.get());
+  };
+  for (const auto &[id, element, decode, decode_content, nowhere, encode] : cases) {
+    SCOPED_TRACE(id);
+    const Stream in = memory_stream(element);
+    const Stream out(quarn_stream_new_mem(0, nullptr));
+    const auto type = id;
+    void *value = &value;
+    void *content = &value;
+    const auto decoded =
+        codes([&](auto *ctx) { return quarn_asn1_decode(nullptr, type, &value, nullptr, ctx); });
+    const auto content_decoded = codes([&](auto *ctx) {
+      return quarn_asn1_decode_content(nullptr, type, &content, 0, -1, nullptr, ctx);
+    });
+    EXPECT_EQ(decoded, decode);
+    EXPECT_EQ(content_decoded, decode_content);
+    EXPECT_EQ(value == nullptr && content == nullptr, type != QUARN_ASN1_EOC);
+    EXPECT_EQ(
+        codes([&](auto *ctx) { return quarn_asn1_decode(in.get(), type, nullptr, nullptr, ctx); }),
+        nowhere);
+    EXPECT_EQ(
+        codes([&](auto *ctx) { return quarn_asn1_encode(out.get(), type, nullptr, nullptr, ctx); }),
+        encode);
+  }
+}
+
+// The code that follows the stream's own when each write in turn fails; 0: none does.
+void expect_writing(std::int64_t id, void *value, const std::vector<int> &steps) {
+  for (std::size_t step = 0; step <= steps.size(); step++) {
+    SCOPED_TRACE(step);
+    SlowSink sink;
+    sink.fail_after(static_cast<std::int64_t>(step));
+    const Stream out = sink.stream();
+    const Context ctx(quarn_err_ctx_new());
+    const bool whole = step == steps.size();
+    EXPECT_EQ(quarn_asn1_encode(out.get(), id, value, nullptr, ctx.get()), whole ? 1 : 0);
+    std::vector<int> codes(whole ? 0 : 1, 0x10102);
+    if (!whole && steps[step] != 0) codes.push_back(steps[step]);
+    EXPECT_EQ(codes_in(ctx.get()), codes);
+  }
+}
+
+TEST(Dispatch, each_write_that_fails_is_told_by_the_step_it_belongs_to) {
+  const struct {
+    std::int64_t id;
+    Octets element;
+    std::vector<int> steps;
+  } cases[] = {
+      {QUARN_ASN1_BOOLEAN, {0x01, 1, 0xFF}, {0x102e4, 0x102e6, 0}},
+      {QUARN_ASN1_BITSTRING, {0x03, 2, 3, 0xF8}, {0, 0x102e6, 0, 0}},
+      {QUARN_ASN1_OCTETSTRING, {0x04, 1, 'a'}, {0, 0x102e6, 0}},
+      {QUARN_ASN1_NULL, {0x05, 0}, {0}},
+      {QUARN_ASN1_UTF8STRING, {0x0C, 1, 'a'}, {0x102e4, 0x102e6, 0}},
+      {QUARN_ASN1_ANY, {0x05, 0}, {0}},
+      {QUARN_ASN1_ANYLIST, {0x30, 4, 0x30, 0x80, 0, 0}, {0x102e4, 0x102e6, 0x10235, 0x102e8}},
+      {QUARN_ASN1_LDAPUNBINDREQUEST, {0x42, 0}, {0x102e4, 0x102e6}},
+  };
+  for (const auto &[id, element, steps] : cases) {
+    SCOPED_TRACE(id);
+    void *value = nullptr;
+    const auto count = static_cast<std::int64_t>(element.size());
+    ASSERT_EQ(quarn_asn1_mem_decode(element.data(), count, id, &value), count);
+    expect_writing(id, value, steps);
+    quarn_asn1_value_free(id, value);
+  }
+  quarn_asn1_time *time = quarn_asn1_utctime_new(2024, 1, 1, 0, 0, 0);
+  expect_writing(QUARN_ASN1_TIME, time, {0x102e4, 0x10238, 0x102e6});
+  quarn_asn1_value_free(QUARN_ASN1_TIME, time);
+}
+
+TEST(Dispatch, each_write_of_a_segment_that_fails_is_told_by_its_step) {
+  Store store({'a', 'b'});
+  store.knows_length = false;
+  const Stream held = store.stream();
+  quarn_asn1_octetstring *octets = quarn_asn1_octetstring_newstream(held.get());
+  expect_writing(4, octets, {0, 0x102e6, 0x102e4, 0x102e4, 0, 0x102e8});
+  quarn_asn1_value_free(4, octets);
+
+  const Octets empty{0x03, 1, 0};
+  quarn_asn1_bitstring *bits = nullptr;
+  quarn_asn1_decode_bitstring_ex(memory_stream(empty).get(), held.get(), &bits, nullptr, nullptr);
+  expect_writing(3, bits, {0, 0x102e6, 0x102e4, 0x102e6, 0, 0, 0x102e8});
+  quarn_asn1_value_free(3, bits);
 }
 
 TEST(Dispatch, rows_have_the_codes_that_callers_know) {

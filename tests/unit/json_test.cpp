@@ -461,6 +461,21 @@ TEST(Json, sorting_hostile_sets_takes_no_time) {
   zeros.append(raw(repeat(1, "05").append(repeat(kMany, "00"))));
   for (std::size_t i = 0; i < kMany; i++) zeros.append(",").append(raw("05"));
   EXPECT_TRUE(encoded(parse(zeros.append("]}"))).ends_with("050505"));
+
+  // The long one is compared with all others, which in turn end before one run of zeros and before
+  // the other.
+  const std::string others =
+      repeat(kMany / 4, raw("00").append(",").append(raw("0000FF").append(",")));
+  std::string runs = R"({"type":"SETOF","sort":true,"value":[)";
+  runs.append(others).append(raw(repeat(1, "0000FF").append(repeat(kMany, "00")).append("01")));
+  runs.append(",")
+      .append(others)
+      .append(raw("00"))
+      .append(",")
+      .append(raw("FF"))
+      .append(",")
+      .append(raw("00"));
+  EXPECT_TRUE(encoded(parse(runs.append("]}"))).ends_with("000001FF"));
 }
 
 TEST(Json, every_failed_allocation_ends_without_a_leak) {

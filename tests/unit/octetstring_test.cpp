@@ -82,18 +82,22 @@ TEST(OctetString, constructors_copy_and_refuse_what_is_none) {
 
 TEST(OctetString, nothing_can_be_got_from_null) {
   const Context ctx(quarn_err_ctx_new());
-  void *object = nullptr;
+  int place = 0;
+  void *object = &place;
   const Stream s = growable();
   EXPECT_EQ(quarn_asn1_octetstring_length(nullptr), QUARN_ASN1_NO_LENGTH);
   EXPECT_EQ(quarn_asn1_octetstring_getall(nullptr, nullptr), 0);
   EXPECT_EQ(quarn_asn1_octetstring_getblob(nullptr), nullptr);
   EXPECT_EQ(quarn_asn1_octetstring_get(nullptr, 1, nullptr, 0, nullptr, ctx.get()), 0);
   EXPECT_EQ(quarn_asn1_octetstring_getobject(nullptr, 5, &object, ctx.get()), 0);
+  EXPECT_EQ(object, nullptr);
+  auto *left = static_cast<quarn_asn1_octetstring *>(static_cast<void *>(&place));
+  EXPECT_EQ(
+      quarn_asn1_decode_octetstring_content_ex(nullptr, s.get(), &left, 1, 1, nullptr, nullptr), 0);
+  EXPECT_EQ(left, nullptr);
   EXPECT_EQ(quarn_asn1_encode(s.get(), 4, nullptr, nullptr, ctx.get()), 0);
   EXPECT_EQ(quarn_asn1_encode_numbericstring(s.get(), nullptr, nullptr, ctx.get()), 0);
   EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10002, 0x10002, 0x10203, 0x102ea}));
-  EXPECT_EQ(quarn_asn1_decode(nullptr, 4, &object, nullptr, nullptr), 0);
-  EXPECT_EQ(quarn_asn1_decode(nullptr, 9, &object, nullptr, nullptr), 0);
 }
 
 TEST(OctetString, octets_are_read_in_pieces_of_any_size) {

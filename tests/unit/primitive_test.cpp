@@ -116,29 +116,6 @@ TEST(Primitive, content_encoders_check_stream_value_and_length_in_this_order) {
   }
 }
 
-TEST(Primitive, decoders_refuse_null_arguments_first) {
-  const std::vector<std::uint8_t> none;
-  for (const Sample &sample : samples()) {
-    SCOPED_TRACE(sample.type);
-    quarn_asn1_value_free(sample.type, sample.value);
-    if (sample.type == QUARN_ASN1_TIME) continue;
-    const Context ctx(quarn_err_ctx_new());
-    void *value = &value;
-    EXPECT_EQ(quarn_asn1_decode_content(nullptr, sample.type, &value, 0, -1, nullptr, ctx.get()),
-              0);
-    EXPECT_EQ(value, nullptr);
-    std::vector<int> codes{0x10002};
-    if (sample.type != QUARN_ASN1_NULL) {
-      const Stream stream = memory_stream(none);
-      EXPECT_EQ(
-          quarn_asn1_decode_content(stream.get(), sample.type, nullptr, 0, -1, nullptr, ctx.get()),
-          0);
-      codes.push_back(0x10002);
-    }
-    EXPECT_EQ(codes_in(ctx.get()), codes);
-  }
-}
-
 TEST(Primitive, a_claimed_length_sizes_no_allocation) {
   for (const std::int64_t type : {QUARN_ASN1_INTEGER, QUARN_ASN1_OID, QUARN_ASN1_GENTIME}) {
     quarn_asn1_type_description description{};

@@ -245,19 +245,6 @@ TEST(Time, encoders_of_one_form_refuse_the_other) {
             "240101000000Z");
 }
 
-TEST(Time, each_step_of_writing_has_its_code) {
-  const Time v(quarn_asn1_utctime_new(2024, 1, 1, 0, 0, 0));
-  const int codes[] = {0x102e4, 0x10238, 0x102e6};
-  for (int step = 0; step < 3; step++) {
-    SlowSink sink;
-    sink.fail_after(step);
-    const Stream stream = sink.stream();
-    const Context ctx(quarn_err_ctx_new());
-    EXPECT_EQ(quarn_asn1_encode_time(stream.get(), v.get(), nullptr, ctx.get()), 0);
-    EXPECT_EQ(codes_in(ctx.get()).back(), codes[step]);
-  }
-}
-
 TEST(Time, content_is_decoded_under_a_tag_of_the_callers) {
   const std::string text =
       "\x04\x0E"

@@ -161,6 +161,10 @@ TEST(BigInteger, refuses_null_and_empty_octets) {
   EXPECT_EQ(quarn_biginteger_getdata(nullptr), nullptr);
   EXPECT_EQ(quarn_biginteger_getbitcount(nullptr), -1);
   EXPECT_EQ(quarn_biginteger_neg(nullptr), 0);
+  char left[] = "left from before";
+  char *text = left;
+  EXPECT_EQ(quarn_biginteger_todec(nullptr, &text, nullptr), 0);
+  EXPECT_EQ(text, nullptr);
 }
 
 TEST(BigInteger, survives_lack_of_memory_within_a_long_conversion) {

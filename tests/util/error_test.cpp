@@ -29,6 +29,10 @@ TEST(ErrorContext, accepts_null) {
   EXPECT_EQ(quarn_err_ctx_count(nullptr), 0u);
   EXPECT_EQ(quarn_err_ctx_get(nullptr, 0), nullptr);
   EXPECT_EQ(quarn_err_ctx_offset(nullptr, 0), -1);
+  char left[] = "left from before";
+  char *text = left;
+  EXPECT_EQ(quarn_err_ctx_print(nullptr, &text, nullptr), 0);
+  EXPECT_EQ(text, nullptr);
   quarn_err_ctx_clear(nullptr);
   quarn_err_ctx_free(nullptr);
 }

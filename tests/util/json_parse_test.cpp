@@ -113,6 +113,22 @@ TEST(JsonParse, anything_else_is_refused_where_it_goes_wrong) {
   EXPECT_EQ(quarn_json_parse(nullptr, 0, nullptr), nullptr);
 }
 
+// Strings are read in runs of plain octets: what ends a run is found wherever it stands in one.
+TEST(JsonParse, octets_that_are_not_plain_are_found_wherever_they_stand) {
+  for (const std::size_t before : {0u, 1u, 6u, 7u, 8u, 9u, 15u, 16u, 4095u, 4096u, 4097u}) {
+    const std::string plain(before, 'x');
+    const std::string offset = std::to_string(before + 1);
+    for (const char *special : {"\\\"", "\\\\", "\\n", "é", "\x7f", "~", " ", "!", "#", "[", "]"}) {
+      const std::string text = '"' + plain + special + "after it\"";
+      EXPECT_EQ(reprinted(text), text);
+    }
+    for (const char *bad : {"\x1f", "\x80", "\xff", "\xc0\x80"}) {
+      EXPECT_EQ(reprinted('"' + plain + bad + "after it\""), "0x10003 at " + offset);
+    }
+    EXPECT_EQ(reprinted('"' + plain), "0x10003 at " + offset);
+  }
+}
+
 TEST(JsonParse, a_million_members_are_read_and_the_last_duplicate_is_found) {
   std::string text = "{";
   for (int i = 0; i < 1'000'000; i++) text += "\"key" + std::to_string(i) + "\":0,";

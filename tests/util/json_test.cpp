@@ -179,8 +179,8 @@ TEST(Json, small_values_cost_little_memory) {
     quarn_json_free(j);
     return octets;
   };
-  EXPECT_LE(cost(R"({"type":"NULL"})"), 112u);
-  EXPECT_LE(cost(R"({"type":"INTEGER","value":5})"), 208u);
+  EXPECT_LE(cost(R"({"type":"NULL"})"), 128u);
+  EXPECT_LE(cost(R"({"type":"INTEGER","value":5})"), 192u);
 }
 
 TEST(Json, lack_of_memory_leaves_values_with_their_owner) {
