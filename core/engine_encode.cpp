@@ -12,6 +12,7 @@ namespace quarn::asn1 {
 
 namespace {
 
+// What concerns a whole element is recorded as by the dispatch, which does it for other types.
 constexpr Unit kUnit{"QUARN_ASN1"};
 
 // The tag number that a value is written with.

@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "core/buffer.h"
+#include "core/header.h"
 
 namespace quarn::asn1 {
 
@@ -28,7 +29,9 @@ class Lengths {
   // Some lengths are lost.
   bool out_of_memory() const { return out_of_memory_; }
 
+  // The next length; kNoLength when there is none.
   std::int64_t peek() const {
+    if (next_ >= count_) return kNoLength;
     if (next_ < kNear) return near_[next_];
     std::int64_t length = 0;
     std::memcpy(&length, far_.data() + (next_ - kNear) * sizeof length, sizeof length);
@@ -43,7 +46,7 @@ class Lengths {
  private:
   static constexpr std::size_t kNear = 64;  // enough for most values, and no allocation
 
-  std::int64_t near_[kNear];
+  std::int64_t near_[kNear] = {};
   Buffer far_;
   std::size_t count_ = 0;
   std::size_t next_ = 0;

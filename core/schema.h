@@ -94,7 +94,9 @@ constexpr notation::Tag implicit_tag(std::uint16_t number) {
 constexpr notation::Tag explicit_tag(std::uint16_t number) {
   return {Tagging::explicitly, number};
 }
-constexpr notation::Occurrence optional{Presence::optional, 0};
+constexpr notation::Occurrence optional() {
+  return {Presence::optional, 0};
+}
 constexpr notation::Occurrence defaults_to(bool value) {
   return {Presence::default_boolean, value};
 }

@@ -178,19 +178,19 @@ constexpr bool is_record(Fields... fields) {
 }
 
 constexpr Field kBool = field("", QUARN_ASN1_BOOLEAN);
-constexpr Field kBoolLater = field("", QUARN_ASN1_BOOLEAN, optional);
+constexpr Field kBoolLater = field("", QUARN_ASN1_BOOLEAN, optional());
 constexpr Field kInt = field("", QUARN_ASN1_INTEGER);
-constexpr Field kIntLater = field("", QUARN_ASN1_INTEGER, optional);
+constexpr Field kIntLater = field("", QUARN_ASN1_INTEGER, optional());
 
 static_assert(is_record(kIntLater, kBool));
 static_assert(is_record(kBoolLater, kInt, kBoolLater), "a mandatory component parts the two");
 static_assert(!is_record(kBoolLater, kBool));
 static_assert(!is_record(kBoolLater, kIntLater, kBoolLater));
-static_assert(!is_record(field("", QUARN_ASN1_TIME, optional), field("", QUARN_ASN1_UTCTIME)));
+static_assert(!is_record(field("", QUARN_ASN1_TIME, optional()), field("", QUARN_ASN1_UTCTIME)));
 static_assert(!is_record(kBoolLater, field("", kChoiceId)));
-static_assert(!is_record(field("", kChoiceId, optional),
+static_assert(!is_record(field("", kChoiceId, optional()),
                          field("", QUARN_ASN1_INTEGER, implicit_tag(0))));
-static_assert(!is_record(field("", QUARN_ASN1_ANY, optional)), "an open type is decoded whole");
+static_assert(!is_record(field("", QUARN_ASN1_ANY, optional())), "an open type is decoded whole");
 static_assert(!is_record(field("", kChoiceId, implicit_tag(1))), "a CHOICE has no tag to replace");
 static_assert(is_record(field("", kChoiceId, explicit_tag(1))));
 static_assert(!is_record(field("", QUARN_ASN1_INTEGER, defaults_to(true))));
