@@ -186,8 +186,10 @@ class Encoder {
     const bool wraps = field.tagging == Tagging::explicitly;
     const bool either = type.form == -1;
     const bool primitive = !wraps && (either ? length != kIndefinite : type.form != 0);
-    const auto number = own ? static_cast<std::int64_t>(type.tag_number) : field.tag;
-    Status status = write_identifier(out_, own ? type.tag_class : kContext, primitive, number);
+    const std::uint32_t tag_class = own ? type.tag_class : kContext;
+    const std::uint64_t number = own ? type.tag_number : field.tag;
+    if (write_short_header(out_, tag_class, primitive, number, length)) return Status::success();
+    Status status = write_identifier(out_, tag_class, primitive, static_cast<std::int64_t>(number));
     if (!status) return note(schema, status, QUARN_ASN1_ERROR_WRITE_IDENTIFIER);
     status = write_length(out_, length);
     return note(schema, status, QUARN_ASN1_ERROR_WRITE_LENGTH);

@@ -53,10 +53,17 @@ struct Type {
   int decode_error() const { return error_code + 1; }
 };
 
-// The row of an id, or null when there is none. Defined on the top floor, in modules/.
-const Type *find_type(std::int64_t id);
+// The rows, by id. Defined on the top floor, in modules/.
+extern const Type kTypes[QUARN_ASN1_TYPE_COUNT];
+
+// The row of an id, or null when there is none.
+inline const Type *find_type(std::int64_t id) {
+  return id < 0 || id >= QUARN_ASN1_TYPE_COUNT ? nullptr : &kTypes[id];
+}
 // The row of an id that is known to be good.
-const Type &type_of(quarn_asn1_type_id id);
+inline const Type &type_of(quarn_asn1_type_id id) {
+  return kTypes[id];
+}
 
 // Whole elements. The row's own codec, or identifier and length around its content codec.
 Status encode(const Type &type, Writer &out, void *value);
