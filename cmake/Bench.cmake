@@ -12,7 +12,7 @@ find_path(HEIMDAL_INCLUDE_DIR heimdal/rfc2459_asn1.h REQUIRED)
 
 add_library(quarn_bench_inside SHARED ${PROJECT_SOURCE_DIR}/bench/walk_inside.cpp)
 target_include_directories(quarn_bench_inside PRIVATE ${PROJECT_SOURCE_DIR})
-target_link_libraries(quarn_bench_inside PRIVATE quarn_flags quarn_asn1_static quarn_util_static)
+target_link_libraries(quarn_bench_inside PRIVATE quarn_container_flags quarn_asn1_static quarn_util_static)
 target_link_options(quarn_bench_inside PRIVATE -Wl,--exclude-libs,ALL)
 
 file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/bench/*.cpp)
@@ -21,6 +21,6 @@ add_executable(quarn_bench ${sources})
 target_include_directories(quarn_bench PRIVATE ${PROJECT_SOURCE_DIR})
 target_include_directories(quarn_bench SYSTEM PRIVATE
   ${HEIMDAL_INCLUDE_DIR} ${HEIMDAL_INCLUDE_DIR}/heimdal)
-target_link_libraries(quarn_bench PRIVATE quarn_flags quarn_bench_inside quarn_asn1 quarn_util
+target_link_libraries(quarn_bench PRIVATE quarn_container_flags quarn_bench_inside quarn_asn1 quarn_util
   benchmark::benchmark OpenSSL::Crypto PkgConfig::TASN1 PkgConfig::BOTAN ${MBEDCRYPTO_LIBRARY}
   ${HEIMDAL_ASN1_LIBRARY})

@@ -7,7 +7,7 @@ add_executable(quarn_cli ${QUARN_CLI_SOURCES})
 set_target_properties(quarn_cli PROPERTIES OUTPUT_NAME quarn)
 target_include_directories(quarn_cli PRIVATE ${PROJECT_SOURCE_DIR})
 target_compile_definitions(quarn_cli PRIVATE QUARN_CLI_VERSION="${PROJECT_VERSION}")
-target_link_libraries(quarn_cli PRIVATE quarn_flags quarn_asn1 quarn_util CLI11::CLI11)
+target_link_libraries(quarn_cli PRIVATE quarn_container_flags quarn_asn1 quarn_util CLI11::CLI11)
 
 # Installed by Install.cmake: QUARN_MAN_PAGE and QUARN_COMPLETION_<shell> are the files.
 set(QUARN_SHARE_DIR ${PROJECT_BINARY_DIR}/share)

@@ -4,7 +4,7 @@ find_package(GTest REQUIRED)
 
 add_library(quarn_test_support STATIC ${PROJECT_SOURCE_DIR}/tests/support/vector_file.cpp)
 target_include_directories(quarn_test_support PRIVATE ${PROJECT_SOURCE_DIR})
-target_link_libraries(quarn_test_support PRIVATE quarn_flags PUBLIC quarn_asn1_static)
+target_link_libraries(quarn_test_support PRIVATE quarn_container_flags PUBLIC quarn_asn1_static)
 
 # quarn_add_test_program(NAME): tests/NAME/*.cpp, linked to the archives so that internals can be tested
 function(quarn_add_test_program folder)
@@ -14,7 +14,7 @@ function(quarn_add_test_program folder)
   endif()
   add_executable(quarn_test_${folder} ${sources})
   target_include_directories(quarn_test_${folder} PRIVATE ${PROJECT_SOURCE_DIR})
-  target_link_libraries(quarn_test_${folder} PRIVATE quarn_flags quarn_test_support quarn_asn1_static quarn_util_static
+  target_link_libraries(quarn_test_${folder} PRIVATE quarn_container_flags quarn_test_support quarn_asn1_static quarn_util_static
                         GTest::gtest GTest::gtest_main)
   target_compile_definitions(quarn_test_${folder} PRIVATE QUARN_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   add_test(NAME ${folder} COMMAND quarn_test_${folder} --gtest_brief=1)

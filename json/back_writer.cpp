@@ -4,10 +4,18 @@
 
 namespace quarn::asn1::json {
 
+namespace {
+
+// Room to begin with: most certificates need it twice. Somewhat less than a power of two, beyond
+// which common allocators are slower.
+constexpr std::size_t kFirstCapacity = 1000;
+
+}  // namespace
+
 bool BackWriter::grow(std::size_t count) {
   std::size_t needed = written_;
   if (!add_to(needed, count)) return false;
-  std::size_t capacity = capacity_ == 0 ? 64 : capacity_;
+  std::size_t capacity = capacity_ == 0 ? kFirstCapacity / 2 : capacity_;
   if (!multiply_by<std::size_t>(capacity, 2)) return false;
   if (capacity < needed) capacity = needed;
   auto *block = util::allocate_array<std::uint8_t>(capacity);

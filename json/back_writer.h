@@ -17,6 +17,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "core/buffer.h"
 #include "core/reader.h"
 #include "json/stack.h"
 
@@ -70,6 +71,12 @@ class BackWriter {
     return true;
   }
   [[nodiscard]] bool write(std::uint8_t octet) { return write(&octet, 1); }
+  // An empty buffer for what has to be made before it can be written; kept from one use to the
+  // next.
+  Buffer &scratch() {
+    scratch_.truncate(0);
+    return scratch_;
+  }
   // Takes back the count octets written last, by one call of extend().
   void drop(std::size_t count) { written_ -= count; }
 
@@ -121,6 +128,7 @@ class BackWriter {
   // Ends the piece that is being written.
   [[nodiscard]] bool cut();
 
+  Buffer scratch_;
   std::uint8_t *block_ = nullptr;
   std::size_t capacity_ = 0;
   std::size_t written_ = 0;

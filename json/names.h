@@ -3,7 +3,9 @@
 #define QUARN_JSON_NAMES_H
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string_view>
 
 #include "core/header.h"
@@ -84,11 +86,27 @@ inline constexpr TypeName kTypeNames[] = {
     {kTaggedType, 0, Kind::tagged, true},
 };
 
+// The rows by name: cells of a hash table with linear probing, which hold a row's number plus 1.
+constexpr std::size_t kNameCells = 128;
+constexpr std::size_t name_cell(std::string_view text) {
+  const auto octet = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
+  return (text.size() * 9 + octet(0) * 5u + octet(text.size() / 2)) % kNameCells;
+}
+inline constexpr auto kNameTable = [] {
+  std::array<std::uint8_t, kNameCells> cells{};
+  for (std::uint8_t row = 0; row < std::size(kTypeNames); row++) {
+    std::size_t cell = name_cell(kTypeNames[row].text);
+    while (cells[cell] != 0) cell = (cell + 1) % kNameCells;
+    cells[cell] = static_cast<std::uint8_t>(row + 1);
+  }
+  return cells;
+}();
+
 // The row that a document names, or null.
 constexpr const TypeName *find_type_name(std::string_view text) {
-  for (const TypeName &name : kTypeNames) {
-    // Most rows are told apart without comparing all of the text.
-    if (name.text.size() != text.size() || name.text.front() != text.front()) continue;
+  if (text.empty()) return nullptr;
+  for (std::size_t cell = name_cell(text); kNameTable[cell] != 0; cell = (cell + 1) % kNameCells) {
+    const TypeName &name = kTypeNames[kNameTable[cell] - 1];
     if (name.text == text) return &name;
   }
   return nullptr;

@@ -123,7 +123,7 @@ bool write_bit_string(BackWriter &out, const quarn_json *value) {
 
 bool write_oid(BackWriter &out, const quarn_json *value, bool relative) {
   const std::string_view text = text_of(value);
-  Buffer octets;
+  Buffer &octets = out.scratch();
   return text.data() != nullptr && append_oid_octets(text.data(), text.size(), relative, octets) &&
          out.write(octets.data(), octets.size());
 }

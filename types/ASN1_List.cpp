@@ -19,8 +19,8 @@ namespace {
 
 constexpr Unit kUnit{"QUARN_ASN1_List"};
 
-// Elements for which there is room in the list itself: fills a block of 40 octets.
-constexpr std::int32_t kMostNear = 3;
+// Elements for which there is room in the list itself: fills a block of 56 octets.
+constexpr std::int32_t kMostNear = 4;
 // Elements for which there is room in the first block of their own.
 constexpr std::int32_t kFirstBlock = 8;
 
@@ -29,7 +29,7 @@ constexpr std::int32_t kFirstBlock = 8;
 quarn_asn1_list *new_list(std::int32_t room) {
   auto *list = util::allocate<quarn_asn1_list>(static_cast<std::size_t>(room) * sizeof(void *));
   if (list == nullptr) return nullptr;
-  list->items = list->near();
+  list->block = list->items = list->near();
   list->capacity = room;
   return list;
 }
@@ -41,7 +41,7 @@ std::int32_t room_for(std::int64_t length) {
 }
 
 void free_items(quarn_asn1_list &list) {
-  if (list.items != list.near()) quarn_free(list.items);
+  if (list.block != list.near()) quarn_free(list.block);
 }
 
 bool grow(quarn_asn1_list &list) {
@@ -52,7 +52,7 @@ bool grow(quarn_asn1_list &list) {
   const auto count = static_cast<std::size_t>(list.count);
   if (count > 0) std::memcpy(items, list.items, count * sizeof(void *));
   free_items(list);
-  list.items = items;
+  list.block = list.items = items;
   list.capacity = capacity;
   return true;
 }
@@ -436,8 +436,13 @@ void *quarn_asn1_list_delete(quarn_asn1_list *l, int index) {
   if (!has(l, index)) return nullptr;
   void **place = l->items + index;
   void *element = *place;
-  const auto later = static_cast<std::size_t>(l->count - index - 1);
-  std::memmove(place, place + 1, later * sizeof(void *));
+  if (index == 0) {
+    l->items++;
+    l->capacity--;
+  } else {
+    const auto later = static_cast<std::size_t>(l->count - index - 1);
+    std::memmove(place, place + 1, later * sizeof(void *));
+  }
   l->count--;
   return element;
 }

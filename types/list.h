@@ -3,7 +3,8 @@
 // A list holds pointers to its elements and nothing about their type, which each operation is told.
 // The first few lie in the list's own block; more get a block of their own, which doubles. A list
 // that is decoded has no more room at first than its content can fill, so that an empty one, of
-// which hostile input can hold one for every two octets, is one small block.
+// which hostile input can hold one for every two octets, is one small block. Removing the first
+// element moves none of the others: callers empty lists that way.
 #ifndef QUARN_TYPES_LIST_H
 #define QUARN_TYPES_LIST_H
 
@@ -11,8 +12,9 @@
 #include "quarn_asn1/types.h"
 
 struct quarn_asn1_list {
-  void **items;
-  std::int32_t capacity;
+  void **block;
+  void **items;           // into the block: behind what was removed from the front
+  std::int32_t capacity;  // from items on
   std::int32_t count;
 
   // The room in the list's own block.

@@ -79,12 +79,15 @@ uint64_t keyed_hash(std::string_view octets);
 struct quarn_json {
   // Children that are pointed to from the value's own block.
   static constexpr uint32_t kMostNear = 3;
+  static constexpr std::size_t kNearRoom = kMostNear * sizeof(void *);
 
   quarn_json *parent = nullptr;
   uint32_t position = 0;  // among the parent's children
   uint32_t size = 0;      // octets of text, number of children, or whether a boolean is true
   [[no_unique_address]] quarn::util::JsonKey key;
-  uint8_t kind = 0;  // quarn_json_kind; lies in the padding of the key
+  uint8_t kind : 6 = 0;      // quarn_json_kind; lies in the padding of the key
+  uint8_t pooled : 1 = 0;    // lies in a pool
+  uint8_t has_pool : 1 = 0;  // is the first value of its pool, which goes with it
 
   bool is_container() const { return kind == QUARN_JSON_ARRAY || kind == QUARN_JSON_OBJECT; }
   bool has_children() const { return is_container() && size > 0; }
@@ -109,8 +112,35 @@ namespace quarn::util {
 
 // A value with room for its content behind the head; null when memory is short.
 quarn_json *json_new(quarn_json_kind kind, std::size_t room);
-// A string of octets that are known to be UTF-8.
-quarn_json *json_new_text(std::string_view octets);
+
+// Blocks that hold the values of one parsed text, one after the other: much cheaper to make and to
+// release than a block for each. The first value made is the root of all others, and releases the
+// blocks with itself.
+//
+//     first block: | next | root | value | value ... |     further blocks: | next | value ... |
+class JsonPool {
+ public:
+  // size is about what the values will take.
+  explicit JsonPool(std::size_t size);
+
+  // As json_new().
+  quarn_json *make(quarn_json_kind kind, std::size_t room);
+  // A string of octets that are known to be UTF-8.
+  quarn_json *make_text(std::string_view octets);
+
+ private:
+  bool add_block(std::size_t least);
+
+  std::size_t next_size_;
+  void **last_ = nullptr;  // the link of the block made last
+  char *at_ = nullptr;
+  std::size_t left_ = 0;
+};
+
+// Releases the blocks of the pool that the root of all its values lies in.
+void json_release_pool(quarn_json *root);
+// Puts text into a new string that has room for it.
+quarn_json *json_set_text(quarn_json *string, std::string_view octets);
 // The member of an object; null when there is none.
 quarn_json *json_find(const quarn_json *object, std::string_view key);
 // Makes value, which has no parent and no key, the last child of container. The key is taken over

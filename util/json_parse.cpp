@@ -170,10 +170,12 @@ std::optional<double> number_of(std::string_view text) {
   return text.front() == '-' ? -0.0 : 0.0;
 }
 
-// Builds the tree from the reader's events. Owns the tree and the key at hand until release().
+// Builds the tree from the reader's events, all of it in one pool. Owns the tree and the key at
+// hand until release().
 class Builder : public rapidjson::BaseReaderHandler<StrictUtf8, Builder> {
  public:
-  explicit Builder(const TextStream &stream) : stream_(stream) {}
+  // length: octets of the text. Its values take about twice as many.
+  Builder(const TextStream &stream, std::size_t length) : stream_(stream), pool_(2 * length) {}
   Builder(const Builder &) = delete;
   Builder &operator=(const Builder &) = delete;
   ~Builder() {
@@ -186,23 +188,30 @@ class Builder : public rapidjson::BaseReaderHandler<StrictUtf8, Builder> {
   int code() const { return code_; }
   std::size_t offset() const { return offset_; }
 
-  bool Null() { return add(quarn_json_newnull()); }
-  bool Bool(bool value) { return add(quarn_json_newboolean(value)); }
+  bool Null() { return add(pool_.make(QUARN_JSON_NULL, 0)); }
+  bool Bool(bool value) {
+    quarn_json *boolean = pool_.make(QUARN_JSON_BOOLEAN, 0);
+    if (boolean != nullptr) boolean->size = value;
+    return add(boolean);
+  }
   bool String(const char *text, unsigned length, bool /*copy*/) {
-    return add(json_new_text({text, length}));
+    return add(pool_.make_text({text, length}));
   }
   bool RawNumber(const char *text, unsigned length, bool /*copy*/) {
     const std::optional<double> value = number_of({text, length});
-    return value ? add(quarn_json_newnumber(*value)) : refuse(QUARN_ERROR_FORMAT);
+    if (!value) return refuse(QUARN_ERROR_FORMAT);
+    quarn_json *number = pool_.make(QUARN_JSON_NUMBER, sizeof(double));
+    if (number != nullptr) new (number + 1) double(*value);
+    return add(number);
   }
   bool Key(const char *text, unsigned length, bool /*copy*/) {
     const std::string_view key(text, length);
     if (json_find(container_, key) != nullptr) return refuse(QUARN_ERROR_FORMAT);
     return key_.assign(key) || refuse(QUARN_ERROR_NO_MEMORY);
   }
-  bool StartObject() { return open(quarn_json_newobject()); }
+  bool StartObject() { return open(pool_.make(QUARN_JSON_OBJECT, quarn_json::kNearRoom)); }
   bool EndObject(unsigned /*count*/) { return close(); }
-  bool StartArray() { return open(quarn_json_newarray()); }
+  bool StartArray() { return open(pool_.make(QUARN_JSON_ARRAY, quarn_json::kNearRoom)); }
   bool EndArray(unsigned /*count*/) { return close(); }
 
  private:
@@ -219,10 +228,7 @@ class Builder : public rapidjson::BaseReaderHandler<StrictUtf8, Builder> {
       root_ = value;
       return true;
     }
-    if (!json_append(container_, value, key_)) {
-      quarn_json_free(value);
-      return refuse(QUARN_ERROR_NO_MEMORY);
-    }
+    if (!json_append(container_, value, key_)) return refuse(QUARN_ERROR_NO_MEMORY);
     key_ = {};
     return true;
   }
@@ -239,6 +245,7 @@ class Builder : public rapidjson::BaseReaderHandler<StrictUtf8, Builder> {
   }
 
   const TextStream &stream_;
+  JsonPool pool_;
   quarn_json *root_ = nullptr;
   quarn_json *container_ = nullptr;
   JsonKey key_;
@@ -278,7 +285,7 @@ quarn_json *quarn_json_parse(const char *text, size_t length, quarn_err_ctx *ctx
     return nullptr;
   }
   quarn::util::TextStream stream({text, length});
-  quarn::util::Builder builder(stream);
+  quarn::util::Builder builder(stream, length);
   quarn::util::StackMemory memory;
   quarn::util::Reader reader(&memory);
   std::size_t offset = 0;

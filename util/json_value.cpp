@@ -12,8 +12,6 @@ namespace {
 // two cells for each pointer, behind the pointers in the same block.
 constexpr uint32_t kMostUnindexed = 16;
 
-constexpr std::size_t kNearRoom = quarn_json::kMostNear * sizeof(quarn_json *);
-
 // A free cell has place 0. The hash spares a look at the member, which lies anywhere in memory,
 // where the keys differ and where a table is made anew.
 struct Cell {
@@ -149,7 +147,11 @@ quarn_json *release(quarn_json *j) {
   j->key.clear();
   if (j->is_container() && j->size > quarn_json::kMostNear)
     quarn_free(const_cast<quarn_json **>(j->children()));
-  quarn_free(j);
+  if (!j->pooled) {
+    quarn_free(j);
+  } else if (j->has_pool) {
+    json_release_pool(j);
+  }
   return parent;
 }
 
@@ -166,18 +168,17 @@ bool is_kind(const quarn_json *j, quarn_json_kind kind) {
 
 quarn_json *json_new(quarn_json_kind kind, std::size_t room) {
   auto *j = allocate<quarn_json>(room);
-  if (j != nullptr) j->kind = static_cast<uint8_t>(kind);
+  if (j != nullptr) j->kind = static_cast<uint8_t>(kind) & 0x3F;
   return j;
 }
 
-quarn_json *json_new_text(std::string_view octets) {
-  quarn_json *j = json_new(QUARN_JSON_STRING, octets.size() + 1);
-  if (j == nullptr) return nullptr;
-  char *text = reinterpret_cast<char *>(j + 1);
+quarn_json *json_set_text(quarn_json *string, std::string_view octets) {
+  if (string == nullptr) return nullptr;
+  char *text = reinterpret_cast<char *>(string + 1);
   if (!octets.empty()) std::memcpy(text, octets.data(), octets.size());
   text[octets.size()] = '\0';
-  j->size = static_cast<uint32_t>(octets.size());
-  return j;
+  string->size = static_cast<uint32_t>(octets.size());
+  return string;
 }
 
 quarn_json *json_find(const quarn_json *object, std::string_view key) {
@@ -214,17 +215,18 @@ quarn_json *quarn_json_newnull(void) {
 }
 
 quarn_json *quarn_json_newobject(void) {
-  return json_new(QUARN_JSON_OBJECT, quarn::util::kNearRoom);
+  return json_new(QUARN_JSON_OBJECT, quarn_json::kNearRoom);
 }
 
 quarn_json *quarn_json_newarray(void) {
-  return json_new(QUARN_JSON_ARRAY, quarn::util::kNearRoom);
+  return json_new(QUARN_JSON_ARRAY, quarn_json::kNearRoom);
 }
 
 quarn_json *quarn_json_newstring(const char *text, uint32_t length) {
   if (text == nullptr) return nullptr;
   if (quarn_utf8_valid(reinterpret_cast<const uint8_t *>(text), length) != 1) return nullptr;
-  return quarn::util::json_new_text({text, length});
+  quarn_json *j = json_new(QUARN_JSON_STRING, std::size_t{length} + 1);
+  return quarn::util::json_set_text(j, {text, length});
 }
 
 quarn_json *quarn_json_newnumber(double value) {

@@ -314,8 +314,8 @@ QUARN_ASN1_API int quarn_asn1_decode_any(quarn_stream *s,
                                          uint64_t *consumed,
                                          quarn_err_ctx *ctx);
 /**
- * As quarn_asn1_decode_any(), with the content appended to a stream that stays the caller's. It must
- * be another than s, empty if the value is to be encoded again, and outlive the value. After a
+ * As quarn_asn1_decode_any(), with the content appended to a stream that stays the caller's. It
+ * must be another than s, empty if the value is to be encoded again, and outlive the value. After a
  * failure it keeps what it was given.
  */
 QUARN_ASN1_API int quarn_asn1_decode_any_ex(quarn_stream *s,

@@ -332,8 +332,11 @@ class Errors(Case):
                                       stderr=subprocess.PIPE, env=ENVIRONMENT, check=False)
                 self.assertEqual(done.returncode, 3)
                 self.assertIn(b"cannot write to the standard output: No space left", done.stderr)
-        process = subprocess.Popen([QUARN, "types"], stdout=subprocess.PIPE, stderr=subprocess.PIPE)
-        process.stdout.close()
+        process = subprocess.Popen([QUARN, "dump"], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                   stderr=subprocess.PIPE)
+        process.stdout.close()  # before there is anything to write
+        process.stdin.write(SEQUENCE)
+        process.stdin.close()
         self.assertEqual(process.stderr.read(), b"")
         process.stderr.close()
         self.assertEqual(process.wait(), -13)

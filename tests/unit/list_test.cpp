@@ -101,6 +101,24 @@ TEST(List, hands_over_what_is_deleted) {
   EXPECT_EQ(elements_of(list), std::vector<void *>{before[1]});
 }
 
+// Moving the others down each time would take minutes.
+TEST(List, is_emptied_from_the_front_in_no_time_and_fills_again) {
+  constexpr int kMany = 1'000'000;
+  quarn_asn1_list *list = quarn_asn1_list_new();
+  std::vector<char> elements(kMany);
+  for (int round = 0; round < 2; round++) {
+    for (char &element : elements) ASSERT_EQ(quarn_asn1_list_put(list, &element), 1);
+    for (char &element : elements) ASSERT_EQ(quarn_asn1_list_delete(list, 0), &element);
+    EXPECT_EQ(quarn_asn1_list_getsize(list), 0);
+  }
+  for (char &element : elements) {  // as a queue of two
+    ASSERT_EQ(quarn_asn1_list_put(list, &element), 1);
+    if (&element == elements.data()) continue;
+    ASSERT_EQ(quarn_asn1_list_delete(list, 0), &element - 1);
+  }
+  quarn_asn1_list_free_ex(list, nullptr);
+}
+
 TEST(List, lengths_that_are_no_count_are_handed_on) {
   const auto sum = [](std::vector<std::int64_t> lengths) {
     quarn_asn1_list *list = quarn_asn1_list_new();
@@ -337,12 +355,12 @@ TEST(List, small_elements_cost_little) {
   void *value = nullptr;
   const auto count = static_cast<std::int64_t>(octets.size());
   EXPECT_EQ(quarn_asn1_mem_decode(octets.data(), count, QUARN_ASN1_ANYLIST, &value), count);
-  EXPECT_LE(allocation.live_octets(), 100000u * 34 + 131072 * 8 + 40);
+  EXPECT_LE(allocation.live_octets(), 100000u * 34 + 131072 * 8 + 56);
   quarn_asn1_value_free(QUARN_ASN1_ANYLIST, value);
 
   value = nullptr;
   EXPECT_EQ(quarn_asn1_mem_decode(octets.data() + 5, 2, QUARN_ASN1_ANYSET, &value), 2);
-  EXPECT_LE(allocation.live_octets(), 16u) << "an empty list has no room for elements";
+  EXPECT_LE(allocation.live_octets(), 24u) << "an empty list has no room for elements";
   quarn_asn1_value_free(QUARN_ASN1_ANYSET, value);
 }
 
