@@ -22,16 +22,8 @@ Status encode_around_content(const Type &type, Writer &out, void *value) {
     return kUnit.fail(out.ctx(), QUARN_ERROR_ARGUMENT, out.offset());
   }
   const std::int64_t length = content_length_of(type, value);
-  if (length < kIndefinite) {
-    return kUnit.fail(out.ctx(), QUARN_ASN1_ERROR_ITEM_LENGTH, out.offset());
-  }
-  const bool primitive = type.form == -1 ? length != kIndefinite : type.form != 0;
-  Status status =
-      write_identifier(out, type.tag_class, primitive, static_cast<std::int64_t>(type.tag_number));
-  if (!status) return kUnit.pass_on(status, out.ctx(), QUARN_ASN1_ERROR_WRITE_IDENTIFIER);
-  status = write_length(out, length);
-  if (!status) return kUnit.pass_on(status, out.ctx(), QUARN_ASN1_ERROR_WRITE_LENGTH);
-  return type.codec->encode_content(type, out, value, length);
+  const Status status = write_header(type, out, length);
+  return status ? type.codec->encode_content(type, out, value, length) : status;
 }
 
 Status decode_around_content(const Type &type, Reader &in, void **value) {
@@ -54,6 +46,22 @@ Status decode_around_content(const Type &type, Reader &in, void **value) {
 
 }  // namespace
 
+Status write_header(const Type &type, Writer &out, std::int64_t length) {
+  if (length < kIndefinite) {
+    return kUnit.fail(out.ctx(), QUARN_ASN1_ERROR_ITEM_LENGTH, out.offset());
+  }
+  const bool primitive = type.form == -1 ? length != kIndefinite : type.form != 0;
+  if (write_short_header(out, type.tag_class, primitive, type.tag_number, length)) {
+    return Status::success();
+  }
+  Status status =
+      write_identifier(out, type.tag_class, primitive, static_cast<std::int64_t>(type.tag_number));
+  if (!status) return kUnit.pass_on(status, out.ctx(), QUARN_ASN1_ERROR_WRITE_IDENTIFIER);
+  status = write_length(out, length);
+  if (status) return status;
+  return kUnit.pass_on(status, out.ctx(), QUARN_ASN1_ERROR_WRITE_LENGTH);
+}
+
 Status encode(const Type &type, Writer &out, void *value) {
   if (type.codec->encode != nullptr) return type.codec->encode(type, out, value);
   return encode_around_content(type, out, value);
@@ -65,6 +73,17 @@ Status decode(const Type &type, Reader &in, void **value) {
   if (type.codec->decode != nullptr) return type.codec->decode(type, in, value);
   if (value != nullptr) *value = nullptr;
   return decode_around_content(type, in, value);
+}
+
+bool matches(const Type &type, const Identifier &identifier) {
+  if (type.codec->matches != nullptr) return type.codec->matches(type, identifier);
+  return identifier.is(type.tag_class, type.tag_number);
+}
+
+Status decode_rest(const Type &type, Reader &in, const Identifier &identifier, void **value) {
+  if (in.at_depth_limit()) return Status::too_deep();
+  const Nesting nesting(in);
+  return type.codec->decode_rest(type, in, identifier, value);
 }
 
 std::int64_t content_length_of(const Type &type, const void *value) {

@@ -90,7 +90,7 @@ std::int64_t length_length(std::int64_t length) {
   return length < 0x80 ? 1 : 1 + groups_of(static_cast<std::uint64_t>(length), 8);
 }
 
-std::int64_t element_length(std::uint64_t number, std::int64_t content_length) {
+std::int64_t long_element_length(std::uint64_t number, std::int64_t content_length) {
   if (content_length < 0) return content_length == kIndefinite ? kIndefinite : kNoLength;
   const std::int64_t identifier = identifier_length(static_cast<std::int64_t>(number));
   if (identifier < 0) return kNoLength;

@@ -72,14 +72,34 @@ Status read_end_of_contents_length(Reader &in);
 std::int64_t identifier_length(std::int64_t number);
 // Number of length octets of a length; kNoLength below kIndefinite.
 std::int64_t length_length(std::int64_t length);
+std::int64_t long_element_length(std::uint64_t number, std::int64_t content_length);
 // Octets of a whole element with this tag number and content length, which is handed on when it is
 // negative; kIndefinite when the sum does not fit, which no caller can tell from the indefinite
 // form.
-std::int64_t element_length(std::uint64_t number, std::int64_t content_length);
+inline std::int64_t element_length(std::uint64_t number, std::int64_t content_length) {
+  if (number < 0x1F && content_length >= 0 && content_length < 0x80) [[likely]] {
+    return content_length + 2;
+  }
+  return long_element_length(number, content_length);
+}
 
 Status write_identifier(Writer &out, std::uint32_t tag_class, bool primitive, std::int64_t number);
 Status write_length(Writer &out, std::int64_t length);
 Status write_end_of_contents(Writer &out);
+
+// Writes identifier and length in one step that cannot fail. False, with nothing written, when they
+// are not one octet each or have no room in memory.
+inline bool write_short_header(Writer &out,
+                               std::uint32_t tag_class,
+                               bool primitive,
+                               std::uint64_t number,
+                               std::int64_t length) {
+  if (number >= 0x1F || length < 0 || length >= 0x80 || out.room() < 2) return false;
+  const auto form = primitive ? 0u : 0x20u;
+  out.put(static_cast<std::uint8_t>(tag_class | form | static_cast<std::uint32_t>(number)));
+  out.put(static_cast<std::uint8_t>(length));
+  return true;
+}
 
 }  // namespace quarn::asn1
 

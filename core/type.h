@@ -9,6 +9,7 @@
 
 namespace quarn::asn1 {
 
+struct Schema;
 struct Type;
 
 // How the values of a type are freed, measured, written and read. Rows of the registry that differ
@@ -18,6 +19,10 @@ struct Type;
 //
 // A content length handed to encode_content is what content_length gave. decode_content stores null
 // first and a new value on success; with kIndefinite it consumes the end-of-contents too.
+//
+// Types without a tag of their own, whose values begin with one of several, also say which these
+// are and decode a value whose identifier has been read; for the others the row and decode_content
+// serve.
 struct Codec {
   void (*free)(const Type &type, void *value);
   std::int64_t (*content_length)(const Type &type, const void *value);
@@ -27,12 +32,18 @@ struct Codec {
       const Type &type, Reader &in, void **value, bool primitive, std::int64_t length);
   Status (*encode)(const Type &type, Writer &out, void *value);
   Status (*decode)(const Type &type, Reader &in, void **value);
+  bool (*matches)(const Type &type, const Identifier &identifier) = nullptr;
+  Status (*decode_rest)(const Type &type,
+                        Reader &in,
+                        const Identifier &identifier,
+                        void **value) = nullptr;
 };
 
 // One row of the registry. form: 1 primitive, 0 constructed, -1 decided by each value.
 struct Type {
   const char *name;
   const Codec *codec;
+  const Schema *schema;  // what the codec goes by, of a structured type; else null
   std::uint64_t tag_number;
   int error_code;
   std::uint32_t tag_class;
@@ -42,10 +53,17 @@ struct Type {
   int decode_error() const { return error_code + 1; }
 };
 
-// The row of an id, or null when there is none. Defined on the top floor, in modules/.
-const Type *find_type(std::int64_t id);
+// The rows, by id. Defined on the top floor, in modules/.
+extern const Type kTypes[QUARN_ASN1_TYPE_COUNT];
+
+// The row of an id, or null when there is none.
+inline const Type *find_type(std::int64_t id) {
+  return id < 0 || id >= QUARN_ASN1_TYPE_COUNT ? nullptr : &kTypes[id];
+}
 // The row of an id that is known to be good.
-const Type &type_of(quarn_asn1_type_id id);
+inline const Type &type_of(quarn_asn1_type_id id) {
+  return kTypes[id];
+}
 
 // Whole elements. The row's own codec, or identifier and length around its content codec.
 Status encode(const Type &type, Writer &out, void *value);
@@ -58,6 +76,13 @@ Status encode_content(const Type &type, Writer &out, void *value, std::int64_t l
 Status decode_content(
     const Type &type, Reader &in, void **value, bool primitive, std::int64_t length);
 void free_value(const Type &type, void *value);
+
+// Whether a value can begin with an identifier.
+bool matches(const Type &type, const Identifier &identifier);
+// A value whose identifier has been read, of a type whose codec can do this.
+Status decode_rest(const Type &type, Reader &in, const Identifier &identifier, void **value);
+// Identifier and length of a row for content of a length.
+Status write_header(const Type &type, Writer &out, std::int64_t length);
 
 // Codecs of rows that cannot do something.
 Status cannot_encode(const Type &type, Writer &out, void *value);

@@ -29,13 +29,17 @@ class Writer {
   std::int64_t offset() const { return static_cast<std::int64_t>(count()); }
 
   Status octets(const void *octets, std::uint64_t count) {
-    if (count <= static_cast<std::uint64_t>(end_ - next_)) [[likely]] {
+    if (count <= room()) [[likely]] {
       if (count > 0) std::memcpy(next_, octets, count);
       next_ += count;
       return Status::success();
     }
     return octets_slowly(octets, count);
   }
+
+  // Octets that can be put in place, and putting one of them.
+  std::uint64_t room() const { return static_cast<std::uint64_t>(end_ - next_); }
+  void put(std::uint8_t octet) { *next_++ = octet; }
 
   // Copies the next count octets of a stream. Fewer, or an unreadable stream, is failure; what did
   // arrive has been written. copied receives how many that were.

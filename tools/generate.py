@@ -109,14 +109,17 @@ def messages_table():
     return made_from("core/messages.tsv") + "constexpr const char *kMessages[] = {\n" + body + "};\n"
 
 
-def codec_constant(codec):
-    return "k" + "".join(part.capitalize() for part in codec.split("_")) + "Codec"
+def codec_constants(codec):
+    """The constants of a codec and of the schema it goes by: record:Validity."""
+    name, _, schema = codec.partition(":")
+    constant = "k" + "".join(part.capitalize() for part in name.split("_")) + "Codec"
+    return f"&{constant}, " + (f"&k{schema}" if schema else "nullptr")
 
 
 def registry_table():
     lines = [made_from("modules/registry.tsv"), "constexpr Type kTypes[] = {\n"]
     for number, name, _, tag, tag_class, form, code, codec in registry():
-        parts = [c_string(name), f"&{codec_constant(codec)}", str(tag), f"{code:#x}",
+        parts = [c_string(name), codec_constants(codec), str(tag), f"{code:#x}",
                  f"{CLASS_BITS[tag_class]:#x}", str(FORM_NUMBERS[form])]
         lines.append("    {" + ", ".join(parts) + f"}},  // {number}\n")
     return "".join(lines) + "};\n"

@@ -128,6 +128,13 @@ struct Item {
   bool end_of_contents;
 };
 
+// Reads the length of an end-of-contents.
+Status read_end(Reader &in) {
+  const Status status = read_end_of_contents_length(in);
+  if (status) return status;
+  return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_END, in.offset());
+}
+
 // Reads the identifier of an element, which must be the expected one, and the length; or, where
 // there may be one, the end-of-contents.
 Status read_item(Reader &in, const ElementTag &expected, bool may_end, Item &out) {
@@ -142,9 +149,7 @@ Status read_item(Reader &in, const ElementTag &expected, bool may_end, Item &out
       return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_ITEM, in.offset());
     }
     out.end_of_contents = true;
-    status = read_end_of_contents_length(in);
-    if (status) return status;
-    return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_END, in.offset());
+    return read_end(in);
   }
   if (expected.form != -1 && identifier.primitive != (expected.form != 0)) {
     return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_ITEM, in.offset());
@@ -175,6 +180,30 @@ class TypedElements {
  private:
   const Type &type_;
   const ElementTag &expected_;
+};
+
+// Elements that begin with one of several tags.
+class ChoiceElements {
+ public:
+  explicit ChoiceElements(const Type &type) : type_(type) {}
+
+  Status read(Reader &in, bool may_end, void **element, bool &ended) const {
+    Identifier identifier{};
+    Status status = read_identifier(in, identifier);
+    if (!status) {
+      return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_IDENTIFIER, in.offset());
+    }
+    ended = may_end && identifier.is_end_of_contents();
+    if (ended) return read_end(in);
+    status = decode_rest(type_, in, identifier, element);
+    if (status) return status;
+    return kUnit.pass_on(status, in.ctx(), type_.decode_error(), in.offset());
+  }
+  void release(void *element) const { free_value(type_, element); }
+  std::uint64_t position(const Reader &in) const { return in.count(); }
+
+ private:
+  const Type &type_;
 };
 
 class AnyElements {
@@ -326,6 +355,21 @@ Status decode_list_content(Reader &in,
                            const ElementTag &expected) {
   TypedElements elements(element, expected);
   return decode_with(in, out, primitive, length, 0, elements);
+}
+
+Status decode_list(Reader &in,
+                   quarn_asn1_list **out,
+                   const Type &element,
+                   bool primitive,
+                   std::int64_t length,
+                   std::int32_t least) {
+  if (element.codec->decode_rest != nullptr) {
+    ChoiceElements elements(element);
+    return decode_with(in, out, primitive, length, least, elements);
+  }
+  const ElementTag expected{element.tag_class, element.form, element.tag_number};
+  TypedElements elements(element, expected);
+  return decode_with(in, out, primitive, length, least, elements);
 }
 
 namespace {

@@ -309,21 +309,29 @@ Status decode_one_kind_content(
   return take_content(in, value, kKind, primitive, length);
 }
 
-Status decode_time(const Type & /*type*/, Reader &in, void **value) {
-  if (value != nullptr) *value = nullptr;
-  if (in.is_null() || value == nullptr) return kUnit.fail(in.ctx(), QUARN_ERROR_ARGUMENT);
-  Identifier identifier{};
-  Status status = read_identifier(in, identifier);
-  if (!status) {
-    return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_IDENTIFIER, in.offset());
-  }
-  if (!identifier.is(kUniversal, kUtctime) && !identifier.is(kUniversal, kGentime)) {
+bool time_matches(const Type & /*type*/, const Identifier &identifier) {
+  return identifier.is(kUniversal, kUtctime) || identifier.is(kUniversal, kGentime);
+}
+
+Status decode_time_rest(const Type &type, Reader &in, const Identifier &identifier, void **value) {
+  if (!time_matches(type, identifier)) {
     return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_TIME_TYPE, in.offset());
   }
   std::int64_t length = 0;
-  status = read_length(in, length);
+  const Status status = read_length(in, length);
   if (!status) return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_LENGTH, in.offset());
   return take_content(in, value, identifier.number, identifier.primitive, length);
+}
+
+Status decode_time(const Type &type, Reader &in, void **value) {
+  if (value != nullptr) *value = nullptr;
+  if (in.is_null() || value == nullptr) return kUnit.fail(in.ctx(), QUARN_ERROR_ARGUMENT);
+  Identifier identifier{};
+  const Status status = read_identifier(in, identifier);
+  if (!status) {
+    return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_IDENTIFIER, in.offset());
+  }
+  return decode_time_rest(type, in, identifier, value);
 }
 
 // The other alternative is refused after it has been read, and its own faults come first.
@@ -350,7 +358,7 @@ bool read_time_text(std::uint64_t kind,
 // Time has no tag of its own, so that content alone does not tell the alternative.
 const Codec kTimeCodec = {free_time,           time_length,           nullptr,
                           encode_time_content, cannot_decode_content, encode_time,
-                          decode_time};
+                          decode_time,         time_matches,          decode_time_rest};
 const Codec kUtctimeCodec = {free_time,
                              time_length,
                              nullptr,

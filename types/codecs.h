@@ -27,6 +27,11 @@ extern const Codec kAnyCodec;       // ASN1_Any.cpp
 extern const Codec kAnylistCodec;   // ASN1_List.cpp
 extern const Codec kAnylist1Codec;  // ASN1_List.cpp; at least one element
 
+// core/engine_value.cpp: types that have a schema.
+extern const Codec kRecordCodec;
+extern const Codec kListCodec;
+extern const Codec kChoiceCodec;
+
 }  // namespace quarn::asn1
 
 #endif

@@ -46,6 +46,13 @@ Status decode_list_content(Reader &in,
                            bool primitive,
                            std::int64_t length,
                            const ElementTag &expected);
+// The same with elements as their row says, those of a CHOICE included, and at least so many.
+Status decode_list(Reader &in,
+                   quarn_asn1_list **out,
+                   const Type &element,
+                   bool primitive,
+                   std::int64_t length,
+                   std::int32_t least);
 // Puts the elements into DER order. False, with the list unchanged, on failure.
 [[nodiscard]] bool sort_set_of(quarn_asn1_list *list, const Type &element);
 

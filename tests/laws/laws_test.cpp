@@ -115,6 +115,48 @@ TEST(Laws, every_flipped_bit_gives_an_error_or_a_sound_value) {
   EXPECT_EQ(allocation.live_blocks(), 0);
 }
 
+// The elements inside a constructed element of definite length; none where they are not all whole.
+std::vector<Octets> parts_of(const Octets &octets) {
+  std::vector<Octets> parts;
+  quarn_asn1_header header{};
+  const auto size = static_cast<std::int64_t>(octets.size());
+  if (quarn_asn1_mem_header(octets.data(), size, &header) != 1 || header.form != 0) return {};
+  for (auto at = static_cast<std::int64_t>(header.header_length); at < size;) {
+    if (quarn_asn1_mem_header(octets.data() + at, size - at, &header) != 1) return {};
+    const std::int64_t end =
+        at + static_cast<std::int64_t>(header.header_length) + header.content_length;
+    if (header.content_length < 0 || end > size) return {};
+    parts.emplace_back(octets.begin() + at, octets.begin() + end);
+    at = end;
+  }
+  return parts;
+}
+
+TEST(Laws, parts_missing_doubled_or_swapped_give_an_error_or_a_sound_value) {
+  Allocation allocation;
+  for_each_sample(600, [](const Vector &sample) {
+    const std::vector<Octets> parts = parts_of(sample.in);
+    const auto use_whole = [&sample](const std::vector<Octets> &of) {
+      Octets whole{sample.in[0], 0x80};
+      for (const Octets &part : of) whole.insert(whole.end(), part.begin(), part.end());
+      whole.insert(whole.end(), {0, 0});
+      use(sample.type, whole);
+    };
+    for (std::size_t i = 0; i < parts.size(); i++) {
+      std::vector<Octets> changed = parts;
+      changed.erase(changed.begin() + static_cast<std::ptrdiff_t>(i));
+      use_whole(changed);
+      changed = parts;
+      changed.push_back(parts[i]);
+      use_whole(changed);
+      std::swap(changed[i], changed.back());
+      std::swap(changed[i], changed[0]);
+      use_whole(changed);
+    }
+  });
+  EXPECT_EQ(allocation.live_blocks(), 0);
+}
+
 TEST(Laws, every_failed_allocation_is_an_error_and_no_leak) {
   for_each_sample(600, [](const Vector &sample) {
     fail_each_allocation([&sample](Allocation &allocation) {

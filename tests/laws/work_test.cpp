@@ -94,6 +94,14 @@ const Family kFamilies[] = {
      [](std::size_t n) {
        return wrapped(0x31, repeated({2, 2, 0, 1}, n));
      }},
+    {"extensions", QUARN_ASN1_X509EXTENSIONS, 32,
+     [](std::size_t n) {
+       return wrapped(0x30, repeated({0x30, 5, 6, 1, 0x2A, 4, 0}, n));
+     }},
+    {"names", QUARN_ASN1_X509GENERALNAMES, 64,
+     [](std::size_t n) {
+       return wrapped(0x30, repeated({0x82, 0}, n));
+     }},
 };
 
 TEST(Work, grows_no_faster_than_the_input) {

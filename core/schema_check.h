@@ -1,0 +1,130 @@
+// What the engine takes for granted about schemas, checked when the registry is compiled: whatever
+// identifier comes next, at most one component can be meant by it.
+#ifndef QUARN_CORE_SCHEMA_CHECK_H
+#define QUARN_CORE_SCHEMA_CHECK_H
+
+#include <cstddef>
+
+#include "core/schema.h"
+#include "core/type.h"
+
+namespace quarn::asn1 {
+
+class SchemaCheck {
+ public:
+  constexpr explicit SchemaCheck(const Type *rows) : rows_(rows) {}
+
+  constexpr bool well_formed(const Schema &schema) const {
+    for (const Field &field : schema.fields) {
+      if (!sound(field)) return false;
+    }
+    switch (schema.kind) {
+      case Kind::record:
+        return decidable(schema.fields);
+      case Kind::open_tail:
+        return ends_open(schema.fields);
+      case Kind::list:
+        return schema.fields.size() == 1;
+      case Kind::choice:
+      case Kind::string_choice:
+        return distinct(schema.fields);
+    }
+    return false;
+  }
+
+ private:
+  constexpr const Type &row(const Field &field) const { return rows_[field.type_id]; }
+
+  static constexpr bool is_any(const Field &field) { return field.type_id == QUARN_ASN1_ANY; }
+
+  // Types whose values begin with different tags cannot take another in their place.
+  constexpr bool has_own_tag(const Field &field) const {
+    return row(field).tag_number != 0 || row(field).tag_class != kUniversal;
+  }
+
+  constexpr bool sound(const Field &field) const {
+    if (field.tagging == Tagging::implicit && !has_own_tag(field)) return false;
+    if (field.presence == Presence::default_boolean) return field.type_id == QUARN_ASN1_BOOLEAN;
+    if (field.presence == Presence::default_integer) return field.type_id == QUARN_ASN1_INTEGER;
+    return true;
+  }
+
+  // Whether an element with this tag can begin the field.
+  constexpr bool accepts(const Field &field, std::uint32_t tag_class, std::uint64_t number) const {
+    if (field.tagging != Tagging::plain) return tag_class == kContext && number == field.tag;
+    if (is_any(field)) return true;
+    const Schema *schema = row(field).schema;
+    if (schema != nullptr && schema->is_choice()) {
+      for (const Field &alternative : schema->fields) {
+        if (accepts(alternative, tag_class, number)) return true;
+      }
+      return false;
+    }
+    if (field.type_id == QUARN_ASN1_TIME) {
+      return tag_class == kUniversal && (number == 23 || number == 24);
+    }
+    return tag_class == row(field).tag_class && number == row(field).tag_number;
+  }
+
+  constexpr bool clash(const Field &a, const Field &b) const {
+    if (a.tagging != Tagging::plain) return accepts(b, kContext, a.tag);
+    if (is_any(a)) return true;
+    const Schema *schema = row(a).schema;
+    if (schema != nullptr && schema->is_choice()) {
+      for (const Field &alternative : schema->fields) {
+        if (clash(alternative, b)) return true;
+      }
+      return false;
+    }
+    if (a.type_id == QUARN_ASN1_TIME)
+      return accepts(b, kUniversal, 23) || accepts(b, kUniversal, 24);
+    return accepts(b, row(a).tag_class, row(a).tag_number);
+  }
+
+  // Each field that may be absent differs from those that may come in its place: the others that
+  // may be absent up to the next mandatory one, and that one.
+  constexpr bool decidable(std::span<const Field> fields) const {
+    for (std::size_t i = 0; i < fields.size(); i++) {
+      if (fields[i].mandatory()) continue;
+      for (std::size_t next = i + 1; next < fields.size(); next++) {
+        if (clash(fields[i], fields[next])) return false;
+        if (fields[next].mandatory()) break;
+      }
+      // An open type cannot be begun once its identifier has been read.
+      if (is_any(fields[i]) && fields[i].tagging == Tagging::plain) return false;
+    }
+    return !fields.empty();
+  }
+
+  static constexpr bool ends_open(std::span<const Field> fields) {
+    return fields.size() == 2 && fields[0].mandatory() && is_any(fields[1]) &&
+           fields[0].tagging == Tagging::plain && fields[1].tagging == Tagging::plain &&
+           fields[1].presence == Presence::optional;
+  }
+
+  constexpr bool distinct(std::span<const Field> alternatives) const {
+    for (std::size_t i = 0; i < alternatives.size(); i++) {
+      const Field &a = alternatives[i];
+      if (!a.mandatory() || (a.tagging == Tagging::plain && !has_own_tag(a))) return false;
+      for (std::size_t next = i + 1; next < alternatives.size(); next++) {
+        if (clash(a, alternatives[next])) return false;
+      }
+    }
+    return !alternatives.empty();
+  }
+
+  const Type *rows_;
+};
+
+template <std::size_t kCount>
+constexpr bool all_well_formed(const Type (&rows)[kCount]) {
+  const SchemaCheck check(rows);
+  for (const Type &row : rows) {
+    if (row.schema != nullptr && !check.well_formed(*row.schema)) return false;
+  }
+  return true;
+}
+
+}  // namespace quarn::asn1
+
+#endif

@@ -1,0 +1,199 @@
+// What octets cannot show of structured types: values, content functions, lengths, schemas.
+#include <gtest/gtest.h>
+
+#include "core/engine.h"
+#include "core/schema_check.h"
+#include "quarn_asn1.h"
+#include "tests/support/allocation.h"
+#include "tests/support/streams.h"
+#include "types/list.h"
+
+namespace quarn::asn1 {
+namespace {
+
+using Octets = std::vector<std::uint8_t>;
+using test::Context;
+using test::Stream;
+
+class Structured {
+ public:
+  Structured(std::int64_t id, const Octets &octets) : id_(id) {
+    quarn_asn1_mem_decode(octets.data(), static_cast<std::int64_t>(octets.size()), id, &value_);
+  }
+  ~Structured() { quarn_asn1_value_free(id_, value_); }
+  Structured(const Structured &) = delete;
+  Structured &operator=(const Structured &) = delete;
+
+  const Type &type() const { return *find_type(id_); }
+  void *get() const { return value_; }
+
+ private:
+  std::int64_t id_;
+  void *value_ = nullptr;
+};
+
+TEST(Engine, a_default_is_held_and_an_absent_component_is_null) {
+  const Structured value(QUARN_ASN1_X509BASICCONSTRAINTS, {0x30, 0x00});
+  const auto *ca = static_cast<quarn_asn1_boolean *>(component(value.get(), 0));
+  ASSERT_NE(ca, nullptr);
+  EXPECT_EQ(quarn_asn1_boolean_istrue(ca), 0);
+  EXPECT_EQ(component(value.get(), 1), nullptr);
+  EXPECT_EQ(component(nullptr, 0), nullptr);
+
+  const Structured tree(QUARN_ASN1_X509GENERALTREE, {0x30, 0x03, 0x82, 0x01, 0x61});
+  std::int64_t minimum = -1;
+  quarn_asn1_integer_getlong(static_cast<quarn_asn1_integer *>(component(tree.get(), 1)), &minimum);
+  EXPECT_EQ(minimum, 0);
+}
+
+TEST(Engine, alternatives_have_the_numbers_that_callers_know) {
+  const struct {
+    std::int64_t id;
+    Octets octets;
+    std::uint64_t number;
+    std::uint64_t of_null;
+  } rows[] = {
+      {QUARN_ASN1_X509GENERALNAME, {0x86, 0x01, 'u'}, 6, UINT32_MAX},
+      {QUARN_ASN1_X500DIRSTRING, {0x13, 0x01, 'u'}, 19, 0},
+      {QUARN_ASN1_TYPEOFBIOMETRICDATA, {0x02, 0x01, 5}, 1, UINT32_MAX},
+      {QUARN_ASN1_TYPEOFBIOMETRICDATA, {0x06, 0x01, 0x2A}, 2, UINT32_MAX},
+  };
+  for (const auto &[id, octets, number, of_null] : rows) {
+    const Structured value(id, octets);
+    EXPECT_EQ(alternative_number(value.type(), value.get()), number);
+    EXPECT_NE(alternative(value.type(), value.get(), number), nullptr);
+    EXPECT_EQ(alternative(value.type(), value.get(), number + 1), nullptr);
+    EXPECT_EQ(alternative_number(value.type(), nullptr), of_null);
+    EXPECT_EQ(alternative(value.type(), nullptr, number), nullptr);
+  }
+}
+
+TEST(Engine, content_functions_check_their_arguments_in_order) {
+  const Structured value(QUARN_ASN1_X509EXTENSION, {0x30, 6, 6, 1, 0x2A, 4, 1, 0x41});
+  const Stream out(quarn_stream_new_mem(0, nullptr));
+  const auto encode = [](quarn_stream *stream, void *of, std::int64_t length) {
+    const Context ctx(quarn_err_ctx_new());
+    EXPECT_EQ(
+        quarn_asn1_encode_content(stream, QUARN_ASN1_X509EXTENSION, of, length, nullptr, ctx.get()),
+        0);
+    return test::codes_in(ctx.get());
+  };
+  EXPECT_EQ(encode(nullptr, value.get(), -2), std::vector<int>{QUARN_ERROR_ARGUMENT});
+  EXPECT_EQ(encode(out.get(), nullptr, -2), std::vector<int>{QUARN_ERROR_ARGUMENT});
+  EXPECT_EQ(encode(out.get(), value.get(), -2), std::vector<int>{QUARN_ERROR_RANGE});
+
+  const auto decode = [](int form, std::int64_t length) {
+    const Context ctx(quarn_err_ctx_new());
+    const Stream in = test::memory_stream({0x06, 0x01, 0x2A});
+    void *made = &made;
+    EXPECT_EQ(quarn_asn1_decode_content(in.get(), QUARN_ASN1_X509EXTENSION, &made, form, length,
+                                        nullptr, ctx.get()),
+              0);
+    EXPECT_EQ(made, nullptr);
+    return test::codes_in(ctx.get());
+  };
+  EXPECT_EQ(decode(1, -2), std::vector<int>{QUARN_ASN1_ERROR_FORM});
+  EXPECT_EQ(decode(0, -2), std::vector<int>{QUARN_ERROR_RANGE});
+}
+
+TEST(Engine, content_is_written_in_the_form_that_is_asked_for) {
+  const struct {
+    std::int64_t id;
+    Octets octets;
+    std::int64_t length;
+    Octets content;
+  } rows[] = {
+      {QUARN_ASN1_X509ALGORITHMID, {0x30, 3, 6, 1, 0x2A}, 3, {6, 1, 0x2A}},
+      {QUARN_ASN1_X509ALGORITHMID, {0x30, 3, 6, 1, 0x2A}, -1, {6, 1, 0x2A, 0, 0}},
+      {QUARN_ASN1_X509EXKEYUSAGE, {0x30, 3, 6, 1, 0x2A}, -1, {6, 1, 0x2A, 0, 0}},
+      {QUARN_ASN1_X509GENERALNAME, {0x88, 1, 0x2A}, 1, {0x2A}},
+      {QUARN_ASN1_X509DPNAME, {0xA0, 3, 0x88, 1, 0x2A}, 3, {0x88, 1, 0x2A}},
+  };
+  for (const auto &[id, octets, length, content] : rows) {
+    const Structured value(id, octets);
+    const Stream out(quarn_stream_new_mem(0, nullptr));
+    std::uint64_t written = 0;
+    EXPECT_EQ(quarn_asn1_encode_content(out.get(), id, value.get(), length, &written, nullptr), 1);
+    const std::uint8_t *there = nullptr;
+    std::uint64_t count = 0;
+    quarn_memstream_peek(out.get(), &there, &count);
+    EXPECT_EQ(Octets(there, there + count), content);
+    EXPECT_EQ(written, content.size());
+  }
+  void *value = &value;
+  const Stream in = test::memory_stream({0x61});
+  EXPECT_EQ(quarn_asn1_decode_content(in.get(), QUARN_ASN1_X509GENERALNAME, &value, 1, 1, nullptr,
+                                      nullptr),
+            0);
+  EXPECT_EQ(value, nullptr) << "content alone does not tell the alternative";
+}
+
+TEST(Engine, a_value_with_a_part_missing_is_refused) {
+  Value extension(type_of(QUARN_ASN1_X509EXTENSION),
+                  new_record(*type_of(QUARN_ASN1_X509EXTENSION).schema));
+  Value names(type_of(QUARN_ASN1_X509GENERALNAMES), quarn_asn1_list_new());
+  const auto codes_of = [](std::int64_t id, void *value) {
+    const Context ctx(quarn_err_ctx_new());
+    const Stream out(quarn_stream_new_mem(0, nullptr));
+    EXPECT_EQ(quarn_asn1_encode(out.get(), id, value, nullptr, ctx.get()), 0);
+    return test::codes_in(ctx.get());
+  };
+  EXPECT_EQ(quarn_asn1_length(QUARN_ASN1_X509EXTENSION, extension.get()), -2);
+  EXPECT_EQ(codes_of(QUARN_ASN1_X509EXTENSION, extension.get()),
+            std::vector<int>{QUARN_ASN1_ERROR_ITEM_LENGTH});
+  auto *name = util::allocate<Choice>();
+  name->index = 1;
+  ASSERT_EQ(quarn_asn1_list_put(static_cast<quarn_asn1_list *>(names.get()), name), 1);
+  EXPECT_EQ(codes_of(QUARN_ASN1_X509GENERALNAME, name), std::vector<int>{QUARN_ASN1_ERROR_MEASURE});
+  EXPECT_EQ(codes_of(QUARN_ASN1_X509GENERALNAMES, names.get()),
+            std::vector<int>{QUARN_ASN1_ERROR_ITEM_LENGTH});
+}
+
+// Schemas that no decoder could follow are refused when the registry is compiled.
+constexpr Codec kNothing{};
+constexpr Unit kUnit{"engine_test"};
+constexpr Field kEitherTag[] = {field("a", QUARN_ASN1_BOOLEAN, implicit_tag(0)),
+                                field("b", QUARN_ASN1_BOOLEAN)};
+constexpr Schema kEither = choice("Either", kUnit, kEitherTag);
+
+struct Rows {
+  Type rows[QUARN_ASN1_TIME + 4];
+};
+constexpr Rows small_registry() {
+  Rows made{};
+  for (Type &row : made.rows) row = {"", &kNothing, nullptr, 0, 0, 0, -1};
+  made.rows[QUARN_ASN1_BOOLEAN].tag_number = 1;
+  made.rows[QUARN_ASN1_INTEGER].tag_number = 2;
+  made.rows[QUARN_ASN1_UTCTIME].tag_number = 23;
+  made.rows[QUARN_ASN1_OID].schema = &kEither;  // stands for a CHOICE
+  return made;
+}
+constexpr Rows kRows = small_registry();
+constexpr auto kChoiceId = QUARN_ASN1_OID;
+
+template <typename... Fields>
+constexpr bool is_record(Fields... fields) {
+  const Field all[] = {fields...};
+  return SchemaCheck(kRows.rows).well_formed(record("", kUnit, all));
+}
+
+constexpr Field kBool = field("", QUARN_ASN1_BOOLEAN);
+constexpr Field kBoolLater = field("", QUARN_ASN1_BOOLEAN, optional());
+constexpr Field kInt = field("", QUARN_ASN1_INTEGER);
+constexpr Field kIntLater = field("", QUARN_ASN1_INTEGER, optional());
+
+static_assert(is_record(kIntLater, kBool));
+static_assert(is_record(kBoolLater, kInt, kBoolLater), "a mandatory component parts the two");
+static_assert(!is_record(kBoolLater, kBool));
+static_assert(!is_record(kBoolLater, kIntLater, kBoolLater));
+static_assert(!is_record(field("", QUARN_ASN1_TIME, optional()), field("", QUARN_ASN1_UTCTIME)));
+static_assert(!is_record(kBoolLater, field("", kChoiceId)));
+static_assert(!is_record(field("", kChoiceId, optional()),
+                         field("", QUARN_ASN1_INTEGER, implicit_tag(0))));
+static_assert(!is_record(field("", QUARN_ASN1_ANY, optional())), "an open type is decoded whole");
+static_assert(!is_record(field("", kChoiceId, implicit_tag(1))), "a CHOICE has no tag to replace");
+static_assert(is_record(field("", kChoiceId, explicit_tag(1))));
+static_assert(!is_record(field("", QUARN_ASN1_INTEGER, defaults_to(true))));
+
+}  // namespace
+}  // namespace quarn::asn1
