@@ -136,16 +136,8 @@ TEST(BigInteger, decimal_text_is_digits_after_an_optional_minus) {
     EXPECT_EQ(quarn_biginteger_newdec(text, ctx.get()), nullptr) << text;
     EXPECT_EQ(codes_in(ctx.get()), std::vector<int>{QUARN_ERROR_FORMAT});
   }
-  EXPECT_EQ(quarn_biginteger_getsign(from_decimal("-000").get()), 0);
+  EXPECT_EQ(from_octets({}), nullptr);
   EXPECT_EQ(decimal_of(from_decimal("-0")), "0");
-}
-
-TEST(BigInteger, refuses_null_and_empty_octets) {
-  const uint8_t octet = 0;
-  EXPECT_EQ(quarn_biginteger_newdata(nullptr, 1, nullptr), nullptr);
-  EXPECT_EQ(quarn_biginteger_newdata(&octet, 0, nullptr), nullptr);
-  EXPECT_EQ(quarn_biginteger_newunsigneddata(&octet, -1, nullptr), nullptr);
-  EXPECT_EQ(quarn_biginteger_getbitcount(nullptr), -1);
 }
 
 TEST(BigInteger, survives_lack_of_memory_within_a_long_conversion) {

