@@ -240,7 +240,6 @@ TEST(CallbackStream, tells_the_end_without_a_length_and_loses_no_octet) {
   Stream s(quarn_stream_new_callback(&kReadOnly, &source, nullptr));
   EXPECT_EQ(length_of(s.get()), UINT64_MAX);
   EXPECT_EQ(at_end(s.get()), 0);
-  EXPECT_EQ(at_end(s.get()), 0);
   EXPECT_EQ(source.calls, 1);
   EXPECT_EQ(quarn_stream_position(s.get()), 0u);
   EXPECT_EQ(rest_of(s), "ab");
