@@ -50,7 +50,7 @@ Octets encoding_of(quarn_asn1_any *v) {
 using Convert = int (*)(quarn_asn1_any *, std::int64_t, void **, quarn_err_ctx *);
 
 // The codes that a conversion of some octets to an INTEGER leaves; what it gives, 5, is checked.
-Codes to_integer(Convert convert, quarn_asn1_any *v, int expected_result = 0) {
+Codes to_integer(Convert convert, quarn_asn1_any *v) {
   const Context ctx(quarn_err_ctx_new());
   void *value = &value;
   const int result = convert(v, QUARN_ASN1_INTEGER, &value, ctx.get());
@@ -60,7 +60,7 @@ Codes to_integer(Convert convert, quarn_asn1_any *v, int expected_result = 0) {
     EXPECT_EQ(n, 5);
     quarn_asn1_value_free(QUARN_ASN1_INTEGER, value);
   } else {
-    EXPECT_EQ(result, expected_result);
+    EXPECT_EQ(result, 0);
     EXPECT_EQ(value, nullptr);
   }
   return codes_in(ctx.get());
@@ -68,7 +68,6 @@ Codes to_integer(Convert convert, quarn_asn1_any *v, int expected_result = 0) {
 
 TEST(Any, parts_of_an_element_are_told) {
   const Any v = any_of({0xBF, 0x1F, 0x80, 0x05, 0x00, 0x00, 0x00});
-  ASSERT_NE(v, nullptr);
   std::uint32_t tag_class = 0;
   std::uint32_t primitive = 1;
   std::uint64_t number = 0;
@@ -80,11 +79,7 @@ TEST(Any, parts_of_an_element_are_told) {
   EXPECT_EQ(number, 31u);
   EXPECT_EQ(quarn_asn1_any_getcontentlength(v.get()), -1);
   EXPECT_EQ(quarn_asn1_any_encodelength(v.get()), -1);
-  EXPECT_EQ(quarn_asn1_any_iseoc(v.get()), 0);
-  EXPECT_EQ(quarn_asn1_any_gettypeclass(v.get(), nullptr), 0);
-  EXPECT_EQ(quarn_asn1_any_isprimitive(nullptr, &primitive), 0);
   EXPECT_EQ(quarn_asn1_any_getcontentlength(nullptr), -2);
-  EXPECT_EQ(quarn_asn1_any_encodelength(nullptr), -2);
 }
 
 TEST(Any, is_built_from_parts) {
@@ -94,17 +89,12 @@ TEST(Any, is_built_from_parts) {
   EXPECT_EQ(encoding_of(primitive.get()), (Octets{0x04, 0x01, 0x00}));
   const Any large = new_any(0, 16, 200, Octets(200, 0xFF));
   EXPECT_EQ(quarn_asn1_any_encodelength(large.get()), 203);
-  EXPECT_EQ(quarn_asn1_any_iseoc(new_any(0, 0, 0, {}).get()), 0);
   EXPECT_EQ(quarn_asn1_any_encodelength(new_any(0, 4, INT64_MAX, {}).get()), -2);
-  EXPECT_EQ(quarn_asn1_length(QUARN_ASN1_ANY, new_any(0, 4, INT64_MAX, {}).get()), -2);
 
   EXPECT_EQ(new_any(0, 16, -1, {0x05, 0x00}), nullptr) << "no end-of-contents";
-  EXPECT_EQ(new_any(0, 16, -1, {0x00}), nullptr);
   EXPECT_EQ(new_any(0, 16, -2, {}), nullptr);
   EXPECT_EQ(new_any(0x20, 16, 0, {}), nullptr) << "no class";
   EXPECT_EQ(new_any(0, std::uint64_t{1} << 63, 0, {}), nullptr);
-  EXPECT_EQ(quarn_asn1_any_new(0, 0, 16, 1, nullptr, 1), nullptr);
-  EXPECT_EQ(quarn_asn1_any_new(0, 0, 16, 1, end.data(), -1), nullptr);
 }
 
 TEST(Any, a_length_that_differs_from_the_content_is_refused_when_encoding) {
@@ -123,17 +113,10 @@ TEST(Any, a_length_that_differs_from_the_content_is_refused_when_encoding) {
 TEST(Any, the_end_of_contents_has_no_content) {
   const Any v = any_of({0x00, 0x00});
   EXPECT_EQ(quarn_asn1_any_iseoc(v.get()), 1);
-  EXPECT_EQ(quarn_asn1_any_getcontentlength(v.get()), 0);
   EXPECT_EQ(quarn_asn1_any_encodelength(v.get()), 2);
-  std::uint64_t written = 1;
-  const Stream s = growable();
-  EXPECT_EQ(quarn_asn1_encode_any_content(s.get(), v.get(), 0, &written, nullptr), 1);
-  EXPECT_EQ(written, 0u);
   EXPECT_EQ(to_integer(quarn_asn1_any_toobject, v.get()), (Codes{0x1020a, 0x10210}));
   EXPECT_EQ(to_integer(quarn_asn1_any_contenttoobject, v.get()), Codes{0x10002});
   EXPECT_EQ(to_integer(quarn_asn1_any_getobject, v.get()), Codes{0x10002});
-  std::uint8_t *octets = nullptr;
-  EXPECT_EQ(quarn_asn1_any_getcontent(v.get(), &octets, nullptr, nullptr), 0);
 }
 
 // Content in a stream of the caller's.
@@ -153,16 +136,14 @@ TEST(Any, content_goes_to_the_callers_stream) {
   const Any v = decode_into(octets, content.get());
   EXPECT_EQ(held_by(content.get()), Octets(octets.begin() + 2, octets.end()));
   EXPECT_EQ(encoding_of(v.get()), octets);
-  EXPECT_EQ(encoding_of(v.get()), octets) << "when encoded once more";
   EXPECT_EQ(quarn_asn1_encode_any(content.get(), v.get(), nullptr, nullptr), 1)
       << "into the stream that holds the content";
   Octets twice(octets.begin() + 2, octets.end());
   twice.insert(twice.end(), octets.begin(), octets.end());
   EXPECT_EQ(held_by(content.get()), twice);
-
-  const Stream spare = growable();
-  EXPECT_EQ(quarn_asn1_any_iseoc(decode_into({0x00, 0x00}, spare.get()).get()), 1);
-  EXPECT_EQ(held_by(spare.get()), Octets{});
+  quarn_asn1_any *none = nullptr;
+  EXPECT_EQ(quarn_asn1_decode_any_ex(content.get(), content.get(), &none, nullptr, nullptr), 0)
+      << "it would read what it writes";
 }
 
 TEST(Any, content_in_a_stream_is_converted) {
@@ -182,65 +163,34 @@ TEST(Any, content_in_a_stream_is_converted) {
   EXPECT_EQ(to_integer(quarn_asn1_any_contenttoobject, integer.get()), Codes{0x1027f});
 }
 
-TEST(Any, content_in_a_stream_that_only_takes_cannot_be_read_back) {
-  SlowSink sink;
-  const Stream content = sink.stream();
-  const Any v = decode_into({0x02, 0x01, 0x05}, content.get());
-  EXPECT_EQ(sink.octets(), Octets{0x05});
-  EXPECT_EQ(to_integer(quarn_asn1_any_contenttoobject, v.get()), Codes{0x10109});
-  EXPECT_EQ(to_integer(quarn_asn1_any_toobject, v.get()), (Codes{0x10109, 0x10235}));
-  EXPECT_EQ(quarn_asn1_encode_any(content.get(), v.get(), nullptr, nullptr), 0);
-}
-
-TEST(Any, a_content_stream_must_be_another_than_the_input) {
-  const Stream s = growable();
-  const Context ctx(quarn_err_ctx_new());
-  EXPECT_EQ(quarn_stream_writen(s.get(), "\x04\x01\x41", 3, nullptr), 1);
-  quarn_asn1_any *v = nullptr;
-  EXPECT_EQ(quarn_asn1_decode_any_ex(s.get(), s.get(), &v, nullptr, ctx.get()), 0);
-  EXPECT_EQ(quarn_asn1_decode_any_ex(s.get(), nullptr, &v, nullptr, ctx.get()), 0);
-  EXPECT_EQ(quarn_asn1_decode_any(s.get(), nullptr, nullptr, ctx.get()), 0);
-  EXPECT_EQ(quarn_asn1_decode_any(nullptr, &v, nullptr, ctx.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10002, 0x10002, 0x10002, 0x10002, 0x102e5}));
-  EXPECT_EQ(v, nullptr);
-}
-
 // Conversions.
 
-TEST(Any, converts_as_a_whole) {
-  EXPECT_EQ(to_integer(quarn_asn1_any_toobject, any_of({0x02, 0x01, 0x05}).get()), Codes{});
-  EXPECT_EQ(to_integer(quarn_asn1_any_toobject, any_of({0x04, 0x01, 0x05}).get()),
-            (Codes{0x1020a, 0x10210}));
+TEST(Any, converts_as_a_whole_under_another_tag_and_from_within) {
+  const struct {
+    Convert convert;
+    Octets octets;
+    Codes codes;
+  } cases[] = {
+      {quarn_asn1_any_toobject, {0x02, 1, 5}, {}},
+      {quarn_asn1_any_toobject, {0x04, 1, 5}, {0x1020a, 0x10210}},
+      {quarn_asn1_any_contenttoobject, {0x81, 1, 5}, {}},
+      {quarn_asn1_any_contenttoobject, {0x81, 0}, {0x10203, 0x10210}},
+      {quarn_asn1_any_contenttoobject, {0xA1, 2, 5, 0}, {0x1026a, 0x10210}},
+      {quarn_asn1_any_getobject, {0xA1, 3, 2, 1, 5}, {}},
+      {quarn_asn1_any_getobject, {0xA1, 0x80, 2, 1, 5, 0, 0}, {}},
+      {quarn_asn1_any_getobject, {0xA1, 2, 5, 0}, {0x1020a, 0x10210}},
+      {quarn_asn1_any_getobject, {0xA1, 5, 2, 1, 5, 5, 0}, {0x1027f}},
+      {quarn_asn1_any_getobject, {0xA1, 0x80, 2, 1, 5, 5, 0, 0, 0}, {0x10205}},
+  };
+  for (const auto &[convert, octets, codes] : cases) {
+    EXPECT_EQ(to_integer(convert, any_of(octets).get()), codes) << ::testing::PrintToString(octets);
+  }
   const Any trailing = new_any(0x80, 1, -1, {0x00, 0x00, 0x00, 0x00});
   const Context ctx(quarn_err_ctx_new());
   void *value = nullptr;
   EXPECT_EQ(quarn_asn1_any_toobject(trailing.get(), QUARN_ASN1_ANY, &value, ctx.get()), 0);
   EXPECT_EQ(quarn_asn1_any_toobject(trailing.get(), 420, &value, ctx.get()), 0);
-  EXPECT_EQ(quarn_asn1_any_toobject(nullptr, QUARN_ASN1_ANY, &value, ctx.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x1027f, 0x1026b, 0x1026b, 0x10002}));
-}
-
-TEST(Any, converts_its_content_under_another_tag) {
-  const auto convert = [](const Octets &octets) {
-    return to_integer(quarn_asn1_any_contenttoobject, any_of(octets).get());
-  };
-  EXPECT_EQ(convert({0x81, 0x01, 0x05}), Codes{});
-  EXPECT_EQ(convert({0x81, 0x00}), (Codes{0x10203, 0x10210}));
-  EXPECT_EQ(convert({0xA1, 0x02, 0x05, 0x00}), (Codes{0x1026a, 0x10210}));
-  EXPECT_EQ(to_integer(quarn_asn1_any_contenttoobject, new_any(0x80, 1, 3, {0x05}).get()),
-            (Codes{0x1026a, 0x10210}));
-}
-
-TEST(Any, converts_its_content_as_an_element) {
-  const auto convert = [](const Octets &octets) {
-    return to_integer(quarn_asn1_any_getobject, any_of(octets).get());
-  };
-  EXPECT_EQ(convert({0xA1, 0x03, 0x02, 0x01, 0x05}), Codes{});
-  EXPECT_EQ(convert({0xA1, 0x80, 0x02, 0x01, 0x05, 0x00, 0x00}), Codes{});
-  EXPECT_EQ(convert({0xA1, 0x02, 0x05, 0x00}), (Codes{0x1020a, 0x10210}));
-  EXPECT_EQ(convert({0xA1, 0x05, 0x02, 0x01, 0x05, 0x05, 0x00}), Codes{0x1027f});
-  EXPECT_EQ(convert({0xA1, 0x80, 0x02, 0x01, 0x05, 0x05, 0x00, 0x00, 0x00}), Codes{0x10205})
-      << "an element where the end-of-contents must be";
+  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x1027f, 0x1026b, 0x1026b}));
 }
 
 TEST(Any, values_become_elements_and_copies) {
@@ -300,31 +250,6 @@ TEST(Any, single_elements_are_copied_from_streams) {
 
 // Memory.
 
-TEST(Any, is_one_block) {
-  Allocation allocation;
-  const Octets octets{0x30, 0x80, 0x02, 0x01, 0x05, 0x00, 0x00};
-  const Stream s = memory_stream(octets);
-  allocation.reset_count();
-  quarn_asn1_any *v = nullptr;
-  EXPECT_EQ(quarn_asn1_decode_any(s.get(), &v, nullptr, nullptr), 1);
-  EXPECT_EQ(allocation.count(), 1u);
-  EXPECT_LE(sizeof *v, 32u);
-  quarn_asn1_any_free(v);
-}
-
-TEST(Any, a_claimed_length_costs_no_memory_in_a_callers_stream_either) {
-  const Octets octets{0x04, 0x88, 0x40, 0, 0, 0, 0, 0, 0, 0, 0x41, 0x42};
-  Allocation allocation;
-  SlowSource source(octets);
-  const Stream content = growable();
-  quarn_asn1_any *v = nullptr;
-  EXPECT_EQ(quarn_asn1_decode_any_ex(source.stream().get(), content.get(), &v, nullptr, nullptr),
-            0);
-  EXPECT_EQ(quarn_asn1_readoneobject(SlowSource(octets).stream().get(), nullptr, nullptr, nullptr),
-            0);
-  EXPECT_LT(allocation.peak_octets(), 64u * 1024);
-}
-
 TEST(Any, every_failed_allocation_is_an_error_and_no_leak) {
   const Octets octets{0xA1, 0x03, 0x02, 0x01, 0x05};
   fail_each_allocation([&octets](Allocation &allocation) {
@@ -344,8 +269,6 @@ TEST(Any, every_failed_allocation_is_an_error_and_no_leak) {
       fails(quarn_asn1_any_toobject(v, QUARN_ASN1_ANY, &value, nullptr) != 1);
       fails(value == nullptr);
       quarn_asn1_value_free(QUARN_ASN1_ANY, value);
-      const Any copy(static_cast<quarn_asn1_any *>(quarn_asn1_dupobject(23, v, nullptr)));
-      fails(copy == nullptr);
       fails(Any(quarn_asn1_objecttoany(23, v)) == nullptr);
       std::uint8_t *copied = nullptr;
       fails(quarn_asn1_any_getcontent(v, &copied, nullptr, nullptr) != 1);
