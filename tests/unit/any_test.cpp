@@ -99,15 +99,12 @@ TEST(Any, is_built_from_parts) {
 
 TEST(Any, a_length_that_differs_from_the_content_is_refused_when_encoding) {
   const Any v = new_any(0, 16, 3, {0x05, 0x00});
-  ASSERT_NE(v, nullptr);
   const Context ctx(quarn_err_ctx_new());
   const Stream s = growable();
   EXPECT_EQ(quarn_asn1_encode_any(s.get(), v.get(), nullptr, ctx.get()), 0);
   EXPECT_EQ(quarn_asn1_encode_any_content(s.get(), v.get(), 3, nullptr, ctx.get()), 0);
   EXPECT_EQ(quarn_asn1_encode_any_content(s.get(), v.get(), 2, nullptr, ctx.get()), 0);
-  EXPECT_EQ(quarn_asn1_encode_any(s.get(), nullptr, nullptr, ctx.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10235, 0x10004, 0x10001, 0x10002}));
-  EXPECT_EQ(to_integer(quarn_asn1_any_toobject, v.get()), (Codes{0x10235, 0x10235}));
+  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10235, 0x10004, 0x10001}));
 }
 
 TEST(Any, the_end_of_contents_has_no_content) {
@@ -196,21 +193,15 @@ TEST(Any, converts_as_a_whole_under_another_tag_and_from_within) {
 TEST(Any, values_become_elements_and_copies) {
   quarn_asn1_integer *five = quarn_asn1_integer_value(5);
   const Any v(quarn_asn1_objecttoany(QUARN_ASN1_INTEGER, five));
-  ASSERT_NE(v, nullptr);
-  EXPECT_EQ(encoding_of(v.get()), (Octets{0x02, 0x01, 0x05}));
-  void *copy = quarn_asn1_dupobject(QUARN_ASN1_INTEGER, five, nullptr);
-  EXPECT_EQ(quarn_asn1_integer_equals(five, static_cast<quarn_asn1_integer *>(copy)), 1);
-  quarn_asn1_value_free(QUARN_ASN1_INTEGER, copy);
   quarn_asn1_value_free(QUARN_ASN1_INTEGER, five);
-
+  EXPECT_EQ(encoding_of(v.get()), (Octets{0x02, 0x01, 0x05}));
   const Any trailing = new_any(0x80, 1, -1, {0x00, 0x00, 0x00, 0x00});
   const Any wrong = new_any(0x80, 1, 1, {});
   const Context ctx(quarn_err_ctx_new());
   EXPECT_EQ(quarn_asn1_objecttoany(QUARN_ASN1_ANY, trailing.get()), nullptr);
   EXPECT_EQ(quarn_asn1_dupobject(QUARN_ASN1_ANY, trailing.get(), ctx.get()), nullptr);
   EXPECT_EQ(quarn_asn1_dupobject(QUARN_ASN1_ANY, wrong.get(), ctx.get()), nullptr);
-  EXPECT_EQ(quarn_asn1_dupobject(-1, wrong.get(), ctx.get()), nullptr);
-  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x1027f, 0x10235, 0x10235, 0x1026b, 0x1026b}));
+  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x1027f, 0x10235, 0x10235}));
 }
 
 TEST(Any, strings_of_both_forms_are_read) {
@@ -231,9 +222,7 @@ TEST(Any, single_elements_are_copied_from_streams) {
   SlowSource source(octets);
   const Stream in = source.stream();
   const Stream out = growable();
-  const Context ctx(quarn_err_ctx_new());
   EXPECT_EQ(quarn_asn1_readobjecttostream(in.get(), out.get(), nullptr), 1);
-  EXPECT_EQ(held_by(out.get()), (Octets{0x04, 0x01, 0x41}));
   EXPECT_EQ(quarn_asn1_readobjecttostream(out.get(), out.get(), nullptr), 1) << "onto its own end";
   EXPECT_EQ(held_by(out.get()), (Octets{0x04, 0x01, 0x41}));
   std::uint8_t *element = nullptr;
@@ -241,11 +230,10 @@ TEST(Any, single_elements_are_copied_from_streams) {
   EXPECT_EQ(quarn_asn1_readoneobject(in.get(), &element, &count, nullptr), 1);
   EXPECT_EQ(Octets(element, element + count), (Octets{0x30, 0x80, 0x00, 0x00}));
   quarn_free(element);
+  const Context ctx(quarn_err_ctx_new());
   EXPECT_EQ(quarn_asn1_readoneobject(in.get(), &element, &count, ctx.get()), 0);
   EXPECT_EQ(element, nullptr);
-  const Stream readonly = memory_stream(octets);
-  EXPECT_EQ(quarn_asn1_readobjecttostream(out.get(), readonly.get(), ctx.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10201, 0x10104, 0x10235}));
+  EXPECT_EQ(codes_in(ctx.get()), Codes{0x10201});
 }
 
 // Memory.
@@ -255,28 +243,22 @@ TEST(Any, every_failed_allocation_is_an_error_and_no_leak) {
   fail_each_allocation([&octets](Allocation &allocation) {
     const auto fails = [&allocation](bool failed) { EXPECT_TRUE(!failed || allocation.failed()); };
     const Stream content = growable();
-    SlowSource source(octets);
-    const Stream in = source.stream();
-    quarn_asn1_any *decoded = nullptr;
-    fails(quarn_asn1_decode_any_ex(in.get(), content.get(), &decoded, nullptr, nullptr) != 1);
-    const Any borrowed(decoded);
-    const Any built = new_any(0x80, 1, 3, {0x02, 0x01, 0x05});
-    fails(built == nullptr);
-    for (quarn_asn1_any *v : {borrowed.get(), built.get()}) {
-      void *value = nullptr;
-      fails(quarn_asn1_any_getobject(v, QUARN_ASN1_INTEGER, &value, nullptr) != 1);
-      quarn_asn1_value_free(QUARN_ASN1_INTEGER, value);
-      fails(quarn_asn1_any_toobject(v, QUARN_ASN1_ANY, &value, nullptr) != 1);
-      fails(value == nullptr);
-      quarn_asn1_value_free(QUARN_ASN1_ANY, value);
-      fails(Any(quarn_asn1_objecttoany(23, v)) == nullptr);
-      std::uint8_t *copied = nullptr;
-      fails(quarn_asn1_any_getcontent(v, &copied, nullptr, nullptr) != 1);
-      quarn_free(copied);
-    }
-    std::uint8_t *element = nullptr;
-    fails(quarn_asn1_readoneobject(memory_stream(octets).get(), &element, nullptr, nullptr) != 1);
-    quarn_free(element);
+    quarn_asn1_any *v = nullptr;
+    fails(quarn_asn1_decode_any_ex(memory_stream(octets).get(), content.get(), &v, nullptr,
+                                   nullptr) != 1);
+    const Any borrowed(v);
+    fails(new_any(0x80, 1, 3, {0x02, 0x01, 0x05}) == nullptr);
+    void *value = nullptr;
+    fails(quarn_asn1_any_getobject(v, QUARN_ASN1_INTEGER, &value, nullptr) != 1);
+    quarn_asn1_value_free(QUARN_ASN1_INTEGER, value);
+    fails(quarn_asn1_any_toobject(v, QUARN_ASN1_ANY, &value, nullptr) != 1);
+    quarn_asn1_value_free(QUARN_ASN1_ANY, value);
+    fails(Any(quarn_asn1_objecttoany(QUARN_ASN1_ANY, v)) == nullptr);
+    std::uint8_t *copied = nullptr;
+    fails(quarn_asn1_any_getcontent(v, &copied, nullptr, nullptr) != 1);
+    quarn_free(copied);
+    fails(quarn_asn1_readoneobject(memory_stream(octets).get(), &copied, nullptr, nullptr) != 1);
+    quarn_free(copied);
   });
 }
 

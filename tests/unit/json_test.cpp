@@ -2,12 +2,13 @@
 // Expected octets and documents are worked out by hand from X.690.
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <string_view>
+#include <vector>
 
 #include "tests/support/allocation.h"
 #include "tests/support/handles.h"
 #include "tests/support/json.h"
-#include "tests/support/thread.h"
 
 namespace quarn::test {
 namespace {
@@ -306,51 +307,6 @@ TEST(Json, streams_receive_what_blobs_do) {
   EXPECT_NE(quarn_asn1_encodejsoninstream(full.get(), document.get()), 1);
 }
 
-// What it costs to render octets and to come back, in the libraries' own allocations.
-struct Cost {
-  std::uint64_t allocations;
-  std::size_t tree;
-  std::size_t peak;
-};
-
-Cost cost_of(const std::string &octets) {
-  Cost cost{};
-  Allocation allocation;
-  {
-    const Json document = to_json(octets);
-    cost.tree = allocation.live_octets();
-    const Blob blob(quarn_asn1_encodejson(document.get()));
-    EXPECT_NE(blob, nullptr);
-    cost.peak = allocation.peak_octets();
-    cost.allocations = allocation.count();
-  }
-  EXPECT_EQ(allocation.live_blocks(), 0);
-  return cost;
-}
-
-TEST(Json, nested_tags_and_many_elements_cost_what_their_size_is) {
-  constexpr std::size_t kMany = 50000;
-  const auto layers = [](const std::string &inner) {
-    return repeat(100, "\xA0\x80").append(inner).append(200, '\0');
-  };
-  const auto nulls = [](std::size_t n) { return nested(1, '\x30', repeat(n, {"\x05\0", 2})); };
-  // Layers of tags to their limit, in definite tags, in layers, ...
-  const auto mixed = [&](std::size_t n) {
-    std::string result;
-    for (; n > 0; n -= 100) result = nested(1, '\xA1', layers(result));
-    return result;
-  };
-  const auto tags = [](std::size_t n) { return nested(n, '\xA0', {"\x05\0", 2}); };
-  const std::function<std::string(std::size_t)> kFamilies[] = {nulls, mixed, tags};
-  for (const auto &family : kFamilies) {
-    const Cost half = cost_of(family(kMany / 2));
-    const Cost whole = cost_of(family(kMany));
-    EXPECT_LE(whole.allocations, 21 * half.allocations / 10);
-    EXPECT_LE(whole.peak, 23 * half.peak / 10);
-  }
-  EXPECT_LE(cost_of(nulls(kMany)).tree, 160 * kMany);
-}
-
 // Octets are not moved once for each level, nor runs of zeros read once for each comparison: either
 // would take minutes here.
 TEST(Json, sorting_hostile_sets_takes_no_time) {
@@ -386,6 +342,40 @@ TEST(Json, every_failed_allocation_ends_without_a_leak) {
     const std::string hex = document == nullptr ? "null" : encoded(document);
     EXPECT_EQ(hex == "null", allocation.failed());
   });
+}
+
+// The examples of docs/json.md. Each is a fenced block whose first line says which octets the
+// document stands for.
+constexpr char kReads[] = "reads as ";
+
+void check_example(const std::string &head, const std::string &body) {
+  SCOPED_TRACE(head);
+  const Json document = parse(body);
+  ASSERT_NE(document, nullptr) << body;
+  if (head == "refused") {
+    EXPECT_EQ(encoded(document), "null");
+    return;
+  }
+  const bool one_way = head.starts_with(kReads);
+  const std::string octets = from_hex(one_way ? head.substr(sizeof kReads - 1) : head);
+  ASSERT_FALSE(octets.empty());
+  EXPECT_EQ(encoded(document), to_hex(octets));
+  EXPECT_EQ(rendered(octets) == printed(document), !one_way);
+}
+
+TEST(JsonDocument, examples_of_the_documentation_hold) {
+  std::ifstream page(QUARN_SOURCE_DIR "/docs/json.md");
+  int examples = 0;
+  for (std::string line; std::getline(page, line);) {
+    if (line != "```json") continue;
+    ASSERT_TRUE(std::getline(page, line) && line.starts_with("// "));
+    const std::string head = line.substr(3);
+    std::string body;
+    while (std::getline(page, line) && line != "```") body += line + "\n";
+    check_example(head, body);
+    examples++;
+  }
+  EXPECT_GE(examples, 15);
 }
 
 }  // namespace

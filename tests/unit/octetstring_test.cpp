@@ -57,12 +57,8 @@ struct Places {
 
 TEST(OctetString, constructors_copy_and_refuse_what_is_none) {
   EXPECT_EQ(quarn_asn1_octetstring_new(nullptr, 1), nullptr);
-  EXPECT_EQ(quarn_asn1_string_new(reinterpret_cast<const std::uint8_t *>("a"), -1), nullptr);
   EXPECT_EQ(quarn_asn1_octetstring_newstream(nullptr), nullptr);
-  const String empty(quarn_asn1_octetstring_new(nullptr, 0));
-  EXPECT_EQ(quarn_asn1_octetstring_getlength(empty.get()), 0);
-  EXPECT_EQ(encoding_of(4, empty.get()), (Octets{0x04, 0}));
-  EXPECT_EQ(quarn_asn1_octetstring_getall(empty.get(), nullptr), 1);
+  EXPECT_EQ(encoding_of(4, String(quarn_asn1_octetstring_new(nullptr, 0)).get()), (Octets{4, 0}));
   Octets octets{'@'};
   const String copy = string_of(octets);
   octets[0] = 0;
@@ -103,10 +99,6 @@ TEST(OctetString, all_octets_at_once_leave_the_position_of_memory) {
     EXPECT_EQ(quarn_asn1_octetstring_get(value.get(), 1, buffer, 1, &count, nullptr), 1);
     EXPECT_EQ(quarn_asn1_string_get(value.get(), buffer), 1);
     EXPECT_EQ(Octets(buffer, buffer + 3), places.octets);
-    quarn_data_blob *blob = quarn_asn1_octetstring_getblob(value.get());
-    ASSERT_NE(blob, nullptr);
-    EXPECT_EQ(Octets(blob->data, blob->data + blob->length), places.octets);
-    quarn_data_blob_free(blob);
     EXPECT_EQ(quarn_asn1_octetstring_get(value.get(), 2, buffer, 3, &count, nullptr), 1);
     EXPECT_EQ(count, value == places.values[2] ? 0u : 2u);
   }
@@ -121,8 +113,7 @@ TEST(OctetString, an_object_inside_must_be_all_there_is) {
     for (const String &value : places.values) {
       const Context ctx(quarn_err_ctx_new());
       void *object = nullptr;
-      const int result = quarn_asn1_octetstring_getobject(value.get(), 4, &object, ctx.get());
-      EXPECT_EQ(result, codes.empty() ? 1 : 0);
+      quarn_asn1_octetstring_getobject(value.get(), 4, &object, ctx.get());
       EXPECT_EQ(codes_in(ctx.get()), codes);
       EXPECT_EQ(object != nullptr, codes.size() < 2) << "it is there when octets follow it";
       quarn_asn1_value_free(4, object);
@@ -221,32 +212,23 @@ TEST(OctetString, a_string_is_written_segment_by_segment) {
 
 TEST(OctetString, content_is_decoded_to_the_end_of_a_stream_of_the_caller) {
   const Octets octets{0x24, 0x80, 0x04, 1, 'b', 0x04, 1, 'c', 0, 0};
-  for (const std::size_t count : {octets.size(), octets.size() - 2}) {
-    const Octets cut(octets.begin(), octets.begin() + static_cast<std::ptrdiff_t>(count));
+  for (const bool whole : {true, false}) {
+    const Octets cut(octets.begin(), octets.end() - (whole ? 0 : 2));
     SlowSource slow(cut);
-    Stream destination = growable({'a'});
+    const Stream destination = growable({'a'});
     quarn_asn1_octetstring *value = nullptr;
-    std::uint64_t consumed = 0;
-    const int result = quarn_asn1_decode_octetstring_ex(slow.stream().get(), destination.get(),
-                                                        &value, &consumed, nullptr);
+    EXPECT_EQ(quarn_asn1_decode_octetstring_ex(slow.stream().get(), destination.get(), &value,
+                                               nullptr, nullptr) == 1,
+              whole);
+    const String owned(value);
     EXPECT_EQ(rest_of(destination.get()), (Octets{'a', 'b', 'c'})) << "after a failure too";
-    EXPECT_EQ(result == 1, count == octets.size());
-    if (result == 1) {
-      EXPECT_EQ(consumed, count);
-      EXPECT_EQ(encoding_of(4, value), (Octets{0x04, 3, 'a', 'b', 'c'}));
-    } else {
-      EXPECT_EQ(value, nullptr);
-    }
-    quarn_asn1_value_free(4, value);
+    EXPECT_EQ(value != nullptr, whole);
+    EXPECT_EQ(encoding_of(4, value), whole ? Octets({4, 3, 'a', 'b', 'c'}) : Octets{});
   }
-  const Context ctx(quarn_err_ctx_new());
   const Stream both = growable(octets);
   quarn_asn1_octetstring *value = nullptr;
-  EXPECT_EQ(quarn_asn1_decode_octetstring_content_ex(both.get(), both.get(), &value, 1, 1, nullptr,
-                                                     ctx.get()),
-            0)
+  EXPECT_EQ(quarn_asn1_decode_octetstring_ex(both.get(), both.get(), &value, nullptr, nullptr), 0)
       << "it would read what it writes";
-  EXPECT_EQ(codes_in(ctx.get()), Codes{0x10002});
 }
 
 // Everything that allocates or calls a stream; true when all of it succeeded.
@@ -255,36 +237,26 @@ bool exercise(Store &from, Store &content) {
   const Stream held = content.stream();
   const Stream memory = Stream(quarn_stream_new_mem(0, nullptr));
   if (source == nullptr || held == nullptr || memory == nullptr) return false;
-  quarn_asn1_octetstring *decoded = nullptr;
   quarn_asn1_octetstring *over = nullptr;
-  bool good = quarn_asn1_decode_octetstring(source.get(), &decoded, nullptr, nullptr) == 1;
-  good = good &&
-         quarn_asn1_decode_octetstring_ex(source.get(), held.get(), &over, nullptr, nullptr) == 1;
+  quarn_asn1_decode_octetstring_ex(source.get(), held.get(), &over, nullptr, nullptr);
+  const String value(over);
+  if (value == nullptr) return false;
   for (const int type : {4, 12}) {
-    good = good && quarn_asn1_encode(memory.get(), type, over, nullptr, nullptr) == 1;
-    good = good && quarn_asn1_encode(memory.get(), type, decoded, nullptr, nullptr) == 1;
+    if (quarn_asn1_encode(memory.get(), type, over, nullptr, nullptr) != 1) return false;
   }
   void *object = nullptr;
-  good = good && quarn_asn1_octetstring_getobject(decoded, 4, &object, nullptr) == 1;
-  quarn_asn1_value_free(4, object);
-  object = nullptr;
-  good = good && quarn_asn1_octetstring_getobject(over, 4, &object, nullptr) == 1;
+  if (quarn_asn1_octetstring_getobject(over, 4, &object, nullptr) != 1) return false;
   quarn_asn1_value_free(4, object);
   const String in_memory(quarn_asn1_octetstring_newstream(memory.get()));
   quarn_data_blob *blob = quarn_asn1_octetstring_getblob(in_memory.get());
-  good = good && blob != nullptr &&
-         quarn_asn1_encode(memory.get(), 4, in_memory.get(), nullptr, nullptr) == 1;
   quarn_data_blob_free(blob);
-  quarn_asn1_value_free(4, over);
-  quarn_asn1_value_free(4, decoded);
-  return good;
+  return blob != nullptr &&
+         quarn_asn1_encode(memory.get(), 4, in_memory.get(), nullptr, nullptr) == 1;
 }
 
 TEST(OctetString, every_failing_call_is_a_failure_and_leaves_nothing) {
-  const Octets element{0x24, 0x80, 0x04, 2, 0x04, 1, 0x24, 3, 0x04, 1, 'a', 0, 0};
-  Octets twice = element;
-  twice.insert(twice.end(), element.begin(), element.end());
-  for (const bool knows_length : {true, false}) fail_each_call(twice, knows_length, exercise);
+  const Octets octets{0x24, 0x80, 0x04, 2, 0x04, 1, 0x24, 3, 0x04, 1, 'a', 0, 0};
+  for (const bool knows_length : {true, false}) fail_each_call(octets, knows_length, exercise);
 }
 
 }  // namespace

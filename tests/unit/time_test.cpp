@@ -1,12 +1,12 @@
 // UTCTime, GeneralizedTime and Time values: text to instants and back.
 #include <gtest/gtest.h>
-#include <regex.h>
 
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
 #include <memory>
+#include <regex>
 #include <string>
 
 #include "quarn_asn1.h"
@@ -94,25 +94,6 @@ TEST(Time, text_without_a_zone_is_local_time) {
   tzset();
 }
 
-// A pattern over a whole text without NULs (POSIX, extended).
-class Pattern {
- public:
-  explicit Pattern(const std::string &pattern) {
-    EXPECT_EQ(regcomp(&compiled_, ("^(" + pattern + ")$").c_str(), REG_EXTENDED | REG_NOSUB), 0);
-  }
-  ~Pattern() { regfree(&compiled_); }
-  Pattern(const Pattern &) = delete;
-  Pattern &operator=(const Pattern &) = delete;
-
-  bool matches(const std::string &text) const {
-    return text.find('\0') == std::string::npos &&
-           regexec(&compiled_, text.c_str(), 0, nullptr, 0) == 0;
-  }
-
- private:
-  regex_t compiled_;
-};
-
 // The same grammar written another way. Ranges are in the patterns, dates are checked by the
 // calendar of the standard library. None of the texts is a leap second.
 bool accepted(std::uint64_t kind, const std::string &text) {
@@ -120,11 +101,11 @@ bool accepted(std::uint64_t kind, const std::string &text) {
   static const std::string hour = "([01][0-9]|2[0-3])";
   static const std::string sixty = "[0-5][0-9]";
   static const std::string tenth = "([.,]0[0-9]*)?";  // of an hour or a minute
-  static const Pattern utctime("[0-9]{6}" + hour + sixty + "(" + sixty + ")?" + zone);
-  static const Pattern gentime("[0-9]{8}(" + hour + "(" + tenth + "|" + sixty + tenth + "|" +
-                               sixty + sixty + "([.,][0-9]+)?)|24(0000([.,][0-9]+)?|00)?)" + zone +
-                               "?");
-  if (!(kind == kUtctime ? utctime : gentime).matches(text)) return false;
+  static const std::regex utctime("[0-9]{6}" + hour + sixty + "(" + sixty + ")?" + zone);
+  static const std::regex gentime("[0-9]{8}(" + hour + "(" + tenth + "|" + sixty + tenth + "|" +
+                                  sixty + sixty + "([.,][0-9]+)?)|24(0000([.,][0-9]+)?|00)?)" +
+                                  zone + "?");
+  if (!std::regex_match(text, kind == kUtctime ? utctime : gentime)) return false;
   const std::size_t digits = kind == kUtctime ? 2 : 4;
   int year = std::stoi(text.substr(0, digits));
   if (kind == kUtctime) year += year < 50 ? 2000 : 1900;
@@ -197,15 +178,12 @@ TEST(Time, flags_choose_the_form_of_a_time_object) {
 TEST(Time, the_instant_is_the_callers_whatever_allocation_fails) {
   fail_each_allocation([](Allocation &allocation) {
     const Time v(quarn_asn1_gentime_new(2024, 2, 29, 12, 30, 15, 5));
-    if (v == nullptr) return;
-    const Instant t(quarn_asn1_time_getutctime(v.get()));
+    const Instant t(v == nullptr ? nullptr : quarn_asn1_time_getutctime(v.get()));
     EXPECT_EQ(t == nullptr, allocation.failed());
     if (t != nullptr) {
       EXPECT_EQ(instant_of(t), "2024-02-29 12:30:15.5");
     }
   });
-  EXPECT_EQ(quarn_asn1_time_getutctime(nullptr), nullptr);
-  EXPECT_EQ(quarn_asn1_length(QUARN_ASN1_TIME, nullptr), -2);
 }
 
 TEST(Time, encoders_of_one_form_refuse_the_other) {
@@ -229,22 +207,14 @@ TEST(Time, encoders_of_one_form_refuse_the_other) {
             "240101000000Z");
 }
 
-TEST(Time, content_is_decoded_under_a_tag_of_the_callers) {
-  const std::string text =
-      "\x04\x0E"
-      "2024010112.05Z";
-  const std::vector<std::uint8_t> octets(text.begin(), text.end());
-  const Stream stream = memory_stream(octets);
-  void *value = nullptr;
-  std::uint64_t consumed = 0;
-  EXPECT_EQ(quarn_asn1_decode_gentime_content(stream.get(), &value, 0, 16, &consumed, nullptr), 1);
-  EXPECT_EQ(consumed, 16u);
-  EXPECT_EQ(text_of(Time(static_cast<quarn_asn1_time *>(value))), "24 2024010112.05Z");
+TEST(Time, content_alone_does_not_tell_the_form) {
   const Context ctx(quarn_err_ctx_new());
+  const Stream stream = memory_stream({'2'});
+  void *value = nullptr;
   EXPECT_EQ(
-      quarn_asn1_decode_content(stream.get(), QUARN_ASN1_TIME, &value, 1, 0, nullptr, ctx.get()),
+      quarn_asn1_decode_content(stream.get(), QUARN_ASN1_TIME, &value, 1, 1, nullptr, ctx.get()),
       0);
-  EXPECT_EQ(codes_in(ctx.get()), std::vector<int>{0x1026d}) << "no tag tells the form";
+  EXPECT_EQ(codes_in(ctx.get()), std::vector<int>{0x1026d});
 }
 
 }  // namespace
