@@ -1,16 +1,13 @@
 // BIT STRING: bits by number, unused bits, and what differs from OCTET STRING.
 #include <gtest/gtest.h>
 
-#include "quarn_asn1.h"
 #include "tests/support/allocation.h"
 #include "tests/support/store.h"
+#include "tests/unit/values.h"
 #include "types/bitstring.h"
 
 namespace quarn::test {
 namespace {
-
-using Octets = std::vector<std::uint8_t>;
-using Codes = std::vector<int>;
 
 struct FreeBits {
   void operator()(quarn_asn1_bitstring *v) const { quarn_asn1_value_free(3, v); }
@@ -18,11 +15,7 @@ struct FreeBits {
 using Bits = std::unique_ptr<quarn_asn1_bitstring, FreeBits>;
 
 Octets encoding_of(const Bits &value) {
-  quarn_data_blob *blob = quarn_asn1_mem_encode(3, value.get());
-  if (blob == nullptr) return {};
-  Octets octets(blob->data, blob->data + blob->length);
-  quarn_data_blob_free(blob);
-  return octets;
+  return test::encoding_of(3, value.get());
 }
 
 Bits decode(const Octets &octets) {

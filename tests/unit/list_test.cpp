@@ -4,15 +4,11 @@
 #include <algorithm>
 #include <numeric>
 
-#include "quarn_asn1.h"
 #include "tests/support/allocation.h"
-#include "tests/support/streams.h"
+#include "tests/unit/values.h"
 
 namespace quarn::test {
 namespace {
-
-using Octets = std::vector<std::uint8_t>;
-using Codes = std::vector<int>;
 
 struct FreeAnylist {
   void operator()(quarn_asn1_list *l) const { quarn_asn1_anylist_free(l); }
@@ -50,24 +46,11 @@ std::vector<void *> elements_of(const AnyList &list) {
   return elements;
 }
 
-Octets encoding_of(void *any) {
-  quarn_data_blob *blob = quarn_asn1_mem_encode(QUARN_ASN1_ANY, any);
-  const Octets octets(blob->data, blob->data + blob->length);
-  quarn_data_blob_free(blob);
-  return octets;
-}
-
-Octets held_by(const Stream &s) {
-  const std::uint8_t *octets = nullptr;
-  std::uint64_t count = 0;
-  EXPECT_EQ(quarn_memstream_peek(s.get(), &octets, &count), 1);
-  return Octets(octets, octets + count);
-}
-
 TEST(List, keeps_its_order_as_it_grows) {
   const AnyList list = list_of(33);
   for (int i = 0; i < 33; i++) {
-    EXPECT_EQ(encoding_of(at(list, i)), (Octets{0x04, 0x02, 0x00, static_cast<std::uint8_t>(i)}));
+    EXPECT_EQ(encoding_of(QUARN_ASN1_ANY, at(list, i)),
+              (Octets{0x04, 0x02, 0x00, static_cast<std::uint8_t>(i)}));
   }
   EXPECT_EQ(quarn_asn1_anylist_length(list.get()), 33 * 4);
 }

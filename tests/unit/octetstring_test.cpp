@@ -3,16 +3,13 @@
 
 #include <string>
 
-#include "quarn_asn1.h"
 #include "tests/support/allocation.h"
 #include "tests/support/store.h"
+#include "tests/unit/values.h"
 #include "types/octetstring.h"
 
 namespace quarn::test {
 namespace {
-
-using Octets = std::vector<std::uint8_t>;
-using Codes = std::vector<int>;
 
 struct FreeString {
   void operator()(quarn_asn1_octetstring *v) const { quarn_asn1_value_free(4, v); }
@@ -22,25 +19,6 @@ using String = std::unique_ptr<quarn_asn1_octetstring, FreeString>;
 String string_of(const Octets &octets) {
   return String(
       quarn_asn1_octetstring_new(octets.data(), static_cast<std::int64_t>(octets.size())));
-}
-
-Stream growable(const Octets &octets = {}) {
-  Stream s(quarn_stream_new_mem(0, nullptr));
-  quarn_stream_writen(s.get(), octets.data(), static_cast<std::int64_t>(octets.size()), nullptr);
-  return s;
-}
-
-Octets rest_of(quarn_stream *s) {
-  const std::uint8_t *octets = nullptr;
-  std::uint64_t count = 0;
-  quarn_memstream_peek(s, &octets, &count);
-  return {octets, octets + count};
-}
-
-Octets encoding_of(std::int64_t type, void *value) {
-  const Stream s = growable();
-  return quarn_asn1_encode(s.get(), type, value, nullptr, nullptr) == 1 ? rest_of(s.get())
-                                                                        : Octets{};
 }
 
 // A string in all the places where one can be.
@@ -183,7 +161,7 @@ TEST(OctetString, a_value_can_be_written_to_the_stream_that_holds_it) {
   const Stream memory = growable(content);
   const String value(quarn_asn1_octetstring_newstream(memory.get()));
   EXPECT_EQ(quarn_asn1_encode(memory.get(), 4, value.get(), nullptr, nullptr), 1);
-  EXPECT_EQ(rest_of(memory.get()), expected);
+  EXPECT_EQ(held_by(memory), expected);
   Store store(content);
   const Stream external = store.stream();
   const String outside(quarn_asn1_octetstring_newstream(external.get()));
@@ -221,7 +199,7 @@ TEST(OctetString, content_is_decoded_to_the_end_of_a_stream_of_the_caller) {
                                                nullptr, nullptr) == 1,
               whole);
     const String owned(value);
-    EXPECT_EQ(rest_of(destination.get()), (Octets{'a', 'b', 'c'})) << "after a failure too";
+    EXPECT_EQ(held_by(destination), (Octets{'a', 'b', 'c'})) << "after a failure too";
     EXPECT_EQ(value != nullptr, whole);
     EXPECT_EQ(encoding_of(4, value), whole ? Octets({4, 3, 'a', 'b', 'c'}) : Octets{});
   }
