@@ -1,8 +1,6 @@
 // BOOLEAN, NULL, and what the primitive types have in common.
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "quarn_asn1.h"
 #include "tests/support/allocation.h"
 #include "tests/support/streams.h"
