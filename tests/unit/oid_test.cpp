@@ -75,29 +75,12 @@ TEST(Oid, blanks_are_dots_and_leading_zeros_stay_in_the_text) {
 }
 
 TEST(Oid, text_that_is_no_identifier_is_refused) {
-  const char *const kTexts[] = {"",
-                                "1",
-                                "1.",
-                                "1.2.",
-                                "1.2 ",
-                                ".1.2",
-                                "1..2",
-                                "1. 2",
-                                "1.2.a",
-                                "1.2.-3",
-                                "1.2.+3",
-                                "1,2",
-                                "3.1",
-                                "0.40",
-                                "1.40",
-                                "001",
-                                "999",
-                                "1.2\t.3",
-                                "1.2.3x",
-                                "1.2.0x3",
-                                "1.2.18446744073709551615",
-                                "2.18446744073709551536",
-                                "1.2.99999999999999999999999"};
+  const char *const kTexts[] = {
+      // Not the form of an identifier.
+      "", "1", "1.", "1.2.", "1.2 ", ".1.2", "1..2", "1. 2", "1.2.a", "1.2.-3", "1.2.+3", "1,2",
+      // Parts that are out of range or no numbers.
+      "3.1", "0.40", "1.40", "001", "999", "1.2\t.3", "1.2.3x", "1.2.0x3",
+      "1.2.18446744073709551615", "2.18446744073709551536", "1.2.99999999999999999999999"};
   for (const char *text : kTexts) {
     EXPECT_EQ(quarn_asn1_oid_new(text), nullptr) << text;
   }
