@@ -3,16 +3,12 @@
 
 #include <string>
 
-#include "quarn_asn1.h"
 #include "tests/support/allocation.h"
-#include "tests/support/streams.h"
+#include "tests/unit/values.h"
 #include "types/any.h"
 
 namespace quarn::test {
 namespace {
-
-using Octets = std::vector<std::uint8_t>;
-using Codes = std::vector<int>;
 
 struct FreeAny {
   void operator()(quarn_asn1_any *v) const { quarn_asn1_any_free(v); }
@@ -30,27 +26,10 @@ Any new_any(std::uint32_t tag_class, std::uint64_t number, std::int64_t length, 
   return Any(quarn_asn1_any_new(tag_class, 0, number, length, c.data(), count));
 }
 
-Octets held_by(quarn_stream *s) {
-  const std::uint8_t *octets = nullptr;
-  std::uint64_t count = 0;
-  EXPECT_EQ(quarn_memstream_peek(s, &octets, &count), 1);
-  return Octets(octets, octets + count);
-}
-
-Stream growable() {
-  return Stream(quarn_stream_new_mem(0, nullptr));
-}
-
-Octets encoding_of(quarn_asn1_any *v) {
-  const Stream s = growable();
-  EXPECT_EQ(quarn_asn1_encode_any(s.get(), v, nullptr, nullptr), 1);
-  return held_by(s.get());
-}
-
 using Convert = int (*)(quarn_asn1_any *, std::int64_t, void **, quarn_err_ctx *);
 
 // The codes that a conversion of some octets to an INTEGER leaves; what it gives, 5, is checked.
-Codes to_integer(Convert convert, quarn_asn1_any *v, int expected_result = 0) {
+Codes to_integer(Convert convert, quarn_asn1_any *v) {
   const Context ctx(quarn_err_ctx_new());
   void *value = &value;
   const int result = convert(v, QUARN_ASN1_INTEGER, &value, ctx.get());
@@ -60,7 +39,7 @@ Codes to_integer(Convert convert, quarn_asn1_any *v, int expected_result = 0) {
     EXPECT_EQ(n, 5);
     quarn_asn1_value_free(QUARN_ASN1_INTEGER, value);
   } else {
-    EXPECT_EQ(result, expected_result);
+    EXPECT_EQ(result, 0);
     EXPECT_EQ(value, nullptr);
   }
   return codes_in(ctx.get());
@@ -68,7 +47,6 @@ Codes to_integer(Convert convert, quarn_asn1_any *v, int expected_result = 0) {
 
 TEST(Any, parts_of_an_element_are_told) {
   const Any v = any_of({0xBF, 0x1F, 0x80, 0x05, 0x00, 0x00, 0x00});
-  ASSERT_NE(v, nullptr);
   std::uint32_t tag_class = 0;
   std::uint32_t primitive = 1;
   std::uint64_t number = 0;
@@ -80,60 +58,42 @@ TEST(Any, parts_of_an_element_are_told) {
   EXPECT_EQ(number, 31u);
   EXPECT_EQ(quarn_asn1_any_getcontentlength(v.get()), -1);
   EXPECT_EQ(quarn_asn1_any_encodelength(v.get()), -1);
-  EXPECT_EQ(quarn_asn1_any_iseoc(v.get()), 0);
-  EXPECT_EQ(quarn_asn1_any_gettypeclass(v.get(), nullptr), 0);
-  EXPECT_EQ(quarn_asn1_any_isprimitive(nullptr, &primitive), 0);
   EXPECT_EQ(quarn_asn1_any_getcontentlength(nullptr), -2);
-  EXPECT_EQ(quarn_asn1_any_encodelength(nullptr), -2);
 }
 
 TEST(Any, is_built_from_parts) {
   const Octets end{0x00, 0x00};
-  EXPECT_EQ(encoding_of(new_any(0x80, 31, -1, end).get()), (Octets{0xBF, 0x1F, 0x80, 0x00, 0x00}));
+  EXPECT_EQ(encoding_of(QUARN_ASN1_ANY, new_any(0x80, 31, -1, end).get()),
+            (Octets{0xBF, 0x1F, 0x80, 0x00, 0x00}));
   const Any primitive(quarn_asn1_any_new(0, 7, 4, 1, end.data(), 1));
-  EXPECT_EQ(encoding_of(primitive.get()), (Octets{0x04, 0x01, 0x00}));
+  EXPECT_EQ(encoding_of(QUARN_ASN1_ANY, primitive.get()), (Octets{0x04, 0x01, 0x00}));
   const Any large = new_any(0, 16, 200, Octets(200, 0xFF));
   EXPECT_EQ(quarn_asn1_any_encodelength(large.get()), 203);
-  EXPECT_EQ(quarn_asn1_any_iseoc(new_any(0, 0, 0, {}).get()), 0);
   EXPECT_EQ(quarn_asn1_any_encodelength(new_any(0, 4, INT64_MAX, {}).get()), -2);
-  EXPECT_EQ(quarn_asn1_length(QUARN_ASN1_ANY, new_any(0, 4, INT64_MAX, {}).get()), -2);
 
   EXPECT_EQ(new_any(0, 16, -1, {0x05, 0x00}), nullptr) << "no end-of-contents";
-  EXPECT_EQ(new_any(0, 16, -1, {0x00}), nullptr);
   EXPECT_EQ(new_any(0, 16, -2, {}), nullptr);
   EXPECT_EQ(new_any(0x20, 16, 0, {}), nullptr) << "no class";
   EXPECT_EQ(new_any(0, std::uint64_t{1} << 63, 0, {}), nullptr);
-  EXPECT_EQ(quarn_asn1_any_new(0, 0, 16, 1, nullptr, 1), nullptr);
-  EXPECT_EQ(quarn_asn1_any_new(0, 0, 16, 1, end.data(), -1), nullptr);
 }
 
 TEST(Any, a_length_that_differs_from_the_content_is_refused_when_encoding) {
   const Any v = new_any(0, 16, 3, {0x05, 0x00});
-  ASSERT_NE(v, nullptr);
   const Context ctx(quarn_err_ctx_new());
   const Stream s = growable();
   EXPECT_EQ(quarn_asn1_encode_any(s.get(), v.get(), nullptr, ctx.get()), 0);
   EXPECT_EQ(quarn_asn1_encode_any_content(s.get(), v.get(), 3, nullptr, ctx.get()), 0);
   EXPECT_EQ(quarn_asn1_encode_any_content(s.get(), v.get(), 2, nullptr, ctx.get()), 0);
-  EXPECT_EQ(quarn_asn1_encode_any(s.get(), nullptr, nullptr, ctx.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10235, 0x10004, 0x10001, 0x10002}));
-  EXPECT_EQ(to_integer(quarn_asn1_any_toobject, v.get()), (Codes{0x10235, 0x10235}));
+  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10235, 0x10004, 0x10001}));
 }
 
 TEST(Any, the_end_of_contents_has_no_content) {
   const Any v = any_of({0x00, 0x00});
   EXPECT_EQ(quarn_asn1_any_iseoc(v.get()), 1);
-  EXPECT_EQ(quarn_asn1_any_getcontentlength(v.get()), 0);
   EXPECT_EQ(quarn_asn1_any_encodelength(v.get()), 2);
-  std::uint64_t written = 1;
-  const Stream s = growable();
-  EXPECT_EQ(quarn_asn1_encode_any_content(s.get(), v.get(), 0, &written, nullptr), 1);
-  EXPECT_EQ(written, 0u);
   EXPECT_EQ(to_integer(quarn_asn1_any_toobject, v.get()), (Codes{0x1020a, 0x10210}));
   EXPECT_EQ(to_integer(quarn_asn1_any_contenttoobject, v.get()), Codes{0x10002});
   EXPECT_EQ(to_integer(quarn_asn1_any_getobject, v.get()), Codes{0x10002});
-  std::uint8_t *octets = nullptr;
-  EXPECT_EQ(quarn_asn1_any_getcontent(v.get(), &octets, nullptr, nullptr), 0);
 }
 
 // Content in a stream of the caller's.
@@ -151,18 +111,16 @@ TEST(Any, content_goes_to_the_callers_stream) {
   const Octets octets{0x30, 0x80, 0x04, 0x81, 0x01, 0x41, 0x30, 0x80, 0x00, 0x00, 0x00, 0x00};
   const Stream content = growable();
   const Any v = decode_into(octets, content.get());
-  EXPECT_EQ(held_by(content.get()), Octets(octets.begin() + 2, octets.end()));
-  EXPECT_EQ(encoding_of(v.get()), octets);
-  EXPECT_EQ(encoding_of(v.get()), octets) << "when encoded once more";
+  EXPECT_EQ(held_by(content), Octets(octets.begin() + 2, octets.end()));
+  EXPECT_EQ(encoding_of(QUARN_ASN1_ANY, v.get()), octets);
   EXPECT_EQ(quarn_asn1_encode_any(content.get(), v.get(), nullptr, nullptr), 1)
       << "into the stream that holds the content";
   Octets twice(octets.begin() + 2, octets.end());
   twice.insert(twice.end(), octets.begin(), octets.end());
-  EXPECT_EQ(held_by(content.get()), twice);
-
-  const Stream spare = growable();
-  EXPECT_EQ(quarn_asn1_any_iseoc(decode_into({0x00, 0x00}, spare.get()).get()), 1);
-  EXPECT_EQ(held_by(spare.get()), Octets{});
+  EXPECT_EQ(held_by(content), twice);
+  quarn_asn1_any *none = nullptr;
+  EXPECT_EQ(quarn_asn1_decode_any_ex(content.get(), content.get(), &none, nullptr, nullptr), 0)
+      << "it would read what it writes";
 }
 
 TEST(Any, content_in_a_stream_is_converted) {
@@ -182,85 +140,48 @@ TEST(Any, content_in_a_stream_is_converted) {
   EXPECT_EQ(to_integer(quarn_asn1_any_contenttoobject, integer.get()), Codes{0x1027f});
 }
 
-TEST(Any, content_in_a_stream_that_only_takes_cannot_be_read_back) {
-  SlowSink sink;
-  const Stream content = sink.stream();
-  const Any v = decode_into({0x02, 0x01, 0x05}, content.get());
-  EXPECT_EQ(sink.octets(), Octets{0x05});
-  EXPECT_EQ(to_integer(quarn_asn1_any_contenttoobject, v.get()), Codes{0x10109});
-  EXPECT_EQ(to_integer(quarn_asn1_any_toobject, v.get()), (Codes{0x10109, 0x10235}));
-  EXPECT_EQ(quarn_asn1_encode_any(content.get(), v.get(), nullptr, nullptr), 0);
-}
-
-TEST(Any, a_content_stream_must_be_another_than_the_input) {
-  const Stream s = growable();
-  const Context ctx(quarn_err_ctx_new());
-  EXPECT_EQ(quarn_stream_writen(s.get(), "\x04\x01\x41", 3, nullptr), 1);
-  quarn_asn1_any *v = nullptr;
-  EXPECT_EQ(quarn_asn1_decode_any_ex(s.get(), s.get(), &v, nullptr, ctx.get()), 0);
-  EXPECT_EQ(quarn_asn1_decode_any_ex(s.get(), nullptr, &v, nullptr, ctx.get()), 0);
-  EXPECT_EQ(quarn_asn1_decode_any(s.get(), nullptr, nullptr, ctx.get()), 0);
-  EXPECT_EQ(quarn_asn1_decode_any(nullptr, &v, nullptr, ctx.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10002, 0x10002, 0x10002, 0x10002, 0x102e5}));
-  EXPECT_EQ(v, nullptr);
-}
-
 // Conversions.
 
-TEST(Any, converts_as_a_whole) {
-  EXPECT_EQ(to_integer(quarn_asn1_any_toobject, any_of({0x02, 0x01, 0x05}).get()), Codes{});
-  EXPECT_EQ(to_integer(quarn_asn1_any_toobject, any_of({0x04, 0x01, 0x05}).get()),
-            (Codes{0x1020a, 0x10210}));
+TEST(Any, converts_as_a_whole_under_another_tag_and_from_within) {
+  const struct {
+    Convert convert;
+    Octets octets;
+    Codes codes;
+  } cases[] = {
+      {quarn_asn1_any_toobject, {0x02, 1, 5}, {}},
+      {quarn_asn1_any_toobject, {0x04, 1, 5}, {0x1020a, 0x10210}},
+      {quarn_asn1_any_contenttoobject, {0x81, 1, 5}, {}},
+      {quarn_asn1_any_contenttoobject, {0x81, 0}, {0x10203, 0x10210}},
+      {quarn_asn1_any_contenttoobject, {0xA1, 2, 5, 0}, {0x1026a, 0x10210}},
+      {quarn_asn1_any_getobject, {0xA1, 3, 2, 1, 5}, {}},
+      {quarn_asn1_any_getobject, {0xA1, 0x80, 2, 1, 5, 0, 0}, {}},
+      {quarn_asn1_any_getobject, {0xA1, 2, 5, 0}, {0x1020a, 0x10210}},
+      {quarn_asn1_any_getobject, {0xA1, 5, 2, 1, 5, 5, 0}, {0x1027f}},
+      {quarn_asn1_any_getobject, {0xA1, 0x80, 2, 1, 5, 5, 0, 0, 0}, {0x10205}},
+  };
+  for (const auto &[convert, octets, codes] : cases) {
+    EXPECT_EQ(to_integer(convert, any_of(octets).get()), codes) << ::testing::PrintToString(octets);
+  }
   const Any trailing = new_any(0x80, 1, -1, {0x00, 0x00, 0x00, 0x00});
   const Context ctx(quarn_err_ctx_new());
   void *value = nullptr;
   EXPECT_EQ(quarn_asn1_any_toobject(trailing.get(), QUARN_ASN1_ANY, &value, ctx.get()), 0);
   EXPECT_EQ(quarn_asn1_any_toobject(trailing.get(), 420, &value, ctx.get()), 0);
-  EXPECT_EQ(quarn_asn1_any_toobject(nullptr, QUARN_ASN1_ANY, &value, ctx.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x1027f, 0x1026b, 0x1026b, 0x10002}));
-}
-
-TEST(Any, converts_its_content_under_another_tag) {
-  const auto convert = [](const Octets &octets) {
-    return to_integer(quarn_asn1_any_contenttoobject, any_of(octets).get());
-  };
-  EXPECT_EQ(convert({0x81, 0x01, 0x05}), Codes{});
-  EXPECT_EQ(convert({0x81, 0x00}), (Codes{0x10203, 0x10210}));
-  EXPECT_EQ(convert({0xA1, 0x02, 0x05, 0x00}), (Codes{0x1026a, 0x10210}));
-  EXPECT_EQ(to_integer(quarn_asn1_any_contenttoobject, new_any(0x80, 1, 3, {0x05}).get()),
-            (Codes{0x1026a, 0x10210}));
-}
-
-TEST(Any, converts_its_content_as_an_element) {
-  const auto convert = [](const Octets &octets) {
-    return to_integer(quarn_asn1_any_getobject, any_of(octets).get());
-  };
-  EXPECT_EQ(convert({0xA1, 0x03, 0x02, 0x01, 0x05}), Codes{});
-  EXPECT_EQ(convert({0xA1, 0x80, 0x02, 0x01, 0x05, 0x00, 0x00}), Codes{});
-  EXPECT_EQ(convert({0xA1, 0x02, 0x05, 0x00}), (Codes{0x1020a, 0x10210}));
-  EXPECT_EQ(convert({0xA1, 0x05, 0x02, 0x01, 0x05, 0x05, 0x00}), Codes{0x1027f});
-  EXPECT_EQ(convert({0xA1, 0x80, 0x02, 0x01, 0x05, 0x05, 0x00, 0x00, 0x00}), Codes{0x10205})
-      << "an element where the end-of-contents must be";
+  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x1027f, 0x1026b, 0x1026b}));
 }
 
 TEST(Any, values_become_elements_and_copies) {
   quarn_asn1_integer *five = quarn_asn1_integer_value(5);
   const Any v(quarn_asn1_objecttoany(QUARN_ASN1_INTEGER, five));
-  ASSERT_NE(v, nullptr);
-  EXPECT_EQ(encoding_of(v.get()), (Octets{0x02, 0x01, 0x05}));
-  void *copy = quarn_asn1_dupobject(QUARN_ASN1_INTEGER, five, nullptr);
-  EXPECT_EQ(quarn_asn1_integer_equals(five, static_cast<quarn_asn1_integer *>(copy)), 1);
-  quarn_asn1_value_free(QUARN_ASN1_INTEGER, copy);
   quarn_asn1_value_free(QUARN_ASN1_INTEGER, five);
-
+  EXPECT_EQ(encoding_of(QUARN_ASN1_ANY, v.get()), (Octets{0x02, 0x01, 0x05}));
   const Any trailing = new_any(0x80, 1, -1, {0x00, 0x00, 0x00, 0x00});
   const Any wrong = new_any(0x80, 1, 1, {});
   const Context ctx(quarn_err_ctx_new());
   EXPECT_EQ(quarn_asn1_objecttoany(QUARN_ASN1_ANY, trailing.get()), nullptr);
   EXPECT_EQ(quarn_asn1_dupobject(QUARN_ASN1_ANY, trailing.get(), ctx.get()), nullptr);
   EXPECT_EQ(quarn_asn1_dupobject(QUARN_ASN1_ANY, wrong.get(), ctx.get()), nullptr);
-  EXPECT_EQ(quarn_asn1_dupobject(-1, wrong.get(), ctx.get()), nullptr);
-  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x1027f, 0x10235, 0x10235, 0x1026b, 0x1026b}));
+  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x1027f, 0x10235, 0x10235}));
 }
 
 TEST(Any, strings_of_both_forms_are_read) {
@@ -281,79 +202,43 @@ TEST(Any, single_elements_are_copied_from_streams) {
   SlowSource source(octets);
   const Stream in = source.stream();
   const Stream out = growable();
-  const Context ctx(quarn_err_ctx_new());
   EXPECT_EQ(quarn_asn1_readobjecttostream(in.get(), out.get(), nullptr), 1);
-  EXPECT_EQ(held_by(out.get()), (Octets{0x04, 0x01, 0x41}));
   EXPECT_EQ(quarn_asn1_readobjecttostream(out.get(), out.get(), nullptr), 1) << "onto its own end";
-  EXPECT_EQ(held_by(out.get()), (Octets{0x04, 0x01, 0x41}));
+  EXPECT_EQ(held_by(out), (Octets{0x04, 0x01, 0x41}));
   std::uint8_t *element = nullptr;
   std::uint64_t count = 0;
   EXPECT_EQ(quarn_asn1_readoneobject(in.get(), &element, &count, nullptr), 1);
   EXPECT_EQ(Octets(element, element + count), (Octets{0x30, 0x80, 0x00, 0x00}));
   quarn_free(element);
+  const Context ctx(quarn_err_ctx_new());
   EXPECT_EQ(quarn_asn1_readoneobject(in.get(), &element, &count, ctx.get()), 0);
   EXPECT_EQ(element, nullptr);
-  const Stream readonly = memory_stream(octets);
-  EXPECT_EQ(quarn_asn1_readobjecttostream(out.get(), readonly.get(), ctx.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10201, 0x10104, 0x10235}));
+  EXPECT_EQ(codes_in(ctx.get()), Codes{0x10201});
 }
 
 // Memory.
-
-TEST(Any, is_one_block) {
-  Allocation allocation;
-  const Octets octets{0x30, 0x80, 0x02, 0x01, 0x05, 0x00, 0x00};
-  const Stream s = memory_stream(octets);
-  allocation.reset_count();
-  quarn_asn1_any *v = nullptr;
-  EXPECT_EQ(quarn_asn1_decode_any(s.get(), &v, nullptr, nullptr), 1);
-  EXPECT_EQ(allocation.count(), 1u);
-  EXPECT_LE(sizeof *v, 32u);
-  quarn_asn1_any_free(v);
-}
-
-TEST(Any, a_claimed_length_costs_no_memory_in_a_callers_stream_either) {
-  const Octets octets{0x04, 0x88, 0x40, 0, 0, 0, 0, 0, 0, 0, 0x41, 0x42};
-  Allocation allocation;
-  SlowSource source(octets);
-  const Stream content = growable();
-  quarn_asn1_any *v = nullptr;
-  EXPECT_EQ(quarn_asn1_decode_any_ex(source.stream().get(), content.get(), &v, nullptr, nullptr),
-            0);
-  EXPECT_EQ(quarn_asn1_readoneobject(SlowSource(octets).stream().get(), nullptr, nullptr, nullptr),
-            0);
-  EXPECT_LT(allocation.peak_octets(), 64u * 1024);
-}
 
 TEST(Any, every_failed_allocation_is_an_error_and_no_leak) {
   const Octets octets{0xA1, 0x03, 0x02, 0x01, 0x05};
   fail_each_allocation([&octets](Allocation &allocation) {
     const auto fails = [&allocation](bool failed) { EXPECT_TRUE(!failed || allocation.failed()); };
     const Stream content = growable();
-    SlowSource source(octets);
-    const Stream in = source.stream();
-    quarn_asn1_any *decoded = nullptr;
-    fails(quarn_asn1_decode_any_ex(in.get(), content.get(), &decoded, nullptr, nullptr) != 1);
-    const Any borrowed(decoded);
-    const Any built = new_any(0x80, 1, 3, {0x02, 0x01, 0x05});
-    fails(built == nullptr);
-    for (quarn_asn1_any *v : {borrowed.get(), built.get()}) {
-      void *value = nullptr;
-      fails(quarn_asn1_any_getobject(v, QUARN_ASN1_INTEGER, &value, nullptr) != 1);
-      quarn_asn1_value_free(QUARN_ASN1_INTEGER, value);
-      fails(quarn_asn1_any_toobject(v, QUARN_ASN1_ANY, &value, nullptr) != 1);
-      fails(value == nullptr);
-      quarn_asn1_value_free(QUARN_ASN1_ANY, value);
-      const Any copy(static_cast<quarn_asn1_any *>(quarn_asn1_dupobject(23, v, nullptr)));
-      fails(copy == nullptr);
-      fails(Any(quarn_asn1_objecttoany(23, v)) == nullptr);
-      std::uint8_t *copied = nullptr;
-      fails(quarn_asn1_any_getcontent(v, &copied, nullptr, nullptr) != 1);
-      quarn_free(copied);
-    }
-    std::uint8_t *element = nullptr;
-    fails(quarn_asn1_readoneobject(memory_stream(octets).get(), &element, nullptr, nullptr) != 1);
-    quarn_free(element);
+    quarn_asn1_any *v = nullptr;
+    fails(quarn_asn1_decode_any_ex(memory_stream(octets).get(), content.get(), &v, nullptr,
+                                   nullptr) != 1);
+    const Any borrowed(v);
+    fails(new_any(0x80, 1, 3, {0x02, 0x01, 0x05}) == nullptr);
+    void *value = nullptr;
+    fails(quarn_asn1_any_getobject(v, QUARN_ASN1_INTEGER, &value, nullptr) != 1);
+    quarn_asn1_value_free(QUARN_ASN1_INTEGER, value);
+    fails(quarn_asn1_any_toobject(v, QUARN_ASN1_ANY, &value, nullptr) != 1);
+    quarn_asn1_value_free(QUARN_ASN1_ANY, value);
+    fails(Any(quarn_asn1_objecttoany(QUARN_ASN1_ANY, v)) == nullptr);
+    std::uint8_t *copied = nullptr;
+    fails(quarn_asn1_any_getcontent(v, &copied, nullptr, nullptr) != 1);
+    quarn_free(copied);
+    fails(quarn_asn1_readoneobject(memory_stream(octets).get(), &copied, nullptr, nullptr) != 1);
+    quarn_free(copied);
   });
 }
 

@@ -20,71 +20,44 @@ TEST(Dispatch, an_id_without_a_row_is_refused) {
     EXPECT_EQ(value, &value) << "nothing is touched";
     EXPECT_EQ(quarn_asn1_decode_content(stream.get(), id, &value, 1, 0, nullptr, ctx.get()), 0);
     EXPECT_EQ(quarn_asn1_encode(stream.get(), id, &value, nullptr, ctx.get()), 0);
-    EXPECT_EQ(quarn_asn1_encode_content(stream.get(), id, &value, 0, nullptr, ctx.get()), 0);
     EXPECT_EQ(quarn_asn1_encode_puterr(ctx.get(), id, "UNIT", 1), 1);
-    EXPECT_EQ(codes_in(ctx.get()), std::vector<int>(5, 0x1026b));
+    EXPECT_EQ(codes_in(ctx.get()), std::vector<int>(4, 0x1026b));
     EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 0)->file, "QUARN_ASN1");
-    EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 4)->file, "UNIT");
+    EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 3)->file, "UNIT");
     EXPECT_EQ(quarn_asn1_length(id, nullptr), -2);
-    EXPECT_EQ(quarn_asn1_content_length(id, nullptr), -2);
     quarn_asn1_value_free(id, &value);
   }
 }
 
-// The records of calls with null arguments.
-struct NullArguments {
-  std::int64_t id;
-  Octets element;
-  std::vector<int> decode;          // no stream
-  std::vector<int> decode_content;  // no stream
-  std::vector<int> nowhere;         // the element, and no place for its value
-  std::vector<int> encode;          // no value
-};
-
 TEST(Dispatch, null_arguments_are_told_by_the_layer_that_meets_them) {
   const std::vector<int> argument{0x10002};
   const std::vector<int> header{0x10002, 0x102e5};
-  const NullArguments cases[] = {
-      {QUARN_ASN1_EOC, {0, 1}, argument, {0x1026a}, {0x10205}, {}},
-      {QUARN_ASN1_BOOLEAN, {1, 0}, header, argument, argument, argument},
-      {QUARN_ASN1_BITSTRING, {3, 0}, header, argument, argument, {0x10203}},
-      {4, {4, 0}, {0x10002, 0x102e5, 0x10219}, argument, {0x10002, 0x10219}, {0x10203}},
-      {QUARN_ASN1_NULL, {5, 0}, header, argument, {}, {}},
-      {QUARN_ASN1_OID, {6, 0}, header, argument, argument, argument},
-      {QUARN_ASN1_STRING, {4, 0}, {0x1026d}, argument, {0x1026d}, {0x1026c}},
-      {QUARN_ASN1_UTF8STRING, {12, 0}, argument, argument, argument, {0x102ea}},
-      {QUARN_ASN1_TIME, {23, 0}, argument, {0x1026d}, argument, argument},
-      {QUARN_ASN1_GENTIME, {24, 0}, argument, argument, argument, argument},
-      {QUARN_ASN1_ANY, {5, 0}, header, {0x1026d}, argument, argument},
-      {QUARN_ASN1_ANYLIST, {0x30, 0}, header, argument, argument, argument},
+  const struct {
+    std::int64_t id;
+    std::vector<int> decode;  // without a stream
+    std::vector<int> encode;  // without a value
+  } cases[] = {
+      {QUARN_ASN1_EOC, argument, {}},
+      {QUARN_ASN1_BOOLEAN, header, argument},
+      {QUARN_ASN1_BITSTRING, header, {0x10203}},
+      {QUARN_ASN1_OCTETSTRING, {0x10002, 0x102e5, 0x10219}, {0x10203}},
+      {QUARN_ASN1_NULL, header, {}},
+      {QUARN_ASN1_STRING, {0x1026d}, {0x1026c}},
+      {QUARN_ASN1_UTF8STRING, argument, {0x102ea}},
+      {QUARN_ASN1_TIME, argument, argument},
+      {QUARN_ASN1_ANYLIST, header, argument},
   };
-  const auto codes = [](auto call) {
-    const Context ctx(quarn_err_ctx_new());
-    const bool ok = call(ctx.get()) == 1;
-    EXPECT_EQ(ok, quarn_err_ctx_count(ctx.get()) == 0);
-    return codes_in(ctx.get());
-  };
-  for (const auto &[id, element, decode, decode_content, nowhere, encode] : cases) {
+  for (const auto &[id, decode, encode] : cases) {
     SCOPED_TRACE(id);
-    const Stream in = memory_stream(element);
+    const Context decoding(quarn_err_ctx_new());
+    const Context encoding(quarn_err_ctx_new());
     const Stream out(quarn_stream_new_mem(0, nullptr));
-    const auto type = id;
-    void *value = &value;
-    void *content = &value;
-    const auto decoded =
-        codes([&](auto *ctx) { return quarn_asn1_decode(nullptr, type, &value, nullptr, ctx); });
-    const auto content_decoded = codes([&](auto *ctx) {
-      return quarn_asn1_decode_content(nullptr, type, &content, 0, -1, nullptr, ctx);
-    });
-    EXPECT_EQ(decoded, decode);
-    EXPECT_EQ(content_decoded, decode_content);
-    EXPECT_EQ(value == nullptr && content == nullptr, type != QUARN_ASN1_EOC);
-    EXPECT_EQ(
-        codes([&](auto *ctx) { return quarn_asn1_decode(in.get(), type, nullptr, nullptr, ctx); }),
-        nowhere);
-    EXPECT_EQ(
-        codes([&](auto *ctx) { return quarn_asn1_encode(out.get(), type, nullptr, nullptr, ctx); }),
-        encode);
+    void *value = nullptr;
+    EXPECT_NE(quarn_asn1_decode(nullptr, id, &value, nullptr, decoding.get()), 1);
+    EXPECT_EQ(quarn_asn1_encode(out.get(), id, nullptr, nullptr, encoding.get()) == 1,
+              encode.empty());
+    EXPECT_EQ(codes_in(decoding.get()), decode);
+    EXPECT_EQ(codes_in(encoding.get()), encode);
   }
 }
 
@@ -170,7 +143,6 @@ TEST(Dispatch, types_are_found_by_name_and_described) {
     EXPECT_EQ(quarn_asn1_type_find(description.name), id) << "names are distinct";
   }
   EXPECT_EQ(quarn_asn1_type_find("no such type"), -1);
-  EXPECT_EQ(quarn_asn1_type_find(nullptr), -1);
 }
 
 TEST(Dispatch, whole_lengths_are_sums_that_do_not_wrap) {
@@ -178,8 +150,6 @@ TEST(Dispatch, whole_lengths_are_sums_that_do_not_wrap) {
   EXPECT_EQ(element_length(16, 200), 203);
   EXPECT_EQ(element_length(16, -1), -1);
   EXPECT_EQ(element_length(16, -2), -2);
-  EXPECT_EQ(element_length(16, -3), -2);
-  EXPECT_EQ(element_length(16, INT64_MAX), -1) << "too large for a count";
   EXPECT_EQ(element_length(16, INT64_MAX - 10), INT64_MAX);
   EXPECT_EQ(element_length(16, INT64_MAX - 9), -1);
   EXPECT_EQ(element_length(UINT64_MAX, 0), -2) << "no such tag number";

@@ -4,15 +4,11 @@
 #include <algorithm>
 #include <numeric>
 
-#include "quarn_asn1.h"
 #include "tests/support/allocation.h"
-#include "tests/support/streams.h"
+#include "tests/unit/values.h"
 
 namespace quarn::test {
 namespace {
-
-using Octets = std::vector<std::uint8_t>;
-using Codes = std::vector<int>;
 
 struct FreeAnylist {
   void operator()(quarn_asn1_list *l) const { quarn_asn1_anylist_free(l); }
@@ -50,25 +46,11 @@ std::vector<void *> elements_of(const AnyList &list) {
   return elements;
 }
 
-Octets encoding_of(void *any) {
-  quarn_data_blob *blob = quarn_asn1_mem_encode(QUARN_ASN1_ANY, any);
-  const Octets octets(blob->data, blob->data + blob->length);
-  quarn_data_blob_free(blob);
-  return octets;
-}
-
-Octets held_by(const Stream &s) {
-  const std::uint8_t *octets = nullptr;
-  std::uint64_t count = 0;
-  EXPECT_EQ(quarn_memstream_peek(s.get(), &octets, &count), 1);
-  return Octets(octets, octets + count);
-}
-
 TEST(List, keeps_its_order_as_it_grows) {
   const AnyList list = list_of(33);
-  EXPECT_EQ(quarn_asn1_list_getsize(list.get()), 33);
   for (int i = 0; i < 33; i++) {
-    EXPECT_EQ(encoding_of(at(list, i)), (Octets{0x04, 0x02, 0x00, static_cast<std::uint8_t>(i)}));
+    EXPECT_EQ(encoding_of(QUARN_ASN1_ANY, at(list, i)),
+              (Octets{0x04, 0x02, 0x00, static_cast<std::uint8_t>(i)}));
   }
   EXPECT_EQ(quarn_asn1_anylist_length(list.get()), 33 * 4);
 }
@@ -80,12 +62,7 @@ TEST(List, refuses_what_is_not_there) {
     EXPECT_EQ(quarn_asn1_list_get(list.get(), index, &value), 0);
     EXPECT_EQ(quarn_asn1_list_delete(list.get(), index), nullptr);
   }
-  EXPECT_EQ(quarn_asn1_list_get(list.get(), 0, nullptr), 0);
-  EXPECT_EQ(quarn_asn1_list_get(nullptr, 0, &value), 0);
   EXPECT_EQ(quarn_asn1_list_put(list.get(), nullptr), 0);
-  EXPECT_EQ(quarn_asn1_list_put(nullptr, value), 0);
-  EXPECT_EQ(quarn_asn1_list_delete(nullptr, 0), nullptr);
-  EXPECT_EQ(quarn_asn1_list_getsize(nullptr), 0);
   EXPECT_EQ(quarn_asn1_anylist_length(nullptr), -2);
   EXPECT_EQ(quarn_asn1_list_content_length(list.get(), 420), -2);
 }
@@ -93,12 +70,10 @@ TEST(List, refuses_what_is_not_there) {
 TEST(List, hands_over_what_is_deleted) {
   const AnyList list = list_of(3);
   const std::vector<void *> before = elements_of(list);
-  void *first = quarn_asn1_list_delete(list.get(), 0);
-  EXPECT_EQ(first, before[0]);
-  quarn_asn1_value_free(QUARN_ASN1_ANY, first);
-  EXPECT_EQ(elements_of(list), (std::vector<void *>{before[1], before[2]}));
-  quarn_asn1_value_free(QUARN_ASN1_ANY, quarn_asn1_list_delete(list.get(), 1));
-  EXPECT_EQ(elements_of(list), std::vector<void *>{before[1]});
+  void *middle = quarn_asn1_list_delete(list.get(), 1);
+  EXPECT_EQ(middle, before[1]);
+  quarn_asn1_value_free(QUARN_ASN1_ANY, middle);
+  EXPECT_EQ(elements_of(list), (std::vector<void *>{before[0], before[2]}));
 }
 
 // Moving the others down each time would take minutes.
@@ -110,11 +85,6 @@ TEST(List, is_emptied_from_the_front_in_no_time_and_fills_again) {
     for (char &element : elements) ASSERT_EQ(quarn_asn1_list_put(list, &element), 1);
     for (char &element : elements) ASSERT_EQ(quarn_asn1_list_delete(list, 0), &element);
     EXPECT_EQ(quarn_asn1_list_getsize(list), 0);
-  }
-  for (char &element : elements) {  // as a queue of two
-    ASSERT_EQ(quarn_asn1_list_put(list, &element), 1);
-    if (&element == elements.data()) continue;
-    ASSERT_EQ(quarn_asn1_list_delete(list, 0), &element - 1);
   }
   quarn_asn1_list_free_ex(list, nullptr);
 }
@@ -128,48 +98,20 @@ TEST(List, lengths_that_are_no_count_are_handed_on) {
     quarn_asn1_list_free_ex(list, [](void * /*value*/) {});
     return total;
   };
-  EXPECT_EQ(sum({}), 0);
   EXPECT_EQ(sum({1, -1, -2}), -1);
   EXPECT_EQ(sum({1, -2, -1}), -2);
-  EXPECT_EQ(sum({-7}), -2);
   EXPECT_EQ(sum({INT64_MAX - 1, 1}), INT64_MAX);
   EXPECT_EQ(sum({INT64_MAX, 1}), -2) << "too large for a count";
 }
 
 // Elements of a type, and by functions.
 
-struct Decoded {
-  int result;
-  std::uint64_t consumed;
-  Codes codes;
-  int size;
-};
-
-// Decodes the content of a list of INTEGERs, under their own tag, by type id or by functions.
-Decoded decode_integers(const Octets &content, std::int64_t length, bool by_functions, bool slow) {
-  static const auto decode = [](quarn_stream *s, void **value, std::int32_t form,
-                                std::int64_t count, std::uint64_t *consumed, quarn_err_ctx *ctx) {
+TEST(List, elements_of_a_type_are_decoded) {
+  const auto decode = [](quarn_stream *s, void **value, std::int32_t form, std::int64_t count,
+                         std::uint64_t *consumed, quarn_err_ctx *ctx) {
     return quarn_asn1_decode_content(s, QUARN_ASN1_INTEGER, value, form, count, consumed, ctx);
   };
-  static const auto release = [](void *value) { quarn_asn1_value_free(QUARN_ASN1_INTEGER, value); };
-  SlowSource source(content);
-  const Stream s = slow ? source.stream() : memory_stream(content);
-  const Context ctx(quarn_err_ctx_new());
-  quarn_asn1_list *list = nullptr;
-  Decoded decoded{0, 0, {}, 0};
-  decoded.result =
-      by_functions ? quarn_asn1_decode_list_content_ex(s.get(), &list, decode, release, 0, length,
-                                                       0, 1, 2, &decoded.consumed, ctx.get())
-                   : quarn_asn1_decode_list_content(s.get(), &list, QUARN_ASN1_INTEGER, 0, length,
-                                                    0, 1, 2, &decoded.consumed, ctx.get());
-  EXPECT_EQ(list != nullptr, decoded.result == 1);
-  decoded.codes = codes_in(ctx.get());
-  decoded.size = quarn_asn1_list_getsize(list);
-  quarn_asn1_list_free(list, QUARN_ASN1_INTEGER);
-  return decoded;
-}
-
-TEST(List, elements_of_a_type_are_decoded) {
+  const auto release = [](void *value) { quarn_asn1_value_free(QUARN_ASN1_INTEGER, value); };
   const struct {
     Octets content;
     std::int64_t length;
@@ -182,31 +124,32 @@ TEST(List, elements_of_a_type_are_decoded) {
       {{0x02, 0x01, 0x05}, 2, 0, {0x1020b}},
       {{0x02, 0x01, 0x05}, -2, 0, {0x10001}},
       {{0x02, 0x01, 0x05}, -1, 0, {0x10103, 0x102e5}},
-      {{0x02}, -1, 0, {0x10103, 0x102e7}},
       {{0x82, 0x01, 0x05}, 3, 0, {0x1020a}},
-      {{0x04, 0x01, 0x05}, 3, 0, {0x1020a}},
-      {{0x22, 0x01, 0x05}, 3, 0, {0x1020a}},
-      {{0x00, 0x00}, 2, 0, {0x1020a}},
-      {{0x20, 0x00}, -1, 0, {0x1020a}},
       {{0x00, 0x01}, -1, 0, {0x10205, 0x102e9}},
       {{0x02, 0x01, 0x05, 0x02, 0x00}, 5, 0, {0x10203, 0x10210}},
   };
-  Allocation allocation;
-  for (const auto &c : cases) {
-    SCOPED_TRACE(::testing::PrintToString(c.content));
+  for (const auto &[content, length, size, codes] : cases) {
+    SCOPED_TRACE(::testing::PrintToString(content));
     for (const bool by_functions : {false, true}) {
-      for (const bool slow : {false, true}) {
-        const Decoded decoded = decode_integers(c.content, c.length, by_functions, slow);
-        Codes codes = c.codes;
-        if (by_functions) std::erase(codes, 0x10210);
-        EXPECT_EQ(decoded.codes, codes);
-        EXPECT_EQ(decoded.result, codes.empty() ? 1 : 0);
-        EXPECT_EQ(decoded.size, c.size);
-        EXPECT_EQ(decoded.consumed, codes.empty() ? c.content.size() : 0);
-      }
+      SlowSource source(content);
+      const Stream s = source.stream();
+      const Context ctx(quarn_err_ctx_new());
+      quarn_asn1_list *list = nullptr;
+      std::uint64_t consumed = 0;
+      const int result =
+          by_functions ? quarn_asn1_decode_list_content_ex(s.get(), &list, decode, release, 0,
+                                                           length, 0, 1, 2, &consumed, ctx.get())
+                       : quarn_asn1_decode_list_content(s.get(), &list, QUARN_ASN1_INTEGER, 0,
+                                                        length, 0, 1, 2, &consumed, ctx.get());
+      Codes expected = codes;
+      if (by_functions) std::erase(expected, 0x10210);
+      EXPECT_EQ(codes_in(ctx.get()), expected);
+      EXPECT_EQ(result, codes.empty() ? 1 : 0);
+      EXPECT_EQ(quarn_asn1_list_getsize(list), size);
+      EXPECT_EQ(consumed, codes.empty() ? content.size() : 0);
+      quarn_asn1_list_free(list, QUARN_ASN1_INTEGER);
     }
   }
-  EXPECT_EQ(allocation.live_blocks(), 0);
 }
 
 int encode_element(quarn_stream *s, void *value, std::uint64_t *written, quarn_err_ctx *ctx) {
@@ -215,7 +158,6 @@ int encode_element(quarn_stream *s, void *value, std::uint64_t *written, quarn_e
 
 TEST(List, elements_are_encoded_in_order) {
   const AnyList list = list_of(2);
-  const Octets octets{0x04, 0x02, 0x00, 0x00, 0x04, 0x02, 0x00, 0x01, 0x00, 0x00};
   const Stream s(quarn_stream_new_mem(0, nullptr));
   std::uint64_t written = 0;
   EXPECT_EQ(
@@ -224,35 +166,10 @@ TEST(List, elements_are_encoded_in_order) {
   EXPECT_EQ(written, 10u);
   EXPECT_EQ(quarn_asn1_encode_anylist_content(s.get(), list.get(), 8, &written, nullptr), 1);
   EXPECT_EQ(written, 8u);
-  Octets twice = octets;
-  twice.insert(twice.end(), octets.begin(), octets.end() - 2);
-  EXPECT_EQ(held_by(s), twice);
-
+  EXPECT_EQ(held_by(s), (Octets{4, 2, 0, 0, 4, 2, 0, 1, 0, 0, 4, 2, 0, 0, 4, 2, 0, 1}));
   const Context ctx(quarn_err_ctx_new());
-  SlowSink sink;
-  sink.fail_after(2);
-  const Stream full = sink.stream();
-  EXPECT_EQ(quarn_asn1_encode_anylist_content(full.get(), list.get(), -1, nullptr, ctx.get()), 0);
-  EXPECT_EQ(quarn_asn1_encode_anylist_content(full.get(), list.get(), -1, nullptr, ctx.get()), 0);
-  EXPECT_EQ(quarn_asn1_encode_anylist_content(full.get(), list.get(), -2, nullptr, ctx.get()), 0);
-  EXPECT_EQ(quarn_asn1_encode_anylist_content(full.get(), nullptr, 0, nullptr, ctx.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10102, 0x102e8, 0x10102, 0x10235, 0x10001, 0x10002}));
-}
-
-TEST(List, null_arguments_are_told_before_an_unknown_element_type) {
-  const Context ctx(quarn_err_ctx_new());
-  const AnyList list = list_of(1);
-  const Stream out(quarn_stream_new_mem(0, nullptr));
-  const auto encode = [&](quarn_stream *s, quarn_asn1_list *l) {
-    return quarn_asn1_encode_list_content(s, l, 420, 2, nullptr, ctx.get());
-  };
-  const auto decode = [&](quarn_stream *s, quarn_asn1_list **l) {
-    return quarn_asn1_decode_list_content(s, l, 420, 0, 2, 0, -1, 5, nullptr, ctx.get());
-  };
-  EXPECT_EQ(encode(nullptr, list.get()) + encode(out.get(), nullptr) + decode(out.get(), nullptr),
-            0);
-  EXPECT_EQ(encode(out.get(), list.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()), (std::vector<int>{0x10002, 0x10002, 0x10002, 0x1026b, 0x1026b}));
+  EXPECT_EQ(quarn_asn1_encode_anylist_content(s.get(), list.get(), -2, nullptr, ctx.get()), 0);
+  EXPECT_EQ(codes_in(ctx.get()), Codes{0x10001});
 }
 
 // Order of a SET OF. The elements are whatever octets an encoder writes.
@@ -307,17 +224,6 @@ TEST(SetOf, any_octets_sort_as_if_padded_with_zeros) {
   EXPECT_TRUE(std::is_permutation(result.begin(), result.end(), encodings.begin()));
 }
 
-TEST(SetOf, elements_of_a_type_are_sorted) {
-  const AnyList list(quarn_asn1_list_new());
-  for (const Octets &content : {Octets{0x01}, Octets{0x00}, Octets{}}) {
-    EXPECT_EQ(quarn_asn1_list_put(list.get(), element(content)), 1);
-  }
-  EXPECT_EQ(quarn_asn1_list_sort_setof(list.get(), QUARN_ASN1_ANY), 1);
-  EXPECT_EQ(encoding_of(at(list, 0)), (Octets{0x04, 0x00}));
-  EXPECT_EQ(encoding_of(at(list, 1)), (Octets{0x04, 0x01, 0x00}));
-  EXPECT_EQ(encoding_of(at(list, 2)), (Octets{0x04, 0x01, 0x01}));
-}
-
 TEST(SetOf, a_failure_leaves_the_list_alone) {
   const AnyList list = list_of(2);
   EXPECT_EQ(quarn_asn1_list_put(list.get(), quarn_asn1_any_new(0, 1, 4, 3, nullptr, 0)), 1);
@@ -325,8 +231,6 @@ TEST(SetOf, a_failure_leaves_the_list_alone) {
   EXPECT_EQ(quarn_asn1_list_sort_setof(list.get(), QUARN_ASN1_ANY), 0) << "cannot be encoded";
   EXPECT_EQ(quarn_asn1_list_sort_setof(list.get(), -1), 0);
   EXPECT_EQ(elements_of(list), before);
-  EXPECT_EQ(quarn_asn1_list_sort_setof(nullptr, QUARN_ASN1_ANY), 0);
-  EXPECT_EQ(quarn_asn1_list_sort_setof(list_of(1).get(), -1), 1);
 }
 
 // Memory and time.
@@ -346,34 +250,6 @@ TEST(List, every_failed_allocation_is_an_error_and_no_leak) {
       EXPECT_EQ(elements_of(list), before);
     }
   });
-}
-
-TEST(List, small_elements_cost_little) {
-  Octets octets{0x30, 0x83, 0x03, 0x0D, 0x40};
-  for (int i = 0; i < 100000; i++) octets.insert(octets.end(), {0x31, 0x00});
-  Allocation allocation;
-  void *value = nullptr;
-  const auto count = static_cast<std::int64_t>(octets.size());
-  EXPECT_EQ(quarn_asn1_mem_decode(octets.data(), count, QUARN_ASN1_ANYLIST, &value), count);
-  EXPECT_LE(allocation.live_octets(), 100000u * 34 + 131072 * 8 + 56);
-  quarn_asn1_value_free(QUARN_ASN1_ANYLIST, value);
-
-  value = nullptr;
-  EXPECT_EQ(quarn_asn1_mem_decode(octets.data() + 5, 2, QUARN_ASN1_ANYSET, &value), 2);
-  EXPECT_LE(allocation.live_octets(), 24u) << "an empty list has no room for elements";
-  quarn_asn1_value_free(QUARN_ASN1_ANYSET, value);
-}
-
-TEST(SetOf, a_million_equal_elements_take_no_quadratic_time) {
-  Octets octets{0x05, 0x00};
-  Allocation allocation;
-  quarn_asn1_list *list = quarn_asn1_list_new();
-  for (int i = 0; i < 1000000; i++) ASSERT_EQ(quarn_asn1_list_put(list, &octets), 1);
-  const std::size_t before = allocation.live_octets();
-  allocation.reset_peak();
-  EXPECT_EQ(quarn_asn1_list_sort_setof_ex(list, write_octets), 1);
-  EXPECT_LE(allocation.peak_octets() - before, 1000000u * 32);
-  quarn_asn1_list_free_ex(list, [](void * /*value*/) {});
 }
 
 }  // namespace
