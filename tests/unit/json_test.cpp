@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "tests/support/allocation.h"
-#include "tests/support/streams.h"
 #include "tests/support/json.h"
+#include "tests/support/streams.h"
 
 namespace quarn::test {
 namespace {
