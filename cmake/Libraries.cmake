@@ -11,9 +11,9 @@ file(GLOB QUARN_ASN1_SOURCES CONFIGURE_DEPENDS
      ${PROJECT_SOURCE_DIR}/json/*.cpp ${PROJECT_SOURCE_DIR}/stream/*.cpp
      ${PROJECT_SOURCE_DIR}/modules/*.cpp)
 
-# quarn_add_library(NAME output name, SOURCES ..., VERSION full, SOVERSION n, MAP version script)
+# quarn_add_library(name SOURCES ... VERSION full SOVERSION n MAP version-script OPTIONS ...)
 function(quarn_add_library name)
-  cmake_parse_arguments(ARG "" "VERSION;SOVERSION;MAP" "SOURCES;OPTIONS;LINK" ${ARGN})
+  cmake_parse_arguments(ARG "" "VERSION;SOVERSION;MAP" "SOURCES;OPTIONS" ${ARGN})
   add_library(${name}_objects OBJECT ${ARG_SOURCES})
   target_include_directories(${name}_objects PUBLIC ${PROJECT_SOURCE_DIR}/include
                              PRIVATE ${PROJECT_SOURCE_DIR})
