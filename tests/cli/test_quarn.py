@@ -5,6 +5,7 @@ Environment: QUARN is the command; QUARN_COMPLETION and QUARN_MAN are what was m
 options, tested when they are set. Certificates come from the openssl command where there is one.
 """
 
+import base64
 import json
 import os
 import pathlib
@@ -128,6 +129,11 @@ class Input(Case):
                     run = Run("json", "--compact", *arguments, data=text)
                     self.check(run, 0)
                     self.assertEqual(json.loads(run.out)["value"], [{"type": "INTEGER", "value": 5}])
+
+    def test_text_that_happens_to_be_well_formed_is_text(self):
+        for text in (base64.b64encode(b"\x04\x59" + b"c" * 89), b"0432" + b"A0" * 50):
+            self.assertEqual(Run("dump", "--in-form=der", data=text).code, 0, text)
+            self.assertEqual(json.loads(Run("json", data=text).out)["type"], "OCTETSTRING")
 
     def test_der_that_holds_a_pem_block_is_der(self):
         text = b"\n-----BEGIN X-----\nMAMCAQU=\n-----END X-----\n"
