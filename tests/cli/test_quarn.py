@@ -66,7 +66,7 @@ class CommandLine(Case):
         self.assertRegex(run.lines[0], r"^quarn \d+\.\d+\.\d+$")
         self.assertRegex(run.lines[2], r"^libquarn_util \d")
         self.assertEqual(Run("json", "--help").out, Run("help", "json").out)
-        for command in ("json", "der", "dump", "types", "error", "help"):
+        for command in ("json", "der", "dump", "check", "convert", "types", "error", "help"):
             self.assertIn(f"  {command} ", Run("--help").out)
             self.check(Run(command, "-h"), 0)
 
@@ -108,13 +108,14 @@ class CommandLine(Case):
         self.assertEqual(complete("quarn", "d"), ["der", "dump"])
         self.assertEqual(complete("quarn", "json", "--co"), ["--compact", "--color"])
         self.assertEqual(complete("quarn", "json", "--in-form", "d"), ["der"])
+        self.assertEqual(complete("quarn", "convert", "--to", "h"), ["hex"])
 
     @unittest.skipUnless("QUARN_MAN" in os.environ and shutil.which("man"), "no man page to test")
     def test_man_page_has_no_warnings_and_every_option(self):
         done = subprocess.run(["man", "--warnings", "-E", "UTF-8", "-l", os.environ["QUARN_MAN"]],
                               capture_output=True, check=True, env={**ENVIRONMENT, "MANWIDTH": "100"})
         self.assertEqual(done.stderr, b"")
-        for option in ("--in-form", "--recursive", "--lines", "--no-dig", "--pem", "EXIT STATUS"):
+        for option in ("--in-form", "--recursive", "--lines", "--no-dig", "--pem", "--label", "EXIT STATUS"):
             self.assertIn(option, done.stdout.decode())
 
 
