@@ -112,6 +112,13 @@ constexpr Field field(const char *name, quarn_asn1_type_id type, Notes... notes)
   return made;
 }
 
+constexpr std::uint8_t at_least(std::uint8_t elements) {
+  return elements;
+}
+constexpr std::uint8_t numbered_from(std::uint8_t first) {
+  return first;
+}
+
 constexpr Schema record(const char *name, Unit unit, std::span<const Field> fields) {
   return {name, unit, fields, Kind::record, 0};
 }
