@@ -104,18 +104,6 @@ QUARN_ASN1_API uint64_t quarn_disptext_gettype(const quarn_disptext *value);
 /** Its content. */
 QUARN_ASN1_API quarn_asn1_octetstring *quarn_disptext_getstring(const quarn_disptext *value);
 
-/* ---- Name */
-
-/**
- * The name of an entry of the directory.
- *
- *     Name ::= SEQUENCE OF RelativeDistinguishedName
- *
- * Type id QUARN_ASN1_X500NAME (32). A quarn_asn1_list of quarn_asn1_list.
- */
-/** As quarn_asn1_value_free() under QUARN_ASN1_X500NAME. */
-QUARN_ASN1_API void quarn_x500Name_free(quarn_asn1_list *value);
-
 /* ---- PostalAddress */
 
 /**
@@ -123,9 +111,9 @@ QUARN_ASN1_API void quarn_x500Name_free(quarn_asn1_list *value);
  *
  *     PostalAddress ::= SEQUENCE OF line DirectoryString
  *
- * Type id QUARN_ASN1_X500POSTALADDRESS (49). A quarn_asn1_list of quarn_x500dirstring.
+ * Type id QUARN_ASN1_X500POSTALADDRESS (49). A quarn_asn1_list of DirectoryString
+ * (quarn_x500dirstring).
  */
-/** As quarn_asn1_value_free() under QUARN_ASN1_X500POSTALADDRESS. */
 QUARN_ASN1_API void quarn_x500postaladdress_free(quarn_asn1_list *value);
 
 /* ---- Context */
@@ -162,9 +150,8 @@ QUARN_ASN1_API quarn_asn1_boolean *quarn_x500context_getfallback(const quarn_x50
  *
  *     ContextList ::= SET OF Context
  *
- * Type id QUARN_ASN1_X500CONTEXTLIST (141). A quarn_asn1_list of quarn_x500context.
+ * Type id QUARN_ASN1_X500CONTEXTLIST (141). A quarn_asn1_list of Context (quarn_x500context).
  */
-/** As quarn_asn1_value_free() under QUARN_ASN1_X500CONTEXTLIST. */
 QUARN_ASN1_API void quarn_x500contextlist_free(quarn_asn1_list *value);
 
 /* ---- DNValueWithContextItem */
@@ -200,10 +187,9 @@ QUARN_ASN1_API quarn_asn1_list *quarn_x500dnvalueswithcontextitem_getcontexts(
  *
  *     DNValuesWithContext ::= SET OF DNValueWithContextItem
  *
- * Type id QUARN_ASN1_X500DNVALUESWITHCONTEXT (142). A quarn_asn1_list of
- * quarn_x500dnvalueswithcontextitem.
+ * Type id QUARN_ASN1_X500DNVALUESWITHCONTEXT (142). A quarn_asn1_list of DNValueWithContextItem
+ * (quarn_x500dnvalueswithcontextitem).
  */
-/** As quarn_asn1_value_free() under QUARN_ASN1_X500DNVALUESWITHCONTEXT. */
 QUARN_ASN1_API void quarn_x500dnvalueswithcontext_free(quarn_asn1_list *value);
 
 /* ---- AttributeTypeAndDistinguishedValue */
@@ -245,10 +231,22 @@ QUARN_ASN1_API quarn_asn1_list *quarn_x500attrtypedistval_getcontext(
  *
  *     RelativeDistinguishedName ::= SET OF AttributeTypeAndDistinguishedValue
  *
- * Type id QUARN_ASN1_X500RDN (31). A quarn_asn1_list of quarn_x500attrtypedistval.
+ * Type id QUARN_ASN1_X500RDN (31). A quarn_asn1_list of AttributeTypeAndDistinguishedValue
+ * (quarn_x500attrtypedistval).
  */
-/** As quarn_asn1_value_free() under QUARN_ASN1_X500RDN. */
 QUARN_ASN1_API void quarn_x500RDN_free(quarn_asn1_list *value);
+
+/* ---- Name */
+
+/**
+ * The name of an entry of the directory.
+ *
+ *     Name ::= SEQUENCE OF RelativeDistinguishedName
+ *
+ * Type id QUARN_ASN1_X500NAME (32). A quarn_asn1_list of RelativeDistinguishedName
+ * (quarn_asn1_list).
+ */
+QUARN_ASN1_API void quarn_x500Name_free(quarn_asn1_list *value);
 
 #ifdef __cplusplus
 }

@@ -123,18 +123,6 @@ QUARN_ASN1_API quarn_asn1_boolean *quarn_x509extension_getcritical(
 QUARN_ASN1_API quarn_asn1_octetstring *quarn_x509extension_getextnvalue(
     const quarn_x509extension *value);
 
-/* ---- NoticeNumbers */
-
-/**
- * Numbers of notices.
- *
- *     NoticeNumbers ::= SEQUENCE OF noticeNumber INTEGER
- *
- * Type id QUARN_ASN1_PKIXNOTICENUMBERS (138). A quarn_asn1_list of quarn_asn1_integer.
- */
-/** As quarn_asn1_value_free() under QUARN_ASN1_PKIXNOTICENUMBERS. */
-QUARN_ASN1_API void quarn_pkixnoticenumbers_free(quarn_asn1_list *value);
-
 /* ---- Extensions */
 
 /**
@@ -142,9 +130,8 @@ QUARN_ASN1_API void quarn_pkixnoticenumbers_free(quarn_asn1_list *value);
  *
  *     Extensions ::= SEQUENCE OF Extension
  *
- * Type id QUARN_ASN1_X509EXTENSIONS (37). A quarn_asn1_list of quarn_x509extension.
+ * Type id QUARN_ASN1_X509EXTENSIONS (37). A quarn_asn1_list of Extension (quarn_x509extension).
  */
-/** As quarn_asn1_value_free() under QUARN_ASN1_X509EXTENSIONS. */
 QUARN_ASN1_API void quarn_x509Extensions_free(quarn_asn1_list *value);
 
 /* ---- DigestInfo */
@@ -309,9 +296,9 @@ QUARN_ASN1_API quarn_asn1_oid *quarn_x509generalname_getregid(const quarn_x509ge
  *
  *     GeneralNames ::= SEQUENCE OF GeneralName
  *
- * Type id QUARN_ASN1_X509GENERALNAMES (64). A quarn_asn1_list of quarn_x509generalname.
+ * Type id QUARN_ASN1_X509GENERALNAMES (64). A quarn_asn1_list of GeneralName
+ * (quarn_x509generalname).
  */
-/** As quarn_asn1_value_free() under QUARN_ASN1_X509GENERALNAMES. */
 QUARN_ASN1_API void quarn_x509generalnames_free(quarn_asn1_list *value);
 
 /* ---- AuthorityKeyIdentifier */
@@ -359,9 +346,8 @@ QUARN_ASN1_API quarn_asn1_integer *quarn_x509akid_getauthoritycertserialnumber(
  *
  *     ExtKeyUsageSyntax ::= SEQUENCE OF keyPurposeId OBJECT IDENTIFIER
  *
- * Type id QUARN_ASN1_X509EXKEYUSAGE (66). A quarn_asn1_list of quarn_asn1_oid.
+ * Type id QUARN_ASN1_X509EXKEYUSAGE (66). A quarn_asn1_list of OBJECT IDENTIFIER (quarn_asn1_oid).
  */
-/** As quarn_asn1_value_free() under QUARN_ASN1_X509EXKEYUSAGE. */
 QUARN_ASN1_API void quarn_x509exkeyusage_free(quarn_asn1_list *value);
 
 /* ---- PrivateKeyUsagePeriod */
@@ -411,7 +397,7 @@ typedef struct quarn_x509basicconstraints quarn_x509basicconstraints;
 /** As quarn_asn1_value_free() under QUARN_ASN1_X509BASICCONSTRAINTS. */
 QUARN_ASN1_API void quarn_x509basicconstraints_free(quarn_x509basicconstraints *value);
 /**
- * From its components. Null leaves out path_len_constraint. Null stands for the default of ca
+ * From its components. Null leaves out path_len_constraint, and stands for the default of ca
  * (FALSE).
  */
 QUARN_ASN1_API quarn_x509basicconstraints *quarn_x509basicconstraints_new(
@@ -442,7 +428,7 @@ QUARN_ASN1_API quarn_asn1_integer *quarn_x509basicconstraints_getpathlenconstrai
 typedef struct quarn_x509generaltree quarn_x509generaltree;
 /** As quarn_asn1_value_free() under QUARN_ASN1_X509GENERALTREE. */
 QUARN_ASN1_API void quarn_x509generaltree_free(quarn_x509generaltree *value);
-/** From its components. Null leaves out maximum. Null stands for the default of minimum (0). */
+/** From its components. Null leaves out maximum, and stands for the default of minimum (0). */
 QUARN_ASN1_API quarn_x509generaltree *quarn_x509generaltree_new(const quarn_x509generalname *base,
                                                                 const quarn_asn1_integer *minimum,
                                                                 const quarn_asn1_integer *maximum);
@@ -529,9 +515,8 @@ QUARN_ASN1_API quarn_asn1_list *quarn_x509distpoint_getcrlissuer(const quarn_x50
  *
  *     CRLDistributionPoints ::= SEQUENCE OF DistributionPoint
  *
- * Type id QUARN_ASN1_X509CRLDP (85). A quarn_asn1_list of quarn_x509distpoint.
+ * Type id QUARN_ASN1_X509CRLDP (85). A quarn_asn1_list of DistributionPoint (quarn_x509distpoint).
  */
-/** As quarn_asn1_value_free() under QUARN_ASN1_X509CRLDP. */
 QUARN_ASN1_API void quarn_x509crldp_free(quarn_asn1_list *value);
 
 /* ---- TypeOfBiometricData */
@@ -596,6 +581,17 @@ QUARN_ASN1_API int quarn_x509revokedcert_hascrlentryextensions(const quarn_x509r
 /** crlEntryExtensions, null when it is absent. */
 QUARN_ASN1_API quarn_asn1_list *quarn_x509revokedcert_getcrlentryextensions(
     const quarn_x509revokedcert *value);
+
+/* ---- NoticeNumbers */
+
+/**
+ * Numbers of notices.
+ *
+ *     NoticeNumbers ::= SEQUENCE OF noticeNumber INTEGER
+ *
+ * Type id QUARN_ASN1_PKIXNOTICENUMBERS (138). A quarn_asn1_list of INTEGER (quarn_asn1_integer).
+ */
+QUARN_ASN1_API void quarn_pkixnoticenumbers_free(quarn_asn1_list *value);
 
 /* ---- NoticeReference */
 

@@ -51,8 +51,9 @@ def section(definition):
         owner = definition.owner.struct
         text += f"typedef struct {owner} {definition.struct};\n"
     for function in functions_of(definition):
-        single = len(function.text) == 1
-        text += (comment(function.text[0]) if single else block(function.text)) + "\n"
+        # The text of a list, which has no struct, goes before its free function.
+        if not text.endswith("*/\n"):
+            text += (comment(function.text[0]) if len(function.text) == 1 else block(function.text)) + "\n"
         text += declaration(f"QUARN_ASN1_API {function.result}{function.name}(", function.parameters, ");") + "\n"
     return text
 
@@ -67,7 +68,7 @@ def identity(definition):
     text = ("Type ids " if len(names) > 1 else "Type id ") + ", ".join(names) + "."
     if definition.struct == "quarn_asn1_list":
         element = definition.fields[0]
-        text += f" A quarn_asn1_list of {element.c_type}."
+        text += f" A quarn_asn1_list of {element.type.name} ({element.c_type})."
     if definition.owner is not definition:
         text += f" Freed with quarn_{definition.row.stem}_free()."
     return text
@@ -86,7 +87,8 @@ def structs(definition):
 
 def in_order(module):
     """Each definition after those whose structs it names."""
-    makers = {definition.struct: definition for definition in module.definitions}
+    makers = {definition.struct: definition for definition in module.definitions
+              if definition.struct != "quarn_asn1_list"}
     done, open_ones = [], []
 
     def place(definition):

@@ -74,13 +74,11 @@ def record_constructor(definition, variant):
     names = [parameter_name(component) for component in definition.fields]
     parameters = [f"const {component.c_type} *{name}" for component, name in zip(definition.fields, names)]
     absent = [name for component, name in zip(definition.fields, names) if component.presence == "optional"]
-    defaults = [f"{name} ({component.default_text})" for component, name in zip(definition.fields, names)
-                if component.presence == "default"]
-    text = "From its components."
-    if absent:
-        text += f" Null leaves out {enumeration(absent)}."
-    if defaults:
-        text += f" Null stands for the default of {enumeration(defaults)}."
+    defaults = [name + ("" if isinstance(component.default, bytes) else f" ({component.default_text})")
+                for component, name in zip(definition.fields, names) if component.presence == "default"]
+    nulls = [f"leaves out {enumeration(absent)}"] if absent else []
+    nulls += [f"stands for the default of {enumeration(defaults)}"] if defaults else []
+    text = "From its components." + (f" Null {', and '.join(nulls)}." if nulls else "")
     call = f"quarn::asn1::build<{definition.struct}>({', '.join([variant.row.constant, *names])})"
     return Function(pointer(definition.struct), f"quarn_{variant.prefix}_new", parameters, [text], f"return {call}",
                     variant.line)

@@ -39,6 +39,8 @@ class Resolver:
             for component in definition.fields:
                 self.component(definition, component)
             self.shape(definition)
+        for definition in definitions:
+            self.sharing(definition)
         self.headers()
         return self.modules
 
@@ -91,6 +93,17 @@ class Resolver:
         bare = definition.is_list and "keep" not in definition.notes and "codec" not in definition.notes
         definition.struct = ("quarn_asn1_list" if bare else
                              "quarn_" + definition.notes.get("value", definition.variants[0].prefix))
+
+    @staticmethod
+    def sharing(definition):
+        """One function can free values of two definitions when both are strings, or lists of the same elements."""
+        owner = definition.owner
+        if owner is definition or (owner.is_strings and definition.is_strings):
+            return
+        if owner.is_list and definition.is_list and owner.fields[0].row.stem == definition.fields[0].row.stem:
+            return
+        definition.fail(f"row {definition.row.id} has the stem {definition.row.stem} of {owner.name} and so its free "
+                        "function; write it as a row of that definition: '--@ also'")
 
     # ---- Components
 
