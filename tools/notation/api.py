@@ -23,19 +23,27 @@ def bodies(module):
             text.append(f"// {definition.name}\n")
         for function in functions:
             text.append(declaration(f"{function.result}{function.name}(", function.parameters, ") {"))
-            statement = f"  {function.body};"
-            if len(statement) > WIDTH:
-                opening, _, arguments = statement[:-2].rpartition("(")
-                statement = call(opening + "(", arguments.split(", "), ");")
-            text.append(statement)
+            text.append(statement(f"  {function.body};"))
             text.append("}")
     return "\n".join(text) + "\n"
+
+
+def statement(line):
+    """A call, perhaps of the result of another."""
+    if len(line) <= WIDTH:
+        return line
+    outer, nested, inner = line.rpartition("(quarn::")
+    if nested:
+        return f"{outer}(\n" + statement(f"      quarn::{inner}")
+    opening, _, arguments = line.partition("(")
+    end = re.search(r"\)*;$", arguments)[0]
+    return call(opening + "(", arguments.removesuffix(end).split(", "), end)
 
 
 def header(module, modules):
     guard = f"QUARN_ASN1_{module.header.upper()}_H"
     definitions = in_order(module)
-    includes = "".join(f'#include "{name}.h"\n' for name in ["types", *needed(module, modules)])
+    includes = "".join(f'#include "{name}.h"\n' for name in sorted(["types", *needed(module, modules)]))
     head = block([*paragraphs(module.head), *CONVENTIONS])
     parts = [f"{head}\n#ifndef {guard}\n#define {guard}\n\n{includes}\n"
              '#ifdef __cplusplus\nextern "C" {\n#endif\n']
@@ -111,5 +119,5 @@ def in_order(module):
 def needed(module, modules):
     """Headers that declare structs of other modules."""
     names = {name for definition in module.definitions for name in structs(definition)}
-    return sorted(other.header for other in modules if other is not module and
+    return (other.header for other in modules if other is not module and
                   names & {definition.struct for definition in other.definitions} - {"quarn_asn1_list"})

@@ -39,7 +39,7 @@ def functions_of(definition):
     made = [free_function(definition, variant) for variant in definition.variants]
     made = [function for function in made if function is not None]
     for variant in definition.variants:
-        if variant.prefix and variant.notes.get("accessors") != "own" and "codec" not in definition.notes:
+        if variant.prefix and variant.notes.get("accessors") != "own":
             made += accessors(definition, variant)
     if definition.notes.get("keep") == "body":
         made.append(body_octets(definition))
@@ -90,7 +90,9 @@ def record_getters(definition, variant):
     for index, component in enumerate(definition.fields):
         arguments = f"({variant.row.constant}, value, {index})"
         has = component.notes.get("has", component.part)
-        if component.presence == "optional" and has is not None:
+        if component.record is not None:
+            made += getters_through(definition, variant, component, index)
+        if has is not None and (component.presence == "optional" or "has" in component.notes):
             made.append(Function("int ", f"quarn_{variant.prefix}_has{has}", value,
                                  [f"1 when {component.name} is there."],
                                  f"return quarn::asn1::has_part{arguments}", component.line))
@@ -103,12 +105,23 @@ def record_getters(definition, variant):
     return made
 
 
+def getters_through(definition, variant, component, index):
+    """The getters of a component, for the value that it is in."""
+    inner = f"quarn_{component.record.variants[0].prefix}_"
+    part = f"quarn::asn1::part<{component.c_type}>({variant.row.constant}, value, {index})"
+    return [dataclasses.replace(getter, name=f"quarn_{variant.prefix}_" + getter.name.removeprefix(inner),
+                                parameters=[f"const {definition.struct} *value"],
+                                body=f"return {getter.name}({part})", line=component.line)
+            for getter in record_getters(component.record, component.record.variants[0])]
+
+
 def body_octets(definition):
     row = definition.row
     return Function("int ", f"quarn_{definition.variants[0].prefix}_gettbsocts",
                     [f"{definition.struct} *value", "uint8_t *buffer", "uint64_t *length"],
-                    [f"The octets of {definition.fields[0].name} that were, or are to be, signed. A null buffer asks "
-                     "for their number alone; a null length fails."],
+                    [f"The octets of {definition.fields[0].name} that were, or are to be, signed. length says how much "
+                     "room buffer has and receives how many octets there are; a null buffer asks for no more. "
+                     "0 when the room is too small, length is null, or the value cannot be encoded."],
                     f"return quarn::asn1::body_octets({row.constant}, value, buffer, length)",
                     definition.line)
 
@@ -156,8 +169,7 @@ def string_getters(definition, variant):
                      ["The universal tag of the string; 0 for null."],
                      f"return quarn::asn1::string_tag({variant.row.constant}, value)", variant.line),
             Function("quarn_asn1_octetstring *", f"quarn_{variant.prefix}_getstring", value, ["Its content."],
-                     f"return quarn::asn1::part<quarn_asn1_octetstring>({variant.row.constant}, value, 1)",
-                     variant.line)]
+                     "return quarn::asn1::string_part(value)", variant.line)]
 
 
 # ---- Functions written by hand

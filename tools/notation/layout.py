@@ -10,6 +10,9 @@ def declaration(opening, items, closing):
     line = opening + ", ".join(items) + closing
     if len(line) <= WIDTH:
         return line
+    if len(opening) > WIDTH:
+        end = opening.rindex(" ") + (2 if "*" in opening else 1)
+        return opening[:end].rstrip() + "\n" + declaration(opening[end:], items, closing)
     indent = " " * len(opening)
     lines = [("" if position == 0 else indent) + item for position, item in enumerate(items)]
     lines[0] = opening + lines[0]
@@ -46,24 +49,25 @@ def comment(text, indent=""):
     return "\n".join([f"{indent}/**", *(f"{indent} * {one}" for one in lines), f"{indent} */"])
 
 
-def block(paragraphs):
-    """A documentation comment of paragraphs; a list of lines stands as it is."""
+def block(parts):
+    """A documentation comment of paragraphs; a list of lines stands as it is. Lines that start with @ follow close."""
     lines = ["/**"]
-    for position, paragraph in enumerate(paragraphs):
-        if position:
+    for position, part in enumerate(parts):
+        tagged = [isinstance(one, str) and one.startswith("@") for one in parts[max(position - 1, 0):position + 1]]
+        if position and not all(tagged):
             lines.append(" *")
-        if isinstance(paragraph, str):
-            paragraph = textwrap.wrap(paragraph, WIDTH - 3, break_on_hyphens=False)
-        lines += [f" * {line}".rstrip() for line in paragraph]
+        if isinstance(part, str):
+            indent = " " * (part.index("  ") + 2) if tagged[-1] and "  " in part else ""
+            part = textwrap.wrap(part, WIDTH - 3, subsequent_indent=indent, break_on_hyphens=False)
+        lines += [f" * {line}".rstrip() for line in part]
     return "\n".join([*lines, " */"])
 
 
 def paragraphs(lines):
-    """Lines of text with blank lines between paragraphs."""
-    made = []
-    for line in [*lines, ""]:
-        if line:
-            made = [*made, line] if not made or made[-1] is None else [*made[:-1], made[-1] + " " + line]
-        elif made and made[-1] is not None:
-            made.append(None)
-    return [paragraph for paragraph in made if paragraph is not None]
+    """Lines of text with blank lines between paragraphs; one that starts with @ begins one too."""
+    made = [""]
+    for line in lines:
+        if not line or line.startswith("@"):
+            made.append("")
+        made[-1] += (" " if made[-1] and line else "") + line
+    return [paragraph for paragraph in made if paragraph]

@@ -52,12 +52,13 @@ class Component:
     row: Row = None
     c_type: str = ""
     number: int = 0  # of an alternative
+    record: object = None  # the definition whose getters are given for the whole value too
 
     @property
     def part(self):
         """The last part of the names of its functions; None when it has none."""
         part = self.notes.get("get", re.sub(r"[^a-z0-9]", "", self.name.lower()))
-        return None if part == "none" else part
+        return None if part == "none" or "through" in self.notes else part
 
     @property
     def default_text(self):

@@ -140,14 +140,13 @@ class Resolver:
             definition.fail(f"{component.name}: a tag cannot be IMPLICIT on {component.type.name}, which has no tag "
                             "of its own to replace", component.line)
 
-    @staticmethod
-    def presence(definition, component):
-        if component.presence == "optional" or "has" not in component.notes:
-            wrong = {bool: 1, int: 2}.get(type(component.default), component.row.id) != component.row.id
-            if wrong:
-                definition.fail(f"the default of {component.name} is no {component.type.name}", component.line)
-            return
-        definition.fail(f"has= is for OPTIONAL components, which {component.name} is not", component.line)
+    def presence(self, definition, component):
+        if {bool: 1, int: 2}.get(type(component.default), component.row.id) != component.row.id:
+            definition.fail(f"the default of {component.name} is no {component.type.name}", component.line)
+        if "through" in component.notes:
+            component.record = self.by_name.get(component.type.name)
+            if component.record is None or component.record.kind != "record" or component.presence != "mandatory":
+                definition.fail(f"through is for mandatory records, which {component.name} is not", component.line)
 
     # ---- Kinds
 
@@ -166,9 +165,10 @@ class Resolver:
         if "tail" in notes and (len(fields) != 2 or fields[1].row.id != ANY_ID or fields[1].presence != "optional"):
             definition.fail("tail=open is for a mandatory component and ANY OPTIONAL", definition.variants[0].line)
         for component in fields:
-            for word, kind in (("new", "choice"), ("written", "choice"), ("form", "record")):
+            for word, kind in (("new", "choice"), ("written", "choice"), ("form", "record"), ("has", "record"),
+                               ("through", "record")):
                 if word in component.notes and definition.kind != kind:
-                    definition.fail(f"{word}= is for components of a {kind.upper()}", component.line)
+                    definition.fail(f"{word} is for components of a {kind.upper()}", component.line)
             if definition.is_strings and component.row.id not in CHARACTER_STRINGS:
                 definition.fail(f"{component.name} is no character string", component.line)
         if definition.kind == "choice":

@@ -17,12 +17,13 @@ def schema_of(definition, variant):
 def codec_of(definition):
     if "codec" in definition.notes:
         return definition.notes["codec"]
+    if "wire" in definition.notes:
+        return "kSequenceCodec"
     return CODECS[definition.kind]
 
 
 def registry_reference(definition, variant):
-    schema = "nullptr" if "codec" in definition.notes else "&" + schema_of(definition, variant)
-    return f"&{codec_of(definition)}, {schema}"
+    return f"&{codec_of(definition)}, &{schema_of(definition, variant)}"
 
 
 def field(definition, component):
@@ -67,8 +68,6 @@ def schema(definition, variant, unit, array):
         arguments.append(f"numbered_from({definition.first})")
     if "keep" in notes:
         arguments.append(f"keep_{notes['keep']}()")
-    if "wire" in notes:
-        arguments.append("sequence_on_the_wire()")
     if "check" in variant.notes:
         arguments.append(f"restricted_by({variant.notes['check']})")
     opening = f"constexpr Schema {schema_of(definition, variant)} ="
@@ -80,8 +79,6 @@ def rows(module):
     unit = f"k{module.family}Unit"
     blocks = [f'constexpr Unit {unit}{{"{module.unit}"}};\n']
     for definition in module.definitions:
-        if "codec" in definition.notes:
-            continue
         array = definition.constant + {"record": "Fields", "list": "Element", "choice": "Alternatives"}[definition.kind]
         text = defaults(definition)
         text += f"constexpr Field {array}[] = {{\n"
