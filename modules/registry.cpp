@@ -1,5 +1,6 @@
 // The array of all rows, put together on the top floor: the core only declares it, with the number
 // of rows that it must have, so that nothing below depends on the modules.
+#include "core/engine.h"
 #include "core/schema_check.h"
 #include "core/type.h"
 #include "types/codecs.h"
