@@ -1,6 +1,6 @@
 /* Generated from modules/ASN1_X509.asn1 by tools/generate.py; do not edit. */
 /**
- * Certificates and what they are made of (RFC 5280).
+ * Certificates and certificate revocation lists, and what they are made of (X.509, RFC 5280).
  *
  * Constructors copy their arguments and return null when a mandatory one is null or memory is
  * short. Getters lend: what they return lives as long as the value. Null for the value gives null
@@ -24,7 +24,8 @@ extern "C" {
 /* ---- AlgorithmIdentifier */
 
 /**
- * Names an algorithm and carries its parameters, if it takes any.
+ * An OBJECT IDENTIFIER and what it calls for: an algorithm and its parameters, a capability, a
+ * policy qualifier, a statement. An explicit NULL and absent parameters are different values.
  *
  *     AlgorithmIdentifier ::= SEQUENCE {
  *         algorithm   OBJECT IDENTIFIER,
@@ -43,11 +44,24 @@ QUARN_ASN1_API quarn_asn1_oid *quarn_x509algoid_getalgorithm(const quarn_x509alg
 QUARN_ASN1_API int quarn_x509algoid_hasparam(const quarn_x509algoid *value);
 /** parameters, null when it is absent. */
 QUARN_ASN1_API quarn_asn1_any *quarn_x509algoid_getparam(const quarn_x509algoid *value);
+/**
+ * A new algorithm identifier.
+ *
+ * @param param_type_id  the type of param; QUARN_ASN1_NULL with a null param gives an explicit NULL
+ */
+QUARN_ASN1_API quarn_x509algoid *quarn_x509algoid_new(const quarn_asn1_oid *algorithm,
+                                                      int64_t param_type_id,
+                                                      const void *param);
+/** A new algorithm identifier whose parameters are absent. */
+QUARN_ASN1_API quarn_x509algoid *quarn_x509algoid_new_without_param(
+    const quarn_asn1_oid *algorithm);
+/** 1 when the parameters are an explicit NULL, 0 when they are absent or something else. */
+QUARN_ASN1_API int quarn_x509algoid_isnullparam(const quarn_x509algoid *value);
 
 /* ---- Validity */
 
 /**
- * The time in which a certificate may be relied on, both ends included.
+ * From when until when a certificate is valid, both included.
  *
  *     Validity ::= SEQUENCE {
  *         notBefore  Time,
@@ -70,7 +84,7 @@ QUARN_ASN1_API quarn_asn1_time *quarn_x509validity_getnotafter(const quarn_x509v
 /* ---- SubjectPublicKeyInfo */
 
 /**
- * A public key and the algorithm that it is for.
+ * A public key with its algorithm (RFC 5280, 4.1.2.7).
  *
  *     SubjectPublicKeyInfo ::= SEQUENCE {
  *         algorithm         AlgorithmIdentifier,
@@ -95,8 +109,7 @@ QUARN_ASN1_API quarn_asn1_bitstring *quarn_x509publickeyinfo_getsubjectpublickey
 /* ---- Extension */
 
 /**
- * An extension of a certificate, CRL or request: its content is the encoding of a type that extnID
- * names.
+ * One extension. extnValue holds the encoding of a type that extnID names (RFC 5280, 4.2).
  *
  *     Extension ::= SEQUENCE {
  *         extnID     OBJECT IDENTIFIER,
@@ -126,7 +139,7 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_x509extension_getextnvalue(
 /* ---- Extensions */
 
 /**
- * The extensions of a certificate, CRL or CRL entry.
+ * The extensions of a certificate, a list or a message.
  *
  *     Extensions ::= SEQUENCE OF Extension
  *
@@ -134,425 +147,203 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_x509extension_getextnvalue(
  */
 QUARN_ASN1_API void quarn_x509Extensions_free(quarn_asn1_list *value);
 
-/* ---- DigestInfo */
+/* ---- TBSCertificate */
 
 /**
- * A digest and the algorithm that made it.
+ * The part of a certificate that its issuer signs (RFC 5280, 4.1.2). version is 0 for v1, 2 for v3.
  *
- *     DigestInfo ::= SEQUENCE {
- *         digestAlgorithm  AlgorithmIdentifier,
- *         digest           OCTET STRING
+ *     TBSCertificate ::= SEQUENCE {
+ *         version               [0] EXPLICIT INTEGER DEFAULT 0,
+ *         serialNumber          INTEGER,
+ *         signature             AlgorithmIdentifier,
+ *         issuer                Name,
+ *         validity              Validity,
+ *         subject               Name,
+ *         subjectPublicKeyInfo  SubjectPublicKeyInfo,
+ *         issuerUniqueID        [1] IMPLICIT BIT STRING OPTIONAL,
+ *         subjectUniqueID       [2] IMPLICIT BIT STRING OPTIONAL,
+ *         extensions            [3] EXPLICIT Extensions OPTIONAL
  *     }
  *
- * Type ids QUARN_ASN1_PKCSDIGESTINFO (57), QUARN_ASN1_TSP_MESSAGEIMPRINT (186),
- * QUARN_ASN1_OTHERHASHALGANDVALUE (225).
+ * Type id QUARN_ASN1_X509TBSCERTIFICATE (38).
  */
-typedef struct quarn_pkcsdigestinfo quarn_pkcsdigestinfo;
-/** As quarn_asn1_value_free() under QUARN_ASN1_PKCSDIGESTINFO. */
-QUARN_ASN1_API void quarn_pkcsdigestinfo_free(quarn_pkcsdigestinfo *value);
-/** From its components. */
-QUARN_ASN1_API quarn_pkcsdigestinfo *quarn_pkcsdigestinfo_new(
-    const quarn_x509algoid *digest_algorithm, const quarn_asn1_octetstring *digest);
-/** digestAlgorithm. */
-QUARN_ASN1_API quarn_x509algoid *quarn_pkcsdigestinfo_getdigestalgorithm(
-    const quarn_pkcsdigestinfo *value);
-/** digest. */
-QUARN_ASN1_API quarn_asn1_octetstring *quarn_pkcsdigestinfo_getdigest(
-    const quarn_pkcsdigestinfo *value);
+typedef struct quarn_x509TBSCertificate quarn_x509TBSCertificate;
+/** As quarn_asn1_value_free() under QUARN_ASN1_X509TBSCERTIFICATE. */
+QUARN_ASN1_API void quarn_x509TBSCertificate_free(quarn_x509TBSCertificate *value);
+/**
+ * From its components. Null leaves out issuer_unique_id, subject_unique_id and extensions, and
+ * stands for the default of version (0).
+ */
+QUARN_ASN1_API quarn_x509TBSCertificate *quarn_x509TBSCertificate_new(
+    const quarn_asn1_integer *version,
+    const quarn_asn1_integer *serial_number,
+    const quarn_x509algoid *signature,
+    const quarn_x500name *issuer,
+    const quarn_x509validity *validity,
+    const quarn_x500name *subject,
+    const quarn_x509publickeyinfo *subject_public_key_info,
+    const quarn_asn1_bitstring *issuer_unique_id,
+    const quarn_asn1_bitstring *subject_unique_id,
+    const quarn_asn1_list *extensions);
+/** version, 0 when the encoding has none. */
+QUARN_ASN1_API quarn_asn1_integer *quarn_x509TBSCertificate_getversion(
+    const quarn_x509TBSCertificate *value);
+/** serialNumber. */
+QUARN_ASN1_API quarn_asn1_integer *quarn_x509TBSCertificate_getserialno(
+    const quarn_x509TBSCertificate *value);
+/** signature. */
+QUARN_ASN1_API quarn_x509algoid *quarn_x509TBSCertificate_getinnersignalgo(
+    const quarn_x509TBSCertificate *value);
+/** issuer. */
+QUARN_ASN1_API quarn_x500name *quarn_x509TBSCertificate_getissuer(
+    const quarn_x509TBSCertificate *value);
+/** validity. */
+QUARN_ASN1_API quarn_x509validity *quarn_x509TBSCertificate_getvalidity(
+    const quarn_x509TBSCertificate *value);
+/** subject. */
+QUARN_ASN1_API quarn_x500name *quarn_x509TBSCertificate_getsubject(
+    const quarn_x509TBSCertificate *value);
+/** subjectPublicKeyInfo. */
+QUARN_ASN1_API quarn_x509publickeyinfo *quarn_x509TBSCertificate_getpubkey(
+    const quarn_x509TBSCertificate *value);
+/** 1 when issuerUniqueID is there. */
+QUARN_ASN1_API int quarn_x509TBSCertificate_hasissueruid(const quarn_x509TBSCertificate *value);
+/** issuerUniqueID, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_bitstring *quarn_x509TBSCertificate_getissueruid(
+    const quarn_x509TBSCertificate *value);
+/** 1 when subjectUniqueID is there. */
+QUARN_ASN1_API int quarn_x509TBSCertificate_hassubjectuid(const quarn_x509TBSCertificate *value);
+/** subjectUniqueID, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_bitstring *quarn_x509TBSCertificate_getsubjectuid(
+    const quarn_x509TBSCertificate *value);
+/** 1 when extensions is there. */
+QUARN_ASN1_API int quarn_x509TBSCertificate_hasexts(const quarn_x509TBSCertificate *value);
+/** extensions, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_list *quarn_x509TBSCertificate_getexts(
+    const quarn_x509TBSCertificate *value);
 
-/* ---- InstanceOf */
+/* ---- Certificate */
 
 /**
- * A value of a type that an object identifier names.
+ * A certificate (RFC 5280, 4.1). A decoded one keeps its octets and encodes to exactly these.
  *
- *     InstanceOf ::= [UNIVERSAL 8] IMPLICIT SEQUENCE {
- *         type-id  OBJECT IDENTIFIER,
- *         value    [0] EXPLICIT ANY
+ *     Certificate ::= SEQUENCE {
+ *         tbsCertificate      TBSCertificate,
+ *         signatureAlgorithm  AlgorithmIdentifier,
+ *         signatureValue      BIT STRING
  *     }
  *
- * Type id QUARN_ASN1_INSTANCEOFTYPEID (61).
+ * Type id QUARN_ASN1_X509PUBKEYCERT (39).
  */
-typedef struct quarn_instanceoftypeid quarn_instanceoftypeid;
-/** As quarn_asn1_value_free() under QUARN_ASN1_INSTANCEOFTYPEID. */
-QUARN_ASN1_API void quarn_instanceoftypeid_free(quarn_instanceoftypeid *value);
-/** From its components. */
-QUARN_ASN1_API quarn_instanceoftypeid *quarn_instanceoftypeid_new(const quarn_asn1_oid *type_id,
-                                                                  const quarn_asn1_any *value);
-/** type-id. */
-QUARN_ASN1_API quarn_asn1_oid *quarn_instanceoftypeid_gettypeid(
-    const quarn_instanceoftypeid *value);
-/** value. */
-QUARN_ASN1_API quarn_asn1_any *quarn_instanceoftypeid_getvalue(const quarn_instanceoftypeid *value);
+typedef struct quarn_x509pubkeycert quarn_x509pubkeycert;
+/** As quarn_asn1_value_free() under QUARN_ASN1_X509PUBKEYCERT. */
+QUARN_ASN1_API void quarn_x509PubKeyCert_free(quarn_x509pubkeycert *value);
+/** version, 0 when the encoding has none. */
+QUARN_ASN1_API quarn_asn1_integer *quarn_x509pubkeycert_getversion(
+    const quarn_x509pubkeycert *value);
+/** serialNumber. */
+QUARN_ASN1_API quarn_asn1_integer *quarn_x509pubkeycert_getserialno(
+    const quarn_x509pubkeycert *value);
+/** signature. */
+QUARN_ASN1_API quarn_x509algoid *quarn_x509pubkeycert_getinnersignalgo(
+    const quarn_x509pubkeycert *value);
+/** issuer. */
+QUARN_ASN1_API quarn_x500name *quarn_x509pubkeycert_getissuer(const quarn_x509pubkeycert *value);
+/** validity. */
+QUARN_ASN1_API quarn_x509validity *quarn_x509pubkeycert_getvalidity(
+    const quarn_x509pubkeycert *value);
+/** subject. */
+QUARN_ASN1_API quarn_x500name *quarn_x509pubkeycert_getsubject(const quarn_x509pubkeycert *value);
+/** subjectPublicKeyInfo. */
+QUARN_ASN1_API quarn_x509publickeyinfo *quarn_x509pubkeycert_getpubkey(
+    const quarn_x509pubkeycert *value);
+/** 1 when issuerUniqueID is there. */
+QUARN_ASN1_API int quarn_x509pubkeycert_hasissueruid(const quarn_x509pubkeycert *value);
+/** issuerUniqueID, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_bitstring *quarn_x509pubkeycert_getissueruid(
+    const quarn_x509pubkeycert *value);
+/** 1 when subjectUniqueID is there. */
+QUARN_ASN1_API int quarn_x509pubkeycert_hassubjectuid(const quarn_x509pubkeycert *value);
+/** subjectUniqueID, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_bitstring *quarn_x509pubkeycert_getsubjectuid(
+    const quarn_x509pubkeycert *value);
+/** 1 when extensions is there. */
+QUARN_ASN1_API int quarn_x509pubkeycert_hasexts(const quarn_x509pubkeycert *value);
+/** extensions, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_list *quarn_x509pubkeycert_getexts(const quarn_x509pubkeycert *value);
+/** signatureAlgorithm. */
+QUARN_ASN1_API quarn_x509algoid *quarn_x509pubkeycert_getsignalgo(
+    const quarn_x509pubkeycert *value);
+/** signatureValue. */
+QUARN_ASN1_API quarn_asn1_bitstring *quarn_x509pubkeycert_getsignvalue(
+    const quarn_x509pubkeycert *value);
+/**
+ * The octets of tbsCertificate that were, or are to be, signed. length says how much room buffer
+ * has and receives how many octets there are; a null buffer asks for no more. 0 when the room is
+ * too small, length is null, or the value cannot be encoded.
+ */
+QUARN_ASN1_API int quarn_x509pubkeycert_gettbsocts(quarn_x509pubkeycert *value,
+                                                   uint8_t *buffer,
+                                                   uint64_t *length);
+/**
+ * Loads a certificate from octets that it fills exactly: DER or BER, PEM ("CERTIFICATE"), or base64
+ * text that starts with "M". The first octet tells which. No white space is skipped before it.
+ *
+ * @param ctx  receives the decoder's records; may be null
+ */
+QUARN_ASN1_API quarn_x509pubkeycert *quarn_x509pubkeycert_new(const uint8_t *data,
+                                                              int64_t length,
+                                                              quarn_err_ctx *ctx);
+/**
+ * A certificate from its parts, which are copied. Its signatureAlgorithm is a copy of the one
+ * inside the part that is signed. It is encoded once as a check.
+ */
+QUARN_ASN1_API quarn_x509pubkeycert *quarn_x509pubkeycert_create(
+    const quarn_x509TBSCertificate *body, const quarn_asn1_bitstring *signature);
 
-/* ---- EDIPartyName */
+/* ---- Certificates */
 
 /**
- * The name of a party in electronic data interchange.
+ * Certificates one after another.
  *
- *     EDIPartyName ::= SEQUENCE {
- *         nameAssigner  [0] EXPLICIT DirectoryString OPTIONAL,
- *         partyName     [1] EXPLICIT DirectoryString
+ *     Certificates ::= SEQUENCE OF Certificate
+ *
+ * Type id QUARN_ASN1_X509CERTIFICATES (245). A quarn_asn1_list of Certificate
+ * (quarn_x509pubkeycert).
+ */
+QUARN_ASN1_API void quarn_x509certificates_free(quarn_asn1_list *value);
+
+/* ---- CertificatePair */
+
+/**
+ * Certificates that two authorities have issued to each other (X.509, 11.2.3).
+ *
+ *     CertificatePair ::= SEQUENCE {
+ *         forward  [0] EXPLICIT Certificate OPTIONAL,
+ *         reverse  [1] EXPLICIT Certificate OPTIONAL
  *     }
  *
- * Type id QUARN_ASN1_X509EDIPARTYNAME (62).
+ * Type id QUARN_ASN1_X500CERTPAIR (55).
  */
-typedef struct quarn_x509edipartyname quarn_x509edipartyname;
-/** As quarn_asn1_value_free() under QUARN_ASN1_X509EDIPARTYNAME. */
-QUARN_ASN1_API void quarn_x509edipartyname_free(quarn_x509edipartyname *value);
-/** From its components. Null leaves out name_assigner. */
-QUARN_ASN1_API quarn_x509edipartyname *quarn_x509edipartyname_new(
-    const quarn_x500dirstring *name_assigner, const quarn_x500dirstring *party_name);
-/** 1 when nameAssigner is there. */
-QUARN_ASN1_API int quarn_x509edipartyname_hasnameassigner(const quarn_x509edipartyname *value);
-/** nameAssigner, null when it is absent. */
-QUARN_ASN1_API quarn_x500dirstring *quarn_x509edipartyname_getnameassigner(
-    const quarn_x509edipartyname *value);
-/** partyName. */
-QUARN_ASN1_API quarn_x500dirstring *quarn_x509edipartyname_getpartyname(
-    const quarn_x509edipartyname *value);
-
-/* ---- GeneralName */
-
-/**
- * A name in one of several forms.
- *
- *     GeneralName ::= CHOICE {
- *         otherName                  [0] IMPLICIT InstanceOf,
- *         rfc822Name                 [1] IMPLICIT IA5String,
- *         dNSName                    [2] IMPLICIT IA5String,
- *         x400Address                [3] IMPLICIT SEQUENCE SIZE (1..MAX) OF ANY,
- *         directoryName              [4] EXPLICIT Name,
- *         ediPartyName               [5] IMPLICIT EDIPartyName,
- *         uniformResourceIdentifier  [6] IMPLICIT IA5String,
- *         iPAddress                  [7] IMPLICIT OCTET STRING,
- *         registeredID               [8] IMPLICIT OBJECT IDENTIFIER
- *     }
- *
- * Type id QUARN_ASN1_X509GENERALNAME (63).
- */
-typedef struct quarn_x509generalname quarn_x509generalname;
-/** As quarn_asn1_value_free() under QUARN_ASN1_X509GENERALNAME. */
-QUARN_ASN1_API void quarn_x509generalname_free(quarn_x509generalname *value);
-/**
- * Number of the alternative: 0 otherName, 1 rfc822Name, 2 dNSName, 3 x400Address, 4 directoryName,
- * 5 ediPartyName, 6 uniformResourceIdentifier, 7 iPAddress, 8 registeredID; all ones for null.
- */
-QUARN_ASN1_API uint32_t quarn_x509generalname_gettype(const quarn_x509generalname *value);
-/** The alternative otherName. */
-QUARN_ASN1_API quarn_x509generalname *quarn_x509generalname_new_othername(
-    const quarn_instanceoftypeid *other_name);
-/** otherName, null when it is another alternative. */
-QUARN_ASN1_API quarn_instanceoftypeid *quarn_x509generalname_getothername(
-    const quarn_x509generalname *value);
-/** The alternative rfc822Name. */
-QUARN_ASN1_API quarn_x509generalname *quarn_x509generalname_new_rfc822name(
-    const quarn_asn1_octetstring *rfc822_name);
-/** rfc822Name, null when it is another alternative. */
-QUARN_ASN1_API quarn_asn1_octetstring *quarn_x509generalname_getrfc822name(
-    const quarn_x509generalname *value);
-/** The alternative dNSName. */
-QUARN_ASN1_API quarn_x509generalname *quarn_x509generalname_new_dnsname(
-    const quarn_asn1_octetstring *dns_name);
-/** dNSName, null when it is another alternative. */
-QUARN_ASN1_API quarn_asn1_octetstring *quarn_x509generalname_getdnsname(
-    const quarn_x509generalname *value);
-/** x400Address, null when it is another alternative. */
-QUARN_ASN1_API quarn_asn1_list *quarn_x509generalname_getx400address(
-    const quarn_x509generalname *value);
-/** The alternative directoryName. */
-QUARN_ASN1_API quarn_x509generalname *quarn_x509generalname_new_dirname(
-    const quarn_asn1_list *directory_name);
-/** directoryName, null when it is another alternative. */
-QUARN_ASN1_API quarn_asn1_list *quarn_x509generalname_getdirname(
-    const quarn_x509generalname *value);
-/** The alternative ediPartyName. */
-QUARN_ASN1_API quarn_x509generalname *quarn_x509generalname_new_ediname(
-    const quarn_x509edipartyname *edi_party_name);
-/** ediPartyName, null when it is another alternative. */
-QUARN_ASN1_API quarn_x509edipartyname *quarn_x509generalname_getediname(
-    const quarn_x509generalname *value);
-/** The alternative uniformResourceIdentifier. */
-QUARN_ASN1_API quarn_x509generalname *quarn_x509generalname_new_uri(
-    const quarn_asn1_octetstring *uniform_resource_identifier);
-/** uniformResourceIdentifier, null when it is another alternative. */
-QUARN_ASN1_API quarn_asn1_octetstring *quarn_x509generalname_geturi(
-    const quarn_x509generalname *value);
-/** The alternative iPAddress. */
-QUARN_ASN1_API quarn_x509generalname *quarn_x509generalname_new_ip(
-    const quarn_asn1_octetstring *ip_address);
-/** iPAddress, null when it is another alternative. */
-QUARN_ASN1_API quarn_asn1_octetstring *quarn_x509generalname_getip(
-    const quarn_x509generalname *value);
-/** The alternative registeredID. */
-QUARN_ASN1_API quarn_x509generalname *quarn_x509generalname_new_regid(
-    const quarn_asn1_oid *registered_id);
-/** registeredID, null when it is another alternative. */
-QUARN_ASN1_API quarn_asn1_oid *quarn_x509generalname_getregid(const quarn_x509generalname *value);
-
-/* ---- GeneralNames */
-
-/**
- * Names of one entity.
- *
- *     GeneralNames ::= SEQUENCE OF GeneralName
- *
- * Type id QUARN_ASN1_X509GENERALNAMES (64). A quarn_asn1_list of GeneralName
- * (quarn_x509generalname).
- */
-QUARN_ASN1_API void quarn_x509generalnames_free(quarn_asn1_list *value);
-
-/* ---- AuthorityKeyIdentifier */
-
-/**
- * Tells the key that signed a certificate or CRL.
- *
- *     AuthorityKeyIdentifier ::= SEQUENCE {
- *         keyIdentifier              [0] IMPLICIT OCTET STRING OPTIONAL,
- *         authorityCertIssuer        [1] IMPLICIT GeneralNames OPTIONAL,
- *         authorityCertSerialNumber  [2] IMPLICIT INTEGER OPTIONAL
- *     }
- *
- * Type id QUARN_ASN1_X509AKID (65).
- */
-typedef struct quarn_x509akid quarn_x509akid;
-/** As quarn_asn1_value_free() under QUARN_ASN1_X509AKID. */
-QUARN_ASN1_API void quarn_x509akid_free(quarn_x509akid *value);
-/**
- * From its components. Null leaves out key_identifier, authority_cert_issuer and
- * authority_cert_serial_number.
- */
-QUARN_ASN1_API quarn_x509akid *quarn_x509akid_new(
-    const quarn_asn1_octetstring *key_identifier,
-    const quarn_asn1_list *authority_cert_issuer,
-    const quarn_asn1_integer *authority_cert_serial_number);
-/** 1 when keyIdentifier is there. */
-QUARN_ASN1_API int quarn_x509akid_haskeyidentifier(const quarn_x509akid *value);
-/** keyIdentifier, null when it is absent. */
-QUARN_ASN1_API quarn_asn1_octetstring *quarn_x509akid_getkeyidentifier(const quarn_x509akid *value);
-/** 1 when authorityCertIssuer is there. */
-QUARN_ASN1_API int quarn_x509akid_hasauthoritycertissuer(const quarn_x509akid *value);
-/** authorityCertIssuer, null when it is absent. */
-QUARN_ASN1_API quarn_asn1_list *quarn_x509akid_getauthoritycertissuer(const quarn_x509akid *value);
-/** 1 when authorityCertSerialNumber is there. */
-QUARN_ASN1_API int quarn_x509akid_hasauthoritycertserialnumber(const quarn_x509akid *value);
-/** authorityCertSerialNumber, null when it is absent. */
-QUARN_ASN1_API quarn_asn1_integer *quarn_x509akid_getauthoritycertserialnumber(
-    const quarn_x509akid *value);
-
-/* ---- ExtKeyUsageSyntax */
-
-/**
- * What a key may be used for.
- *
- *     ExtKeyUsageSyntax ::= SEQUENCE OF keyPurposeId OBJECT IDENTIFIER
- *
- * Type id QUARN_ASN1_X509EXKEYUSAGE (66). A quarn_asn1_list of OBJECT IDENTIFIER (quarn_asn1_oid).
- */
-QUARN_ASN1_API void quarn_x509exkeyusage_free(quarn_asn1_list *value);
-
-/* ---- PrivateKeyUsagePeriod */
-
-/**
- * The time in which a private key may be used.
- *
- *     PrivateKeyUsagePeriod ::= SEQUENCE {
- *         notBefore  [0] IMPLICIT GeneralizedTime OPTIONAL,
- *         notAfter   [1] IMPLICIT GeneralizedTime OPTIONAL
- *     }
- *
- * Type id QUARN_ASN1_X509PRIVKEYUSAGEPERIOD (67).
- */
-typedef struct quarn_x509privkeyusageperiod quarn_x509privkeyusageperiod;
-/** As quarn_asn1_value_free() under QUARN_ASN1_X509PRIVKEYUSAGEPERIOD. */
-QUARN_ASN1_API void quarn_x509privkeyusageperiod_free(quarn_x509privkeyusageperiod *value);
-/** From its components. Null leaves out not_before and not_after. */
-QUARN_ASN1_API quarn_x509privkeyusageperiod *quarn_x509privkeyusageperiod_new(
-    const quarn_asn1_time *not_before, const quarn_asn1_time *not_after);
-/** 1 when notBefore is there. */
-QUARN_ASN1_API int quarn_x509privkeyusageperiod_hasnotbefore(
-    const quarn_x509privkeyusageperiod *value);
-/** notBefore, null when it is absent. */
-QUARN_ASN1_API quarn_asn1_time *quarn_x509privkeyusageperiod_getnotbefore(
-    const quarn_x509privkeyusageperiod *value);
-/** 1 when notAfter is there. */
-QUARN_ASN1_API int quarn_x509privkeyusageperiod_hasnotafter(
-    const quarn_x509privkeyusageperiod *value);
-/** notAfter, null when it is absent. */
-QUARN_ASN1_API quarn_asn1_time *quarn_x509privkeyusageperiod_getnotafter(
-    const quarn_x509privkeyusageperiod *value);
-
-/* ---- BasicConstraints */
-
-/**
- * Whether a key may sign certificates, and how long the paths through it may be.
- *
- *     BasicConstraints ::= SEQUENCE {
- *         cA                 BOOLEAN DEFAULT FALSE,
- *         pathLenConstraint  INTEGER OPTIONAL
- *     }
- *
- * Type id QUARN_ASN1_X509BASICCONSTRAINTS (76).
- */
-typedef struct quarn_x509basicconstraints quarn_x509basicconstraints;
-/** As quarn_asn1_value_free() under QUARN_ASN1_X509BASICCONSTRAINTS. */
-QUARN_ASN1_API void quarn_x509basicconstraints_free(quarn_x509basicconstraints *value);
-/**
- * From its components. Null leaves out path_len_constraint, and stands for the default of ca
- * (FALSE).
- */
-QUARN_ASN1_API quarn_x509basicconstraints *quarn_x509basicconstraints_new(
-    const quarn_asn1_boolean *ca, const quarn_asn1_integer *path_len_constraint);
-/** cA, FALSE when the encoding has none. */
-QUARN_ASN1_API quarn_asn1_boolean *quarn_x509basicconstraints_getca(
-    const quarn_x509basicconstraints *value);
-/** 1 when pathLenConstraint is there. */
-QUARN_ASN1_API int quarn_x509basicconstraints_haspathlenconstraint(
-    const quarn_x509basicconstraints *value);
-/** pathLenConstraint, null when it is absent. */
-QUARN_ASN1_API quarn_asn1_integer *quarn_x509basicconstraints_getpathlenconstraint(
-    const quarn_x509basicconstraints *value);
-
-/* ---- GeneralSubtree */
-
-/**
- * A part of a name space.
- *
- *     GeneralSubtree ::= SEQUENCE {
- *         base     GeneralName,
- *         minimum  [0] IMPLICIT INTEGER DEFAULT 0,
- *         maximum  [1] IMPLICIT INTEGER OPTIONAL
- *     }
- *
- * Type id QUARN_ASN1_X509GENERALTREE (77).
- */
-typedef struct quarn_x509generaltree quarn_x509generaltree;
-/** As quarn_asn1_value_free() under QUARN_ASN1_X509GENERALTREE. */
-QUARN_ASN1_API void quarn_x509generaltree_free(quarn_x509generaltree *value);
-/** From its components. Null leaves out maximum, and stands for the default of minimum (0). */
-QUARN_ASN1_API quarn_x509generaltree *quarn_x509generaltree_new(const quarn_x509generalname *base,
-                                                                const quarn_asn1_integer *minimum,
-                                                                const quarn_asn1_integer *maximum);
-/** base. */
-QUARN_ASN1_API quarn_x509generalname *quarn_x509generaltree_getbase(
-    const quarn_x509generaltree *value);
-/** minimum, 0 when the encoding has none. */
-QUARN_ASN1_API quarn_asn1_integer *quarn_x509generaltree_getminimum(
-    const quarn_x509generaltree *value);
-/** 1 when maximum is there. */
-QUARN_ASN1_API int quarn_x509generaltree_hasmaximum(const quarn_x509generaltree *value);
-/** maximum, null when it is absent. */
-QUARN_ASN1_API quarn_asn1_integer *quarn_x509generaltree_getmaximum(
-    const quarn_x509generaltree *value);
-
-/* ---- DistributionPointName */
-
-/**
- * Where CRLs are found.
- *
- *     DistributionPointName ::= CHOICE {
- *         fullName                 [0] IMPLICIT GeneralNames,
- *         nameRelativeToCRLIssuer  [1] IMPLICIT RelativeDistinguishedName
- *     }
- *
- * Type id QUARN_ASN1_X509DPNAME (83).
- */
-typedef struct quarn_x509dpname quarn_x509dpname;
-/** As quarn_asn1_value_free() under QUARN_ASN1_X509DPNAME. */
-QUARN_ASN1_API void quarn_x509dpname_free(quarn_x509dpname *value);
-/** Number of the alternative: 0 fullName, 1 nameRelativeToCRLIssuer; all ones for null. */
-QUARN_ASN1_API uint32_t quarn_x509dpname_gettype(const quarn_x509dpname *value);
-/** The alternative fullName. */
-QUARN_ASN1_API quarn_x509dpname *quarn_x509dpname_newfullname(const quarn_asn1_list *full_name);
-/** fullName, null when it is another alternative. */
-QUARN_ASN1_API quarn_asn1_list *quarn_x509dpname_getfullname(const quarn_x509dpname *value);
-/** The alternative nameRelativeToCRLIssuer. */
-QUARN_ASN1_API quarn_x509dpname *quarn_x509dpname_newnamerelativetocrlissuer(
-    const quarn_asn1_list *name_relative_to_crl_issuer);
-/** nameRelativeToCRLIssuer, null when it is another alternative. */
-QUARN_ASN1_API quarn_asn1_list *quarn_x509dpname_getnamerelativetocrlissuer(
-    const quarn_x509dpname *value);
-
-/* ---- DistributionPoint */
-
-/**
- * A source of CRLs and what they are about.
- *
- *     DistributionPoint ::= SEQUENCE {
- *         distributionPoint  [0] EXPLICIT DistributionPointName OPTIONAL,
- *         reasons            [1] IMPLICIT BIT STRING OPTIONAL,
- *         cRLIssuer          [2] IMPLICIT GeneralNames OPTIONAL
- *     }
- *
- * Type id QUARN_ASN1_X509DISTPOINT (84).
- */
-typedef struct quarn_x509distpoint quarn_x509distpoint;
-/** As quarn_asn1_value_free() under QUARN_ASN1_X509DISTPOINT. */
-QUARN_ASN1_API void quarn_x509distpoint_free(quarn_x509distpoint *value);
-/** From its components. Null leaves out distribution_point, reasons and crl_issuer. */
-QUARN_ASN1_API quarn_x509distpoint *quarn_x509distpoint_new(
-    const quarn_x509dpname *distribution_point,
-    const quarn_asn1_bitstring *reasons,
-    const quarn_asn1_list *crl_issuer);
-/** 1 when distributionPoint is there. */
-QUARN_ASN1_API int quarn_x509distpoint_hasdistributionpoint(const quarn_x509distpoint *value);
-/** distributionPoint, null when it is absent. */
-QUARN_ASN1_API quarn_x509dpname *quarn_x509distpoint_getdistributionpoint(
-    const quarn_x509distpoint *value);
-/** 1 when reasons is there. */
-QUARN_ASN1_API int quarn_x509distpoint_hasreasons(const quarn_x509distpoint *value);
-/** reasons, null when it is absent. */
-QUARN_ASN1_API quarn_asn1_bitstring *quarn_x509distpoint_getreasons(
-    const quarn_x509distpoint *value);
-/** 1 when cRLIssuer is there. */
-QUARN_ASN1_API int quarn_x509distpoint_hascrlissuer(const quarn_x509distpoint *value);
-/** cRLIssuer, null when it is absent. */
-QUARN_ASN1_API quarn_asn1_list *quarn_x509distpoint_getcrlissuer(const quarn_x509distpoint *value);
-
-/* ---- CRLDistributionPoints */
-
-/**
- * The sources of CRLs that cover a certificate.
- *
- *     CRLDistributionPoints ::= SEQUENCE OF DistributionPoint
- *
- * Type id QUARN_ASN1_X509CRLDP (85). A quarn_asn1_list of DistributionPoint (quarn_x509distpoint).
- */
-QUARN_ASN1_API void quarn_x509crldp_free(quarn_asn1_list *value);
-
-/* ---- TypeOfBiometricData */
-
-/**
- * What biometric data are of: a number for the known kinds, or an object identifier.
- *
- *     TypeOfBiometricData ::= CHOICE {
- *         predefinedBiometricType  INTEGER,
- *         biometricDataOid         OBJECT IDENTIFIER
- *     }
- *
- * Type id QUARN_ASN1_TYPEOFBIOMETRICDATA (219).
- */
-typedef struct quarn_typeofbiometricdata quarn_typeofbiometricdata;
-/** As quarn_asn1_value_free() under QUARN_ASN1_TYPEOFBIOMETRICDATA. */
-QUARN_ASN1_API void quarn_typeofbiometricdata_free(quarn_typeofbiometricdata *value);
-/** Number of the alternative: 1 predefinedBiometricType, 2 biometricDataOid; all ones for null. */
-QUARN_ASN1_API uint32_t quarn_typeofbiometricdata_gettype(const quarn_typeofbiometricdata *value);
-/** The alternative predefinedBiometricType. */
-QUARN_ASN1_API quarn_typeofbiometricdata *quarn_typeofbiometricdata_newpredefined(
-    const quarn_asn1_integer *predefined_biometric_type);
-/** predefinedBiometricType, null when it is another alternative. */
-QUARN_ASN1_API quarn_asn1_integer *quarn_typeofbiometricdata_getpredefined(
-    const quarn_typeofbiometricdata *value);
-/** The alternative biometricDataOid. */
-QUARN_ASN1_API quarn_typeofbiometricdata *quarn_typeofbiometricdata_newoid(
-    const quarn_asn1_oid *biometric_data_oid);
-/** biometricDataOid, null when it is another alternative. */
-QUARN_ASN1_API quarn_asn1_oid *quarn_typeofbiometricdata_getoid(
-    const quarn_typeofbiometricdata *value);
+typedef struct quarn_x500certpair quarn_x500certpair;
+/** As quarn_asn1_value_free() under QUARN_ASN1_X500CERTPAIR. */
+QUARN_ASN1_API void quarn_x500certpair_free(quarn_x500certpair *value);
+/** From its components. Null leaves out forward and reverse. */
+QUARN_ASN1_API quarn_x500certpair *quarn_x500certpair_new(const quarn_x509pubkeycert *forward,
+                                                          const quarn_x509pubkeycert *reverse);
+/** 1 when forward is there. */
+QUARN_ASN1_API int quarn_x500certpair_hasforward(const quarn_x500certpair *value);
+/** forward, null when it is absent. */
+QUARN_ASN1_API quarn_x509pubkeycert *quarn_x500certpair_getforward(const quarn_x500certpair *value);
+/** 1 when reverse is there. */
+QUARN_ASN1_API int quarn_x500certpair_hasreverse(const quarn_x500certpair *value);
+/** reverse, null when it is absent. */
+QUARN_ASN1_API quarn_x509pubkeycert *quarn_x500certpair_getreverse(const quarn_x500certpair *value);
 
 /* ---- RevokedCertificate */
 
 /**
- * An entry of a CRL.
+ * An entry of a certificate revocation list (RFC 5280, 5.1.2.6).
  *
  *     RevokedCertificate ::= SEQUENCE {
  *         userCertificate     INTEGER,
@@ -582,70 +373,202 @@ QUARN_ASN1_API int quarn_x509revokedcert_hascrlentryextensions(const quarn_x509r
 QUARN_ASN1_API quarn_asn1_list *quarn_x509revokedcert_getcrlentryextensions(
     const quarn_x509revokedcert *value);
 
-/* ---- NoticeNumbers */
+/* ---- RevokedCertificates */
 
 /**
- * Numbers of notices.
+ * The entries of a certificate revocation list.
  *
- *     NoticeNumbers ::= SEQUENCE OF noticeNumber INTEGER
+ *     RevokedCertificates ::= SEQUENCE OF RevokedCertificate
  *
- * Type id QUARN_ASN1_PKIXNOTICENUMBERS (138). A quarn_asn1_list of INTEGER (quarn_asn1_integer).
+ * Type id QUARN_ASN1_X509REVOKEDCERTS (140). A quarn_asn1_list of RevokedCertificate
+ * (quarn_x509revokedcert).
  */
-QUARN_ASN1_API void quarn_pkixnoticenumbers_free(quarn_asn1_list *value);
+QUARN_ASN1_API void quarn_x509RevokedCerts_free(quarn_asn1_list *value);
 
-/* ---- NoticeReference */
+/* ---- TBSCertList */
 
 /**
- * Notices of an organization, by number.
+ * The part of a certificate revocation list that its issuer signs (RFC 5280, 5.1.2). version is no
+ * DEFAULT: a list of version 1 has none, one of version 2 has INTEGER 1, and an explicit 0 stays.
  *
- *     NoticeReference ::= SEQUENCE {
- *         organization   DisplayText,
- *         noticeNumbers  NoticeNumbers
+ *     TBSCertList ::= SEQUENCE {
+ *         version              INTEGER OPTIONAL,
+ *         signature            AlgorithmIdentifier,
+ *         issuer               Name,
+ *         thisUpdate           Time,
+ *         nextUpdate           Time OPTIONAL,
+ *         revokedCertificates  RevokedCertificates OPTIONAL,
+ *         crlExtensions        [0] EXPLICIT Extensions OPTIONAL
  *     }
  *
- * Type id QUARN_ASN1_PKIXNOTICEREF (72).
+ * Type id QUARN_ASN1_X509TBSCERTLIST (40).
  */
-typedef struct quarn_pkixnoticeref quarn_pkixnoticeref;
-/** As quarn_asn1_value_free() under QUARN_ASN1_PKIXNOTICEREF. */
-QUARN_ASN1_API void quarn_pkixnoticeref_free(quarn_pkixnoticeref *value);
+typedef struct quarn_x509TBSCertList quarn_x509TBSCertList;
+/** As quarn_asn1_value_free() under QUARN_ASN1_X509TBSCERTLIST. */
+QUARN_ASN1_API void quarn_x509TBSCertList_free(quarn_x509TBSCertList *value);
+/** 1 when version is there. */
+QUARN_ASN1_API int quarn_x509TBSCertList_hasversion(const quarn_x509TBSCertList *value);
+/** version, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_integer *quarn_x509TBSCertList_getversion(
+    const quarn_x509TBSCertList *value);
+/** signature. */
+QUARN_ASN1_API quarn_x509algoid *quarn_x509TBSCertList_getinnersignalgo(
+    const quarn_x509TBSCertList *value);
+/** issuer. */
+QUARN_ASN1_API quarn_x500name *quarn_x509TBSCertList_getissuer(const quarn_x509TBSCertList *value);
+/** thisUpdate. */
+QUARN_ASN1_API quarn_asn1_time *quarn_x509TBSCertList_getthisupdate(
+    const quarn_x509TBSCertList *value);
+/** 1 when nextUpdate is there. */
+QUARN_ASN1_API int quarn_x509TBSCertList_hasnextupdate(const quarn_x509TBSCertList *value);
+/** nextUpdate, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_time *quarn_x509TBSCertList_getnextupdate(
+    const quarn_x509TBSCertList *value);
+/** 1 when revokedCertificates is there. */
+QUARN_ASN1_API int quarn_x509TBSCertList_hasrevcerts(const quarn_x509TBSCertList *value);
+/** revokedCertificates, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_list *quarn_x509TBSCertList_getrevcerts(
+    const quarn_x509TBSCertList *value);
+/** 1 when crlExtensions is there. */
+QUARN_ASN1_API int quarn_x509TBSCertList_hasexts(const quarn_x509TBSCertList *value);
+/** crlExtensions, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_list *quarn_x509TBSCertList_getexts(const quarn_x509TBSCertList *value);
+/**
+ * A new list body. signature, issuer and this_update are mandatory.
+ *
+ * @param reserved  not used
+ */
+QUARN_ASN1_API quarn_x509TBSCertList *quarn_x509TBSCertList_new(const quarn_asn1_integer *version,
+                                                                const quarn_x509algoid *signature,
+                                                                const quarn_x500name *issuer,
+                                                                const quarn_asn1_time *this_update,
+                                                                const quarn_asn1_time *next_update,
+                                                                const quarn_asn1_list *revoked,
+                                                                uint32_t reserved,
+                                                                const quarn_asn1_list *extensions);
+
+/* ---- CertificateList */
+
+/**
+ * A certificate revocation list (RFC 5280, 5.1). A decoded one keeps its octets and encodes to
+ * exactly these.
+ *
+ *     CertificateList ::= SEQUENCE {
+ *         tbsCertList         TBSCertList,
+ *         signatureAlgorithm  AlgorithmIdentifier,
+ *         signatureValue      BIT STRING
+ *     }
+ *
+ * Type id QUARN_ASN1_X509CRL (41).
+ */
+typedef struct quarn_x509crl quarn_x509crl;
+/** As quarn_asn1_value_free() under QUARN_ASN1_X509CRL. */
+QUARN_ASN1_API void quarn_x509CRL_free(quarn_x509crl *value);
+/** 1 when version is there. */
+QUARN_ASN1_API int quarn_x509crl_hasversion(const quarn_x509crl *value);
+/** version, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_integer *quarn_x509crl_getversion(const quarn_x509crl *value);
+/** signature. */
+QUARN_ASN1_API quarn_x509algoid *quarn_x509crl_getinnersignalgo(const quarn_x509crl *value);
+/** issuer. */
+QUARN_ASN1_API quarn_x500name *quarn_x509crl_getissuer(const quarn_x509crl *value);
+/** thisUpdate. */
+QUARN_ASN1_API quarn_asn1_time *quarn_x509crl_getthisupdate(const quarn_x509crl *value);
+/** 1 when nextUpdate is there. */
+QUARN_ASN1_API int quarn_x509crl_hasnextupdate(const quarn_x509crl *value);
+/** nextUpdate, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_time *quarn_x509crl_getnextupdate(const quarn_x509crl *value);
+/** 1 when revokedCertificates is there. */
+QUARN_ASN1_API int quarn_x509crl_hasrevcerts(const quarn_x509crl *value);
+/** revokedCertificates, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_list *quarn_x509crl_getrevcerts(const quarn_x509crl *value);
+/** 1 when crlExtensions is there. */
+QUARN_ASN1_API int quarn_x509crl_hasexts(const quarn_x509crl *value);
+/** crlExtensions, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_list *quarn_x509crl_getexts(const quarn_x509crl *value);
+/** signatureAlgorithm. */
+QUARN_ASN1_API quarn_x509algoid *quarn_x509crl_getsignalgo(const quarn_x509crl *value);
+/** signatureValue. */
+QUARN_ASN1_API quarn_asn1_bitstring *quarn_x509crl_getsignvalue(const quarn_x509crl *value);
+/**
+ * The octets of tbsCertList that were, or are to be, signed. length says how much room buffer has
+ * and receives how many octets there are; a null buffer asks for no more. 0 when the room is too
+ * small, length is null, or the value cannot be encoded.
+ */
+QUARN_ASN1_API int quarn_x509crl_gettbsocts(quarn_x509crl *value,
+                                            uint8_t *buffer,
+                                            uint64_t *length);
+/**
+ * Loads a list as quarn_x509pubkeycert_new() loads a certificate; the labels of PEM are "X509 CRL"
+ * and "CRL".
+ */
+QUARN_ASN1_API quarn_x509crl *quarn_x509crl_new(const uint8_t *data,
+                                                int64_t length,
+                                                quarn_err_ctx *ctx);
+/** A list from its parts, as quarn_x509pubkeycert_create() makes a certificate. */
+QUARN_ASN1_API quarn_x509crl *quarn_x509crl_create(const quarn_x509TBSCertList *body,
+                                                   const quarn_asn1_bitstring *signature);
+
+/* ---- CertificateLists */
+
+/**
+ * Certificate revocation lists one after another.
+ *
+ *     CertificateLists ::= SEQUENCE OF CertificateList
+ *
+ * Type id QUARN_ASN1_X509CRLS (246). A quarn_asn1_list of CertificateList (quarn_x509crl).
+ */
+QUARN_ASN1_API void quarn_x509crls_free(quarn_asn1_list *value);
+
+/* ---- DigestInfo */
+
+/**
+ * A digest and its algorithm (RFC 8017, A.2.4; RFC 3161, 2.4.1; RFC 5126, 6.2.1).
+ *
+ *     DigestInfo ::= SEQUENCE {
+ *         digestAlgorithm  AlgorithmIdentifier,
+ *         digest           OCTET STRING
+ *     }
+ *
+ * Type ids QUARN_ASN1_PKCSDIGESTINFO (57), QUARN_ASN1_TSP_MESSAGEIMPRINT (186),
+ * QUARN_ASN1_OTHERHASHALGANDVALUE (225).
+ */
+typedef struct quarn_pkcsdigestinfo quarn_pkcsdigestinfo;
+/** As quarn_asn1_value_free() under QUARN_ASN1_PKCSDIGESTINFO. */
+QUARN_ASN1_API void quarn_pkcsdigestinfo_free(quarn_pkcsdigestinfo *value);
 /** From its components. */
-QUARN_ASN1_API quarn_pkixnoticeref *quarn_pkixnoticeref_new(const quarn_disptext *organization,
-                                                            const quarn_asn1_list *notice_numbers);
-/** organization. */
-QUARN_ASN1_API quarn_disptext *quarn_pkixnoticeref_getorganization(
-    const quarn_pkixnoticeref *value);
-/** noticeNumbers. */
-QUARN_ASN1_API quarn_asn1_list *quarn_pkixnoticeref_getnoticenumbers(
-    const quarn_pkixnoticeref *value);
+QUARN_ASN1_API quarn_pkcsdigestinfo *quarn_pkcsdigestinfo_new(
+    const quarn_x509algoid *digest_algorithm, const quarn_asn1_octetstring *digest);
+/** digestAlgorithm. */
+QUARN_ASN1_API quarn_x509algoid *quarn_pkcsdigestinfo_getdigestalgo(
+    const quarn_pkcsdigestinfo *value);
+/** digest. */
+QUARN_ASN1_API quarn_asn1_octetstring *quarn_pkcsdigestinfo_getdigest(
+    const quarn_pkcsdigestinfo *value);
 
-/* ---- UserNotice */
+/* ---- InstanceOf */
 
 /**
- * What a policy wants shown to whoever relies on a certificate.
+ * A value of a type that an OBJECT IDENTIFIER names (X.681, annex C).
  *
- *     UserNotice ::= SEQUENCE {
- *         noticeRef     NoticeReference OPTIONAL,
- *         explicitText  DisplayText OPTIONAL
+ *     InstanceOf ::= [UNIVERSAL 8] IMPLICIT SEQUENCE {
+ *         type-id  OBJECT IDENTIFIER,
+ *         value    [0] EXPLICIT ANY
  *     }
  *
- * Type id QUARN_ASN1_PKIXUSERNOTICE (73).
+ * Type id QUARN_ASN1_INSTANCEOFTYPEID (61).
  */
-typedef struct quarn_pkixusernotice quarn_pkixusernotice;
-/** As quarn_asn1_value_free() under QUARN_ASN1_PKIXUSERNOTICE. */
-QUARN_ASN1_API void quarn_pkixusernotice_free(quarn_pkixusernotice *value);
-/** From its components. Null leaves out notice_ref and explicit_text. */
-QUARN_ASN1_API quarn_pkixusernotice *quarn_pkixusernotice_new(const quarn_pkixnoticeref *notice_ref,
-                                                              const quarn_disptext *explicit_text);
-/** 1 when noticeRef is there. */
-QUARN_ASN1_API int quarn_pkixusernotice_hasnoticeref(const quarn_pkixusernotice *value);
-/** noticeRef, null when it is absent. */
-QUARN_ASN1_API quarn_pkixnoticeref *quarn_pkixusernotice_getnoticeref(
-    const quarn_pkixusernotice *value);
-/** 1 when explicitText is there. */
-QUARN_ASN1_API int quarn_pkixusernotice_hasexplicittext(const quarn_pkixusernotice *value);
-/** explicitText, null when it is absent. */
-QUARN_ASN1_API quarn_disptext *quarn_pkixusernotice_getexplicittext(
-    const quarn_pkixusernotice *value);
+typedef struct quarn_instanceoftypeid quarn_instanceoftypeid;
+/** As quarn_asn1_value_free() under QUARN_ASN1_INSTANCEOFTYPEID. */
+QUARN_ASN1_API void quarn_instanceoftypeid_free(quarn_instanceoftypeid *value);
+/** From its components. */
+QUARN_ASN1_API quarn_instanceoftypeid *quarn_instanceoftypeid_new(const quarn_asn1_oid *type_id,
+                                                                  const quarn_asn1_any *value);
+/** type-id. */
+QUARN_ASN1_API quarn_asn1_oid *quarn_instanceoftypeid_gettypeid(
+    const quarn_instanceoftypeid *value);
+/** value. */
+QUARN_ASN1_API quarn_asn1_any *quarn_instanceoftypeid_getvalue(const quarn_instanceoftypeid *value);
 
 #ifdef __cplusplus
 }

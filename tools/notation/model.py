@@ -103,6 +103,7 @@ class Definition:
     exports: list = dataclasses.field(default_factory=list)
     # Filled in by resolve.py.
     struct: str = ""  # C type of its values
+    first: int = 0  # number of a CHOICE's first alternative
     owner: object = None  # the definition whose free function and struct it shares
 
     @property

@@ -17,6 +17,7 @@ BUILTIN = {
 }
 ANY_ID, TIME_ID = 23, 20
 CHARACTER_STRINGS = range(9, 20)
+KINDS = {"record": "SEQUENCE or SET", "list": "list", "choice": "CHOICE"}
 
 
 class Resolver:
@@ -157,7 +158,7 @@ class Resolver:
             definition.fail("a list has at least 0 or 1 elements")
         for word, kind in (("first", "choice"), ("strings", "choice"), ("tail", "record")):
             if word in notes and definition.kind != kind:
-                definition.fail(f"{word} is for a {kind.upper()}", definition.variants[0].line)
+                definition.fail(f"{word} is for a {KINDS[kind]}", definition.variants[0].line)
         if notes.get("keep") == "body" and definition.kind != "record":
             definition.fail("keep=body is for a SEQUENCE", definition.variants[0].line)
         if not fields:
@@ -168,7 +169,7 @@ class Resolver:
             for word, kind in (("new", "choice"), ("written", "choice"), ("form", "record"), ("has", "record"),
                                ("through", "record")):
                 if word in component.notes and definition.kind != kind:
-                    definition.fail(f"{word} is for components of a {kind.upper()}", component.line)
+                    definition.fail(f"{word} is for components of a {KINDS[kind]}", component.line)
             if definition.is_strings and component.row.id not in CHARACTER_STRINGS:
                 definition.fail(f"{component.name} is no character string", component.line)
         if definition.kind == "choice":
