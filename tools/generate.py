@@ -141,8 +141,10 @@ def codec_reference(row):
 def registry_table():
     lines = [made_from("modules/registry.tsv and modules/*.asn1"), "constexpr Type kTypes[] = {\n"]
     for row in registry():
-        parts = [c_string(row.name), codec_reference(row), str(row.tag), f"{row.code:#x}",
-                 f"{CLASS_BITS[row.tag_class]:#x}", str(FORM_NUMBERS[row.form])]
+        wire = row.id in described() and "wire" in described()[row.id][0].notes
+        tag, form = (16, "constructed") if wire else (row.tag, row.form)
+        parts = [c_string(row.name), codec_reference(row), str(tag), f"{row.code:#x}",
+                 f"{CLASS_BITS[row.tag_class]:#x}", str(FORM_NUMBERS[form]), *(["true"] if wire else [])]
         lines.append("    {" + ", ".join(parts) + f"}},  // {row.id}\n")
     return "".join(lines) + "};\n"
 

@@ -131,7 +131,7 @@ class Output(unittest.TestCase):
                  "int quarn_point_gettbsocts(quarn_point *value, uint8_t *buffer, uint64_t *length)")
         self.assertNotIn("quarn_odd_getd(const", api.bodies(kept[0]))
         self.assertEqual([rows.registry_reference(one, one.variants[0]) for one in kept[0].definitions[2:]],
-                         ["&kSequenceCodec, &kOSchema", "&kC, &kCSchema"])
+                         ["&kRecordCodec, &kOSchema", "&kC, &kCSchema"])
 
 
 class Mistakes(unittest.TestCase):

@@ -77,8 +77,8 @@ class Resolver:
         else:
             wanted = definition.own_tag or ("universal", 17 if definition.set else 16)
         if "wire" in definition.notes:
-            if actual == wanted and row.form == "constructed":
-                definition.fail(f"wire=sequence says nothing: row {row.id} is a SEQUENCE", variant.line)
+            if actual != ("universal", 0) or row.form != "either":
+                definition.fail(f"wire=sequence is for rows without a tag, not for row {row.id}", variant.line)
         elif actual != wanted or (definition.kind != "choice" and row.form != "constructed"):
             shown = {"record": "SET" if definition.set else "SEQUENCE", "choice": "CHOICE"}.get(
                 definition.kind, "SET OF" if definition.set else "SEQUENCE OF")

@@ -17,8 +17,6 @@ def schema_of(definition, variant):
 def codec_of(definition):
     if "codec" in definition.notes:
         return definition.notes["codec"]
-    if "wire" in definition.notes:
-        return "kSequenceCodec"
     return CODECS[definition.kind]
 
 
