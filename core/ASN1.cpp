@@ -224,8 +224,9 @@ int quarn_asn1_type_describe(int64_t type_id, quarn_asn1_type_description *descr
   if (type == nullptr || description == nullptr) return 0;
   const bool supported =
       type->codec->decode_content != cannot_decode_content || type->codec->decode != cannot_decode;
-  *description = {type->name, type->tag_number, type->tag_class,
-                  type->form, type->error_code, supported ? 1 : 0};
+  *description = {type->name,       type->tag_untold ? 0 : type->tag_number,
+                  type->tag_class,  type->tag_untold ? -1 : type->form,
+                  type->error_code, supported ? 1 : 0};
   return 1;
 }
 

@@ -73,7 +73,9 @@ inline Kept *kept_by(const Schema &schema, void *value) {
   return reinterpret_cast<Kept *>(components(value) + schema.fields.size());
 }
 
-// ---- Inside the engine
+// ---- Inside the engine, and for codecs that differ from those of core/engine_value.cpp in one step
+
+void free_record(const Type &type, void *value);
 
 // Whether a value's encoding is kept.
 inline bool is_kept(const Schema &schema, const void *value) {

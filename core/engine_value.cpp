@@ -14,15 +14,6 @@ void drop_body(const Schema &schema, void *value) {
   if (schema.keep == Keep::body) kept_by(schema, value)[1].drop();
 }
 
-void free_record(const Type &type, void *value) {
-  const Schema &schema = *type.schema;
-  drop_encoding(schema, value);
-  drop_body(schema, value);
-  void **component = components(value);
-  for (const Field &field : schema.fields) free_value(type_of(field.type()), *component++);
-  quarn_free(value);
-}
-
 void free_list_value(const Type &type, void *value) {
   const Schema &schema = *type.schema;
   free_list(list_in(schema, value), type_of(schema.element()));
@@ -31,8 +22,13 @@ void free_list_value(const Type &type, void *value) {
   quarn_free(value);
 }
 
+// Types of strings share one free function among them, which frees values of any under one id:
+// alternatives that this type need not have, but all of them octets.
 void free_choice(const Type &type, void *value) {
-  free_value(type_of(chosen(*type.schema, value).type()), static_cast<Choice *>(value)->value);
+  const Schema &schema = *type.schema;
+  const Field &field =
+      schema.kind == Kind::string_choice ? schema.fields[0] : chosen(schema, value);
+  free_value(type_of(field.type()), static_cast<Choice *>(value)->value);
   quarn_free(value);
 }
 
@@ -42,6 +38,15 @@ std::uint64_t number_of(const Schema &schema, std::uint32_t index) {
 }
 
 }  // namespace
+
+void free_record(const Type &type, void *value) {
+  const Schema &schema = *type.schema;
+  drop_encoding(schema, value);
+  drop_body(schema, value);
+  void **component = components(value);
+  for (const Field &field : schema.fields) free_value(type_of(field.type()), *component++);
+  quarn_free(value);
+}
 
 void *new_record(const Schema &schema) {
   constexpr std::size_t kKept[] = {0, sizeof(Kept), 2 * sizeof(Kept)};

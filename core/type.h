@@ -48,6 +48,7 @@ struct Type {
   int error_code;
   std::uint32_t tag_class;
   std::int32_t form;
+  bool tag_untold = false;  // callers are told of no tag, and of either form
 
   int encode_error() const { return error_code; }
   int decode_error() const { return error_code + 1; }
