@@ -26,6 +26,7 @@
 #define QUARN_ASN1_H
 
 #include "quarn_asn1/core.h"
+#include "quarn_asn1/inspect.h"
 #include "quarn_asn1/json.h"
 #include "quarn_asn1/types.h"
 
