@@ -161,6 +161,32 @@ int visit_inputs(const Arguments &arguments, Visitor &visitor) {
   return batch.run();
 }
 
+std::string object_heading(const Source &source, const Object &object) {
+  std::string text = source.name() + ": object " + std::to_string(object.index);
+  if (!object.label.empty()) text += " (" + printable(object.label) + ")";
+  text +=
+      " at offset " + std::to_string(object.offset) + ", " + counted(object.octets.size(), "octet");
+  return painted(Paint::tag, text) + "\n";
+}
+
+std::string record_head(const std::string &path, const Object *object) {
+  std::string text = "{\"source\":" + json_string(path);
+  if (object == nullptr) return text;
+  text += ",\"index\":" + std::to_string(object->index) +
+          ",\"offset\":" + std::to_string(object->offset) +
+          ",\"length\":" + std::to_string(object->octets.size());
+  if (!object->label.empty()) text += ",\"label\":" + json_string(object->label);
+  return text;
+}
+
+std::string failure_record(const std::string &path, const Object *object, const Failure &failure) {
+  std::string text = record_head(path, object) +
+                     ",\"error\":{\"exit\":" + std::to_string(failure.code()) +
+                     ",\"message\":" + json_string(failure.what());
+  if (failure.report() != nullptr) text += "," + json_members(*failure.report());
+  return text + "}}\n";
+}
+
 void say_failure(const std::string &command,
                  const std::string &path,
                  const Object *object,

@@ -74,6 +74,13 @@ class Visitor {
 // Shows every object of the operands to the visitor, and returns the exit code.
 int visit_inputs(const Arguments &arguments, Visitor &visitor);
 
+// A line about an object, for people who look at several.
+std::string object_heading(const Source &source, const Object &object);
+// The start of a JSON object about an object of the input, or, for null, about a file.
+std::string record_head(const std::string &path, const Object *object);
+// The JSON line about a failure.
+std::string failure_record(const std::string &path, const Object *object, const Failure &failure);
+
 // The message of a failure on standard error, with the details of its report.
 void say_failure(const std::string &command,
                  const std::string &path,

@@ -169,6 +169,58 @@ std::string json_string(std::string_view text) {
   return out + "\"";
 }
 
+std::optional<std::string> utf8_text(std::uint64_t tag_number, Octets content) {
+  std::size_t width = 1;
+  if (tag_number == 28) width = 4;
+  if (tag_number == 30) width = 2;
+  if (width == 1) {
+    const bool utf8 = tag_number == 12;
+    const bool known =
+        utf8 || (tag_number >= 18 && tag_number <= 27 && tag_number != 23 && tag_number != 24);
+    const bool ascii = std::all_of(content.begin(), content.end(), [](auto c) { return c < 0x80; });
+    if (!known || !(ascii || utf8)) return std::nullopt;
+    std::string_view rest = as_text(content);
+    while (!rest.empty()) {
+      if (next_code_point(rest) == kInvalid) return std::nullopt;
+    }
+    return std::string(as_text(content));
+  }
+  if (content.size() % width != 0) return std::nullopt;
+  std::string text;
+  for (std::size_t i = 0; i < content.size(); i += width) {
+    char32_t c = 0;
+    for (std::size_t k = 0; k < width; k++) c = c << 8 | content[i + k];
+    if (c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) return std::nullopt;
+    append_utf8(text, c);
+  }
+  return text;
+}
+
+std::string escaped_4514(std::string_view text) {
+  constexpr std::string_view kSpecial = "\"+,;<>\\";
+  std::string out;
+  const std::size_t size = text.size();
+  while (!text.empty()) {
+    const bool first = text.size() == size;
+    const std::string_view before = text;
+    const char32_t c = next_code_point(text);
+    const std::string_view octets = before.substr(0, before.size() - text.size());
+    if (c == kInvalid || hidden(c)) {
+      for (const char octet : octets) {
+        out.push_back('\\');
+        append_hex(out, static_cast<std::uint8_t>(octet), 2);
+      }
+      continue;
+    }
+    const bool edge = (c == ' ' && (first || text.empty())) || (c == '#' && first);
+    if (edge || (c < 0x80 && kSpecial.find(static_cast<char>(c)) != std::string_view::npos)) {
+      out.push_back('\\');
+    }
+    out += octets;
+  }
+  return out;
+}
+
 std::string hex_octets(Octets octets, std::size_t most) {
   std::string out;
   for (const std::uint8_t octet : octets.first(std::min(most, octets.size()))) {

@@ -1,0 +1,197 @@
+// Typed values as lines for people.
+//
+//     Certificate
+//       tbsCertificate      TBSCertificate
+//         version           INTEGER 2 (v3)
+//         issuer            Name CN=Root,O=Example,C=DE
+//           [0]  2.5.4.6 countryName: PrintableString 'DE'
+//
+// Lines are written as the walk goes, so that a list of any length needs no memory.
+#include "cli/leaf.h"
+#include "cli/oid.h"
+#include "cli/output.h"
+#include "cli/show.h"
+#include "cli/value.h"
+
+namespace quarn::cli {
+
+namespace {
+
+constexpr std::size_t kMostIndent = 32;  // levels that are indented; see dump.cpp
+
+std::string indented(std::size_t level) {
+  if (level <= kMostIndent) return std::string(2 * level, ' ');
+  return std::string(2 * kMostIndent, ' ') +
+         painted(Paint::dim, "(depth " + std::to_string(level) + ") ");
+}
+
+// The name in ASN.1, with the one in use for object identifiers.
+std::string type_name(std::int64_t type_id) {
+  quarn_asn1_shape shape{};
+  static_cast<void>(quarn_asn1_type_shape(type_id, &shape));
+  return type_id == QUARN_ASN1_OID ? "OID" : shape.name;
+}
+
+// Why octets are not shown as what they should be.
+std::string trouble_text(const Node &node) {
+  return node.trouble.empty() ? "" : " " + painted(Paint::fault, "(" + node.trouble + ")");
+}
+
+// The alternatives that led to a value, what held it, and its type.
+std::string type_text(const Node &node) {
+  std::string text;
+  for (const char *alternative : node.alternatives) {
+    text += painted(Paint::name, alternative) + ": ";
+  }
+  if (node.holder >= 0 && node.holder != QUARN_ASN1_ANY) {
+    text += painted(Paint::tag, type_name(node.holder)) + painted(Paint::dim, " holds ");
+  }
+  return text + painted(Paint::tag, type_name(node.type_id));
+}
+
+std::string oid_with_name(const std::string &dotted) {
+  const OidName *name = find_oid(dotted);
+  return name == nullptr ? dotted : dotted + " " + painted(Paint::name, name->name);
+}
+
+// One element of a tree of any type.
+std::string element_text(const Walk &walk, bool encapsulates, std::size_t width) {
+  const Element &element = walk.element();
+  std::string text = painted(Paint::tag, tag_name(element.header));
+  if (encapsulates) return text + painted(Paint::dim, " holds");
+  if (element.constructed()) return text;
+  const std::string value = value_text(element.header, walk.content(), width);
+  return text + (value.empty() ? "" : " ") + value;
+}
+
+bool is_attribute(std::int64_t type_id) {
+  return type_id == QUARN_ASN1_X500ATTRTYPEDISTVAL || type_id == QUARN_ASN1_PKIXATTRTYPEVAL;
+}
+
+// Whether an attribute is a type and a primitive value and nothing else.
+bool is_plain_pair(const quarn_asn1_component &attribute) {
+  const std::int64_t count = quarn_asn1_component_count(attribute.type_id, attribute.value);
+  for (std::int64_t i = 2; i < count; i++) {
+    const quarn_asn1_component more = component_of(attribute.type_id, attribute.value, i);
+    if (more.value != nullptr && more.is_default == 0) return false;
+  }
+  const quarn_asn1_component value = component_of(attribute.type_id, attribute.value, 1);
+  std::uint32_t primitive = 0;
+  return value.type_id == QUARN_ASN1_ANY && value.value != nullptr &&
+         quarn_asn1_any_isprimitive(static_cast<const quarn_asn1_any *>(value.value), &primitive) ==
+             1 &&
+         primitive == 1;
+}
+
+}  // namespace
+
+void TextShow::line(const Node &node, const std::string &text) const {
+  std::string label = node.label;
+  if (!label.empty()) {
+    const std::size_t gap = node.label_width - std::min(node.label_width, label.size()) + 2;
+    label += std::string(gap, ' ');
+  }
+  standard_output().write(indented(indent()) + label + text + "\n");
+}
+
+void TextShow::pair(const Node &node, const quarn_asn1_component &attribute) const {
+  const quarn_asn1_component type = component_of(attribute.type_id, attribute.value, 0);
+  const quarn_asn1_component value = component_of(attribute.type_id, attribute.value, 1);
+  const std::vector<std::uint8_t> octets = octets_of(value.type_id, value.value);
+  elements(node, oid_with_name(oid_text(type.value)) + ": ", octets);
+}
+
+// Writes an attribute of a Name, or a set of one, on one line.
+bool TextShow::fold(const Node &node) const {
+  quarn_asn1_component attribute{nullptr, const_cast<void *>(node.value), node.type_id, 0, 0};
+  if (node.type_id == QUARN_ASN1_X500RDN &&
+      quarn_asn1_component_count(node.type_id, node.value) == 1) {
+    attribute = component_of(node, 0);
+  }
+  if (!is_attribute(attribute.type_id) || !is_plain_pair(attribute)) return false;
+  pair(node, attribute);
+  return true;
+}
+
+bool TextShow::enter(const Node &node, std::int64_t count) {
+  if (fold(node)) return false;
+  if (node.parent_type == QUARN_ASN1_X500NAME && node.list() &&
+      node.type_id != QUARN_ASN1_X500RDN) {
+    indents_.push_back(indent());  // the list that a Name is: its own line says nothing
+    return true;
+  }
+  std::string text = type_text(node);
+  if (node.type_id == QUARN_ASN1_X500NAME) {
+    text += " " + painted(Paint::text, cut(name_text(node), width_));
+  } else if (node.list()) {
+    text += painted(Paint::dim, ", " + counted(static_cast<std::uint64_t>(count), "element"));
+  }
+  line(node, text + (node.is_default ? painted(Paint::dim, " (default)") : ""));
+  indents_.push_back(indent() + 1);
+  return true;
+}
+
+// The elements of a tree: the first one beside the label, the others below it.
+void TextShow::elements(const Node &node, const std::string &before, Octets octets) const {
+  Walk walk(octets);
+  bool first = true;
+  Walk::Step step = walk.next();
+  for (; step == Walk::Step::element; step = walk.next()) {
+    const Element &element = walk.element();
+    if (element.end_of_contents) continue;
+    const std::optional<std::uint64_t> inside = encapsulated(walk);
+    const std::string text = element_text(walk, inside.has_value(), width_);
+    if (first) {
+      line(node, before + text + trouble_text(node));
+    } else {
+      standard_output().write(indented(indent() + element.depth) + text + "\n");
+    }
+    first = false;
+    if (inside) walk.descend(*inside);
+  }
+  if (step == Walk::Step::end) return;
+  const std::string why = painted(Paint::fault, "(no encoding: " + walk.fault().found + ")");
+  if (first) return line(node, before + why);
+  standard_output().write(indented(indent() + 1) + why + "\n");
+}
+
+// A string in which something known was to be found, and what is there instead.
+std::string TextShow::string_with_elements(const Node &node, Octets content) const {
+  const bool bits = node.shape.base == QUARN_ASN1_BITSTRING;
+  const bool whole = !bits || (!content.empty() && content[0] == 0);
+  const Octets inside = bits && whole ? content.subspan(1) : content;
+  if (!whole || !sensible_encodings(inside)) {
+    return " " + leaf_text(node, width_) + trouble_text(node);
+  }
+  std::string text = painted(Paint::dim, " holds") + trouble_text(node);
+  Walk walk(inside, Walk::Top::several);
+  while (walk.next() == Walk::Step::element) {
+    const Element &element = walk.element();
+    if (element.end_of_contents) continue;
+    const std::optional<std::uint64_t> deeper = encapsulated(walk);
+    text += "\n" + indented(indent() + 1 + element.depth) +
+            element_text(walk, deeper.has_value(), width_);
+    if (deeper) walk.descend(*deeper);
+  }
+  return text;
+}
+
+void TextShow::leaf(const Node &node) {
+  if (node.shape.base == QUARN_ASN1_ANY) {
+    std::string before;
+    for (const char *alternative : node.alternatives) {
+      before += painted(Paint::name, alternative) + ": ";
+    }
+    return elements(node, before, octets_of(node.type_id, node.value));
+  }
+  std::string text = type_text(node);
+  if (node.place && node.holder < 0) {
+    text += string_with_elements(node, octets_of(node.type_id, node.value));
+  } else {
+    const std::string value = leaf_text(node, width_);
+    text += (value.empty() ? "" : " ") + value;
+  }
+  line(node, text + (node.is_default ? painted(Paint::dim, " (default)") : ""));
+}
+
+}  // namespace quarn::cli
