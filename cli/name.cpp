@@ -82,12 +82,9 @@ std::string relative_name_text(const quarn_asn1_component &relative) {
 }  // namespace
 
 std::string name_text(const Node &name) {
-  quarn_asn1_component list{nullptr, const_cast<void *>(name.value), name.type_id, 0, 0};
-  if (!name.list()) list = component_of(name, 0);
   std::string text;
-  for (std::int64_t i = quarn_asn1_component_count(list.type_id, list.value); i-- > 0;) {
-    text +=
-        (text.empty() ? "" : ",") + relative_name_text(component_of(list.type_id, list.value, i));
+  for (std::int64_t i = quarn_asn1_component_count(name.type_id, name.value); i-- > 0;) {
+    text += (text.empty() ? "" : ",") + relative_name_text(component_of(name, i));
   }
   return text;
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cli/typed.h"
+#include "cli/walk.h"
 
 namespace quarn::cli {
 
@@ -19,15 +20,16 @@ class TextShow : public TypedVisitor {
   void leave() override { indents_.pop_back(); }
   void leaf(const Node &node) override;
   // An encoding of any type, as its elements.
-  void tree(Octets octets) const { elements(Node(), "", octets); }
+  void tree(Octets octets) const;
 
  private:
   std::size_t indent() const { return indents_.empty() ? 0 : indents_.back(); }
+  std::string head(const Node &node) const;
   void line(const Node &node, const std::string &text) const;
   bool fold(const Node &node) const;
   void pair(const Node &node, const quarn_asn1_component &attribute) const;
-  std::string string_with_elements(const Node &node, Octets content) const;
-  void elements(const Node &node, const std::string &before, Octets octets) const;
+  void unopened(const Node &node) const;
+  void elements(Octets octets, Walk::Top top, std::string first, const std::string &after) const;
 
   std::size_t width_;
   std::vector<std::size_t> indents_;  // of the components of each level that is open

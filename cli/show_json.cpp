@@ -87,15 +87,13 @@ std::string JsonShow::begin(const Node &node) {
 
 bool JsonShow::enter(const Node &node, std::int64_t /*count*/) {
   std::string end = begin(node);
+  if (node.type_id == QUARN_ASN1_X500NAME) {
+    standard_output().write("{\"rfc4514\":" + json_string(name_text(node)) + ",\"rdnSequence\":");
+    end = "}" + end;
+  }
   const bool object = !node.list();
   standard_output().write(object ? "{" : "[");
   levels_.push_back({object, true, (object ? "}" : "]") + end});
-  if (node.type_id == QUARN_ASN1_X500NAME && object) {
-    levels_.back().empty = false;
-    new_line();
-    standard_output().write((indent_ == 0 ? "\"rfc4514\":" : "\"rfc4514\": ") +
-                            json_string(name_text(node)));
-  }
   return true;
 }
 

@@ -37,12 +37,17 @@ std::string trouble_text(const Node &node) {
   return node.trouble.empty() ? "" : " " + painted(Paint::fault, "(" + node.trouble + ")");
 }
 
-// The alternatives that led to a value, what held it, and its type.
-std::string type_text(const Node &node) {
+std::string alternatives_text(const Node &node) {
   std::string text;
   for (const char *alternative : node.alternatives) {
     text += painted(Paint::name, alternative) + ": ";
   }
+  return text;
+}
+
+// The alternatives that led to a value, what held it, and its type.
+std::string type_text(const Node &node) {
+  std::string text = alternatives_text(node);
   if (node.holder >= 0 && node.holder != QUARN_ASN1_ANY) {
     text += painted(Paint::tag, type_name(node.holder)) + painted(Paint::dim, " holds ");
   }
@@ -85,20 +90,23 @@ bool is_plain_pair(const quarn_asn1_component &attribute) {
 
 }  // namespace
 
+// Indentation and label, with the blanks that put what follows into one column.
+std::string TextShow::head(const Node &node) const {
+  if (node.label.empty()) return indented(indent());
+  const std::size_t gap = node.label_width - std::min(node.label_width, node.label.size()) + 2;
+  return indented(indent()) + node.label + std::string(gap, ' ');
+}
+
 void TextShow::line(const Node &node, const std::string &text) const {
-  std::string label = node.label;
-  if (!label.empty()) {
-    const std::size_t gap = node.label_width - std::min(node.label_width, label.size()) + 2;
-    label += std::string(gap, ' ');
-  }
-  standard_output().write(indented(indent()) + label + text + "\n");
+  const std::string mark = node.is_default ? painted(Paint::dim, " (default)") : "";
+  standard_output().write(head(node) + text + trouble_text(node) + mark + "\n");
 }
 
 void TextShow::pair(const Node &node, const quarn_asn1_component &attribute) const {
   const quarn_asn1_component type = component_of(attribute.type_id, attribute.value, 0);
   const quarn_asn1_component value = component_of(attribute.type_id, attribute.value, 1);
   const std::vector<std::uint8_t> octets = octets_of(value.type_id, value.value);
-  elements(node, oid_with_name(oid_text(type.value)) + ": ", octets);
+  elements(octets, Walk::Top::one, head(node) + oid_with_name(oid_text(type.value)) + ": ", "");
 }
 
 // Writes an attribute of a Name, or a set of one, on one line.
@@ -115,83 +123,68 @@ bool TextShow::fold(const Node &node) const {
 
 bool TextShow::enter(const Node &node, std::int64_t count) {
   if (fold(node)) return false;
-  if (node.parent_type == QUARN_ASN1_X500NAME && node.list() &&
-      node.type_id != QUARN_ASN1_X500RDN) {
-    indents_.push_back(indent());  // the list that a Name is: its own line says nothing
-    return true;
-  }
   std::string text = type_text(node);
   if (node.type_id == QUARN_ASN1_X500NAME) {
     text += " " + painted(Paint::text, cut(name_text(node), width_));
   } else if (node.list()) {
     text += painted(Paint::dim, ", " + counted(static_cast<std::uint64_t>(count), "element"));
   }
-  line(node, text + (node.is_default ? painted(Paint::dim, " (default)") : ""));
+  line(node, text);
   indents_.push_back(indent() + 1);
   return true;
 }
 
-// The elements of a tree: the first one beside the label, the others below it.
-void TextShow::elements(const Node &node, const std::string &before, Octets octets) const {
-  Walk walk(octets);
-  bool first = true;
+// A line for each element. That of the first begins with `first`, unless that is empty, and goes on
+// with `after`.
+void TextShow::elements(Octets octets,
+                        Walk::Top top,
+                        std::string first,
+                        const std::string &after) const {
+  const std::size_t level = indent() + (first.empty() ? 1 : 0);
+  Walk walk(octets, top);
   Walk::Step step = walk.next();
   for (; step == Walk::Step::element; step = walk.next()) {
     const Element &element = walk.element();
     if (element.end_of_contents) continue;
     const std::optional<std::uint64_t> inside = encapsulated(walk);
     const std::string text = element_text(walk, inside.has_value(), width_);
-    if (first) {
-      line(node, before + text + trouble_text(node));
-    } else {
-      standard_output().write(indented(indent() + element.depth) + text + "\n");
-    }
-    first = false;
+    if (first.empty()) first = indented(level + element.depth);
+    standard_output().write(first + text + (element.offset == 0 ? after : "") + "\n");
+    first.clear();
     if (inside) walk.descend(*inside);
   }
   if (step == Walk::Step::end) return;
-  const std::string why = painted(Paint::fault, "(no encoding: " + walk.fault().found + ")");
-  if (first) return line(node, before + why);
-  standard_output().write(indented(indent() + 1) + why + "\n");
+  if (first.empty()) first = indented(level);
+  standard_output().write(
+      first + painted(Paint::fault, "(no encoding: " + walk.fault().found + ")") + "\n");
 }
 
-// A string in which something known was to be found, and what is there instead.
-std::string TextShow::string_with_elements(const Node &node, Octets content) const {
+void TextShow::tree(Octets octets) const {
+  elements(octets, Walk::Top::one, indented(indent()), "");
+}
+
+// A string in which a type was to be found that is not known, or not there.
+void TextShow::unopened(const Node &node) const {
+  const std::vector<std::uint8_t> content = octets_of(node.type_id, node.value);
   const bool bits = node.shape.base == QUARN_ASN1_BITSTRING;
   const bool whole = !bits || (!content.empty() && content[0] == 0);
-  const Octets inside = bits && whole ? content.subspan(1) : content;
+  const Octets inside = bits && whole ? Octets(content).subspan(1) : Octets(content);
   if (!whole || !sensible_encodings(inside)) {
-    return " " + leaf_text(node, width_) + trouble_text(node);
+    return line(node, type_text(node) + " " + leaf_text(node, width_));
   }
-  std::string text = painted(Paint::dim, " holds") + trouble_text(node);
-  Walk walk(inside, Walk::Top::several);
-  while (walk.next() == Walk::Step::element) {
-    const Element &element = walk.element();
-    if (element.end_of_contents) continue;
-    const std::optional<std::uint64_t> deeper = encapsulated(walk);
-    text += "\n" + indented(indent() + 1 + element.depth) +
-            element_text(walk, deeper.has_value(), width_);
-    if (deeper) walk.descend(*deeper);
-  }
-  return text;
+  line(node, type_text(node) + painted(Paint::dim, " holds"));
+  elements(inside, Walk::Top::several, "", "");
 }
 
 void TextShow::leaf(const Node &node) {
   if (node.shape.base == QUARN_ASN1_ANY) {
-    std::string before;
-    for (const char *alternative : node.alternatives) {
-      before += painted(Paint::name, alternative) + ": ";
-    }
-    return elements(node, before, octets_of(node.type_id, node.value));
+    const std::vector<std::uint8_t> octets = octets_of(node.type_id, node.value);
+    return elements(octets, Walk::Top::one, head(node) + alternatives_text(node),
+                    trouble_text(node));
   }
-  std::string text = type_text(node);
-  if (node.place && node.holder < 0) {
-    text += string_with_elements(node, octets_of(node.type_id, node.value));
-  } else {
-    const std::string value = leaf_text(node, width_);
-    text += (value.empty() ? "" : " ") + value;
-  }
-  line(node, text + (node.is_default ? painted(Paint::dim, " (default)") : ""));
+  if (node.place && node.holder < 0) return unopened(node);
+  const std::string value = leaf_text(node, width_);
+  line(node, type_text(node) + (value.empty() ? "" : " ") + value);
 }
 
 }  // namespace quarn::cli
