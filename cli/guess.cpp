@@ -107,8 +107,12 @@ bool try_type(Guess &result, std::int64_t type_id, Octets octets) {
 Guess guess(Octets octets, const std::string &label) {
   Guess result;
   for (const auto &candidate : kCandidates) {
-    if (!has_label(candidate.labels, label) || !supported(candidate.type_id)) continue;
-    static_cast<void>(try_type(result, candidate.type_id, octets));
+    if (!has_label(candidate.labels, label)) continue;
+    if (supported(candidate.type_id)) {
+      static_cast<void>(try_type(result, candidate.type_id, octets));
+    } else {
+      result.named = candidate.type_id;
+    }
     return result;
   }
   for (const auto &candidate : kCandidates) {
@@ -120,6 +124,9 @@ Guess guess(Octets octets, const std::string &label) {
 }
 
 Failure no_type(const Guess &guess, Octets octets) {
+  if (guess.named >= 0) {
+    return {kBadInput, "this version cannot decode the type " + notation_of(guess.named)};
+  }
   Report report;
   report.found = "no value of these types";
   report.tried = guess.failed;
@@ -127,8 +134,7 @@ Failure no_type(const Guess &guess, Octets octets) {
   if (report.tried.size() > kMostReasons) report.tried.resize(kMostReasons);
   if (!report.tried.empty()) report.offset = report.tried.front().offset;
   return failure_of(std::move(report), octets,
-                    "of none of the " + count + " tried; --type names another, or 'quarn dump' " +
-                        "shows any encoding");
+                    "is of none of the " + count + " tried; --type names another");
 }
 
 Decoded decode_as(std::int64_t type_id, Octets octets) {

@@ -2,6 +2,7 @@
 #ifndef QUARN_CLI_SHOW_H
 #define QUARN_CLI_SHOW_H
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,7 +30,10 @@ class TextShow : public TypedVisitor {
   bool fold(const Node &node) const;
   void pair(const Node &node, const quarn_asn1_component &attribute) const;
   void unopened(const Node &node) const;
-  void elements(Octets octets, Walk::Top top, std::string first, const std::string &after) const;
+  void elements(Octets octets,
+                Walk::Top top,
+                const std::optional<std::string> &head,
+                const std::string &after) const;
 
   std::size_t width_;
   std::vector<std::size_t> indents_;  // of the components of each level that is open

@@ -134,33 +134,34 @@ bool TextShow::enter(const Node &node, std::int64_t count) {
   return true;
 }
 
-// A line for each element. That of the first begins with `first`, unless that is empty, and goes on
-// with `after`.
+// A line for each element. What stands before the first one on its line is in `head`; without one
+// the elements begin a level deeper. `after` follows the first.
 void TextShow::elements(Octets octets,
                         Walk::Top top,
-                        std::string first,
+                        const std::optional<std::string> &head,
                         const std::string &after) const {
-  const std::size_t level = indent() + (first.empty() ? 1 : 0);
+  const std::size_t level = indent() + (head ? 0 : 1);
   Walk walk(octets, top);
+  bool first = head.has_value();
   Walk::Step step = walk.next();
   for (; step == Walk::Step::element; step = walk.next()) {
     const Element &element = walk.element();
     if (element.end_of_contents) continue;
     const std::optional<std::uint64_t> inside = encapsulated(walk);
     const std::string text = element_text(walk, inside.has_value(), width_);
-    if (first.empty()) first = indented(level + element.depth);
-    standard_output().write(first + text + (element.offset == 0 ? after : "") + "\n");
-    first.clear();
+    standard_output().write(first ? *head + text + after + "\n"
+                                  : indented(level + element.depth) + text + "\n");
+    first = false;
     if (inside) walk.descend(*inside);
   }
   if (step == Walk::Step::end) return;
-  if (first.empty()) first = indented(level);
-  standard_output().write(
-      first + painted(Paint::fault, "(no encoding: " + walk.fault().found + ")") + "\n");
+  standard_output().write((first ? *head : indented(level)) +
+                          painted(Paint::fault, "(no encoding: " + walk.fault().found + ")") +
+                          "\n");
 }
 
 void TextShow::tree(Octets octets) const {
-  elements(octets, Walk::Top::one, indented(indent()), "");
+  elements(octets, Walk::Top::one, "", "");
 }
 
 // A string in which a type was to be found that is not known, or not there.
@@ -173,7 +174,7 @@ void TextShow::unopened(const Node &node) const {
     return line(node, type_text(node) + " " + leaf_text(node, width_));
   }
   line(node, type_text(node) + painted(Paint::dim, " holds"));
-  elements(inside, Walk::Top::several, "", "");
+  elements(inside, Walk::Top::several, std::nullopt, "");
 }
 
 void TextShow::leaf(const Node &node) {

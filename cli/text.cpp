@@ -116,6 +116,22 @@ void append_json_escape(std::string &out, char32_t unit) {
   append_hex(out, unit, 4);
 }
 
+bool is_utf8(std::string_view text) {
+  while (!text.empty()) {
+    if (next_code_point(text) == kInvalid) return false;
+  }
+  return true;
+}
+
+// Character strings of an octet a character, and UTF8String.
+std::optional<std::string> narrow_text(std::uint64_t tag_number, Octets content) {
+  constexpr std::uint64_t kTags[] = {18, 19, 20, 21, 22, 25, 26, 27};
+  const bool ascii = std::all_of(content.begin(), content.end(), [](auto c) { return c < 0x80; });
+  const bool known = std::find(std::begin(kTags), std::end(kTags), tag_number) != std::end(kTags);
+  if (tag_number == 12 ? !is_utf8(as_text(content)) : !known || !ascii) return std::nullopt;
+  return std::string(as_text(content));
+}
+
 }  // namespace
 
 std::string printable(std::string_view text) {
@@ -170,21 +186,8 @@ std::string json_string(std::string_view text) {
 }
 
 std::optional<std::string> utf8_text(std::uint64_t tag_number, Octets content) {
-  std::size_t width = 1;
-  if (tag_number == 28) width = 4;
-  if (tag_number == 30) width = 2;
-  if (width == 1) {
-    const bool utf8 = tag_number == 12;
-    const bool known =
-        utf8 || (tag_number >= 18 && tag_number <= 27 && tag_number != 23 && tag_number != 24);
-    const bool ascii = std::all_of(content.begin(), content.end(), [](auto c) { return c < 0x80; });
-    if (!known || !(ascii || utf8)) return std::nullopt;
-    std::string_view rest = as_text(content);
-    while (!rest.empty()) {
-      if (next_code_point(rest) == kInvalid) return std::nullopt;
-    }
-    return std::string(as_text(content));
-  }
+  if (tag_number != 28 && tag_number != 30) return narrow_text(tag_number, content);
+  const std::size_t width = tag_number == 28 ? 4 : 2;
   if (content.size() % width != 0) return std::nullopt;
   std::string text;
   for (std::size_t i = 0; i < content.size(); i += width) {

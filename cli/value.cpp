@@ -234,7 +234,7 @@ bool sensible_encodings(Octets octets) {
   Walk::Step step = walk.next();
   for (; step == Walk::Step::element; step = walk.next()) {
     const Element &found = walk.element();
-    if (found.depth > 0 || found.constructed()) continue;
+    if (found.depth > 0 || found.constructed() || found.end_of_contents) continue;
     if (found.header.tag_class != kUniversal || !plausible(found.header, walk.content())) {
       return false;
     }
