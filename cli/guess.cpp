@@ -1,8 +1,8 @@
 #include "cli/guess.h"
 
+#include <strings.h>
+
 #include <algorithm>
-#include <cstring>
-#include <optional>
 
 #include "cli/failure.h"
 #include "cli/handles.h"
@@ -102,6 +102,27 @@ bool try_type(Guess &result, std::int64_t type_id, Octets octets) {
   return true;
 }
 
+std::string registered_name(std::int64_t type_id) {
+  quarn_asn1_type_description type{};
+  return quarn_asn1_type_describe(type_id, &type) == 1 ? type.name : "";
+}
+
+bool same_word(const std::string &a, const std::string &b) {
+  return strcasecmp(a.c_str(), b.c_str()) == 0;
+}
+
+UsageError no_such_type(const std::string &command, const std::string &name) {
+  std::vector<std::string> names;
+  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    names.push_back(registered_name(id));
+    if (supported(id)) names.push_back(notation_of(id));
+  }
+  const std::string near = nearest(name, names);
+  return {command,
+          "there is no type " + in_quotes(name) +
+              (near.empty() ? "; 'quarn types' lists them" : "; did you mean '" + near + "'?")};
+}
+
 }  // namespace
 
 Guess guess(Octets octets, const std::string &label) {
@@ -150,27 +171,15 @@ std::string notation_of(std::int64_t type_id) {
 }
 
 std::int64_t type_named(const std::string &command, const std::string &name) {
-  std::vector<std::string> names;
-  std::optional<std::int64_t> found;
-  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
-    quarn_asn1_type_description type{};
-    static_cast<void>(quarn_asn1_type_describe(id, &type));
-    const std::string notation = notation_of(id);
-    names.emplace_back(type.name);
-    if (type.supported == 1) names.push_back(notation);
-    const bool same = name == std::to_string(id) || strcasecmp(name.c_str(), type.name) == 0;
-    const bool written_so = type.supported == 1 && strcasecmp(name.c_str(), notation.c_str()) == 0;
-    if (same) found = id;
-    if (same || (written_so && !found)) found = id;
-    if (same) break;
+  std::int64_t found = -1;
+  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT && found < 0; id++) {
+    if (name == std::to_string(id) || same_word(name, registered_name(id))) found = id;
   }
-  if (!found) {
-    const std::string near = nearest(name, names);
-    throw UsageError(command, "there is no type " + in_quotes(name) +
-                                  (near.empty() ? "; 'quarn types' lists them"
-                                                : "; did you mean '" + near + "'?"));
+  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT && found < 0; id++) {
+    if (supported(id) && same_word(name, notation_of(id))) found = id;
   }
-  if (supported(*found)) return *found;
+  if (found < 0) throw no_such_type(command, name);
+  if (supported(found)) return found;
   throw UsageError(command, "this version cannot decode the type " + in_quotes(name));
 }
 

@@ -175,7 +175,7 @@ std::string plain_hex(Octets octets) {
 
 std::string leaf_text(const Node &node, std::size_t width) {
   const std::vector<std::uint8_t> content = octets_of(node.type_id, node.value);
-  const std::string plain = value_text(header_of(node), content, width);
+  std::string plain = value_text(header_of(node), content, width);
   switch (node.shape.base) {
     case QUARN_ASN1_INTEGER:
     case QUARN_ASN1_ENUMERATED:

@@ -12,15 +12,15 @@ namespace quarn::cli {
 namespace {
 
 constexpr OpenRecord kRecords[] = {
-    {QUARN_ASN1_X509EXTENSION, Place::extension, 2, false},
-    {QUARN_ASN1_X500ATTRTYPEDISTVAL, Place::attribute, 1, false},
-    {QUARN_ASN1_PKIXATTRTYPEVAL, Place::attribute, 1, false},
-    {QUARN_ASN1_X500ATTRIBUTE, Place::attribute, 1, true},
-    {QUARN_ASN1_PKCS10ATTRIBUTE, Place::attribute, 1, true},
-    {QUARN_ASN1_X509POLICYQUALIFIERINFO, Place::qualifier, 1, false},
-    {QUARN_ASN1_QCSTATEMENT, Place::statement, 1, false},
-    {QUARN_ASN1_X509ALGORITHMID, Place::parameters, 1, false},
-    {QUARN_ASN1_X509PUBLICKEYINFO, Place::key, 1, false},
+    {QUARN_ASN1_X509EXTENSION, 2, Place::extension, false},
+    {QUARN_ASN1_X500ATTRTYPEDISTVAL, 1, Place::attribute, false},
+    {QUARN_ASN1_PKIXATTRTYPEVAL, 1, Place::attribute, false},
+    {QUARN_ASN1_X500ATTRIBUTE, 1, Place::attribute, true},
+    {QUARN_ASN1_PKCS10ATTRIBUTE, 1, Place::attribute, true},
+    {QUARN_ASN1_X509POLICYQUALIFIERINFO, 1, Place::qualifier, false},
+    {QUARN_ASN1_QCSTATEMENT, 1, Place::statement, false},
+    {QUARN_ASN1_X509ALGORITHMID, 1, Place::parameters, false},
+    {QUARN_ASN1_X509PUBLICKEYINFO, 1, Place::key, false},
 };
 
 constexpr const char *kKeyUsages =

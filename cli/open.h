@@ -20,8 +20,8 @@ enum class Place { extension, attribute, qualifier, statement, parameters, key }
 // list of such values when `elements` is set.
 struct OpenRecord {
   std::int64_t type_id;
-  Place place;
   std::int64_t value;
+  Place place;
   bool elements;
 };
 // Null for a record that is no such one.

@@ -149,8 +149,10 @@ void TextShow::elements(Octets octets,
     if (element.end_of_contents) continue;
     const std::optional<std::uint64_t> inside = encapsulated(walk);
     const std::string text = element_text(walk, inside.has_value(), width_);
-    standard_output().write(first ? *head + text + after + "\n"
-                                  : indented(level + element.depth) + text + "\n");
+    std::string line = first ? *head : indented(level + element.depth);
+    line += text;
+    if (first) line += after;
+    standard_output().write(line + "\n");
     first = false;
     if (inside) walk.descend(*inside);
   }
