@@ -12,6 +12,8 @@ int run_json(const Arguments &arguments);
 int run_der(const Arguments &arguments);
 int run_decode(const Arguments &arguments);
 int run_dump(const Arguments &arguments);
+int run_check(const Arguments &arguments);
+int run_convert(const Arguments &arguments);
 int run_types(const Arguments &arguments);
 int run_error(const Arguments &arguments);
 int run_help(const Arguments &arguments);

@@ -130,7 +130,7 @@ class Lines : public Decode {
   using Decode::Decode;
 
   void failure(const std::string &path, const Object *object, const Failure &failure) override {
-    standard_output().write(failure_record(path, object, failure));
+    write_json_failure(path, object, failure);
   }
 
  protected:
@@ -138,7 +138,7 @@ class Lines : public Decode {
             const Object &object,
             const Decoded &value,
             bool /*several*/) override {
-    standard_output().write(record_head(source.path(), &object) + ",\"type\":" +
+    standard_output().write(json_head(source.path(), &object) + ",\"type\":" +
                             json_string(notation_of(value.type_id())) + ",\"value\":");
     JsonShow show(0);
     walk_value(value.type_id(), value.get(), show);

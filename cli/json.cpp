@@ -53,12 +53,12 @@ class Lines : public Visitor {
  public:
   void object(const Source &source, const Object &object, bool /*several*/) override {
     const Json json = document_of(object);
-    standard_output().write(record_head(source.path(), &object) + ",\"document\":");
+    standard_output().write(json_head(source.path(), &object) + ",\"document\":");
     write(json.get(), 0);
     standard_output().write("}\n");
   }
   void failure(const std::string &path, const Object *object, const Failure &failure) override {
-    standard_output().write(failure_record(path, object, failure));
+    write_json_failure(path, object, failure);
   }
 };
 

@@ -116,19 +116,13 @@ void append_json_escape(std::string &out, char32_t unit) {
   append_hex(out, unit, 4);
 }
 
-bool is_utf8(std::string_view text) {
-  while (!text.empty()) {
-    if (next_code_point(text) == kInvalid) return false;
-  }
-  return true;
-}
-
 // Character strings of an octet a character, and UTF8String.
 std::optional<std::string> narrow_text(std::uint64_t tag_number, Octets content) {
   constexpr std::uint64_t kTags[] = {18, 19, 20, 21, 22, 25, 26, 27};
   const bool ascii = std::all_of(content.begin(), content.end(), [](auto c) { return c < 0x80; });
   const bool known = std::find(std::begin(kTags), std::end(kTags), tag_number) != std::end(kTags);
-  if (tag_number == 12 ? !is_utf8(as_text(content)) : !known || !ascii) return std::nullopt;
+  if (tag_number == 12 ? utf8_prefix(as_text(content)) != content.size() : !known || !ascii)
+    return std::nullopt;
   return std::string(as_text(content));
 }
 
@@ -162,6 +156,15 @@ std::string printable_wide(Octets octets, std::size_t width) {
   }
   for (; i < octets.size(); i++) append_octet_escape(out, octets[i]);
   return out;
+}
+
+std::size_t utf8_prefix(std::string_view text) {
+  std::string_view rest = text;
+  while (!rest.empty()) {
+    const std::size_t good = text.size() - rest.size();
+    if (next_code_point(rest) == kInvalid) return good;
+  }
+  return text.size();
 }
 
 std::string json_string(std::string_view text) {

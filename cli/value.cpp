@@ -134,6 +134,45 @@ bool ascii(Octets content) {
   return std::all_of(content.begin(), content.end(), [](std::uint8_t c) { return c < 0x80; });
 }
 
+// Whether content can be that of a primitive element with this tag: what a value of the type must
+// look like, for the universal types that are commonly found inside strings.
+bool plausible(const quarn_asn1_header &header, Octets content) {
+  switch (header.tag_number) {
+    case 1:
+      return content.size() == 1;
+    case 2:
+    case 10:
+      return !content.empty();
+    case 3:
+      return bit_string(content);
+    case 4:
+      return true;
+    case 5:
+      return content.empty();
+    case 6:
+      return dotted_oid(content).has_value();
+    case 12:
+      return quarn_utf8_valid(content.data(), static_cast<std::int64_t>(content.size())) == 1;
+    case 18:
+    case 19:
+      return printable_string(content);
+    case 20:
+      return true;
+    case 22:
+    case 26:
+      return ascii(content);
+    case 23:
+    case 24:
+      return content.size() >= 10 && digits(as_text(content.first(10)));
+    case 28:
+      return content.size() % 4 == 0;
+    case 30:
+      return content.size() % 2 == 0;
+    default:
+      return false;
+  }
+}
+
 }  // namespace
 
 std::optional<TimeText> read_time(Octets content, bool short_year) {
@@ -188,43 +227,6 @@ std::string value_text(const quarn_asn1_header &header, Octets content, std::siz
       return string_value(content, width, 2);
     default:
       return octets_value(content, width);
-  }
-}
-
-bool plausible(const quarn_asn1_header &header, Octets content) {
-  switch (header.tag_number) {
-    case 1:
-      return content.size() == 1;
-    case 2:
-    case 10:
-      return !content.empty();
-    case 3:
-      return bit_string(content);
-    case 4:
-      return true;
-    case 5:
-      return content.empty();
-    case 6:
-      return dotted_oid(content).has_value();
-    case 12:
-      return quarn_utf8_valid(content.data(), static_cast<std::int64_t>(content.size())) == 1;
-    case 18:
-    case 19:
-      return printable_string(content);
-    case 20:
-      return true;
-    case 22:
-    case 26:
-      return ascii(content);
-    case 23:
-    case 24:
-      return content.size() >= 10 && digits(as_text(content.first(10)));
-    case 28:
-      return content.size() % 4 == 0;
-    case 30:
-      return content.size() % 2 == 0;
-    default:
-      return false;
   }
 }
 

@@ -23,15 +23,13 @@ std::optional<TimeText> read_time(Octets content, bool short_year);
 // nothing to show.
 std::string value_text(const quarn_asn1_header &header, Octets content, std::size_t width);
 
-// Whether content can be that of a primitive element with this tag: what a value of the type must
-// look like, for the universal types that are commonly found inside strings.
-bool plausible(const quarn_asn1_header &header, Octets content);
+// Where the encodings inside the element that the walk stands at start in its content: it is an
+// OCTET STRING or a BIT STRING that holds nothing else, and they make sense. Nothing when it holds
+// none.
+std::optional<std::uint64_t> encapsulated(const Walk &walk);
 
 // Whether the octets are encodings that make sense: any octets may happen to be well-formed.
 bool sensible_encodings(Octets octets);
-// Where the encodings inside a primitive OCTET STRING or BIT STRING start, at which a walk stands;
-// nothing when it holds none.
-std::optional<std::uint64_t> encapsulated(const Walk &walk);
 
 }  // namespace quarn::cli
 

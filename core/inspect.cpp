@@ -71,12 +71,17 @@ const Field &field_of(const Type &type, const void *value, std::size_t index) {
   return type.schema->is_choice() ? chosen(*type.schema, value) : type.schema->fields[index];
 }
 
+const quarn_asn1_list *list_of(const Type &type, const void *value) {
+  if (type.schema != nullptr) return list_in(*type.schema, value);
+  return static_cast<const quarn_asn1_list *>(value);
+}
+
 void *component_value(const Type &type, const void *value, std::int64_t index) {
   switch (kind_of(type)) {
     case QUARN_ASN1_KIND_LIST: {
       void *element = nullptr;
-      static_cast<void>(quarn_asn1_list_get(static_cast<const quarn_asn1_list *>(value),
-                                            static_cast<int>(index), &element));
+      static_cast<void>(
+          quarn_asn1_list_get(list_of(type, value), static_cast<int>(index), &element));
       return element;
     }
     case QUARN_ASN1_KIND_RECORD:
@@ -111,7 +116,7 @@ int64_t quarn_asn1_component_count(int64_t type_id, const void *value) {
     case QUARN_ASN1_KIND_RECORD:
       return static_cast<std::int64_t>(type->schema->fields.size());
     case QUARN_ASN1_KIND_LIST:
-      return quarn_asn1_list_getsize(static_cast<const quarn_asn1_list *>(value));
+      return quarn_asn1_list_getsize(list_of(*type, value));
     case QUARN_ASN1_KIND_CHOICE:
     case QUARN_ASN1_KIND_STRINGS:
       return 1;
