@@ -65,17 +65,32 @@ bool has_label(const char *labels, const std::string &label) {
   return !label.empty() && std::find(all.begin(), all.end(), label) != all.end();
 }
 
+// The type that should have stood where a decoder failed: that of the first record which is about a
+// type, for which layers leave the code of the component that failed.
+std::string expected_of(const Decoded &tried) {
+  const std::string whole = notation_of(tried.type_id());
+  for (const Record &record : tried.records()) {
+    for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
+      quarn_asn1_type_description type{};
+      static_cast<void>(quarn_asn1_type_describe(id, &type));
+      if (type.error_code + 1 == record.code) return notation_of(id) + ", in a value of " + whole;
+    }
+  }
+  return "a value of " + whole;
+}
+
 // Where octets stop being what a type demands, and why.
 Report report_of(const Decoded &tried, Octets octets) {
   Report report;
   report.records = tried.records();
-  report.expected = "a value of the type " + notation_of(tried.type_id());
+  report.expected = expected_of(tried);
   if (report.records.empty()) {
     report.found = tried.reason();
     return report;
   }
   place_at(report, octets,
            static_cast<std::uint64_t>(std::max<std::int64_t>(report.records[0].offset, 0)));
+  if (!tried.path().empty()) report.path = tried.path();
   return report;
 }
 

@@ -148,11 +148,11 @@ bool decodable(std::int64_t type_id) {
   return quarn_asn1_type_describe(type_id, &type) == 1 && type.supported == 1;
 }
 
-std::string reason_of(const std::vector<Record> &records) {
+std::string reason_of(const std::vector<Record> &records, const std::string &path) {
   if (records.empty()) return "nested too deep";
   const Record &first = records.front();
   const std::string place = first.offset < 0 ? "" : "offset " + std::to_string(first.offset) + ": ";
-  return place + printable(first.message);
+  return place + (path.empty() ? "" : path + ": ") + printable(first.message);
 }
 
 }  // namespace
@@ -196,7 +196,8 @@ Decoded::Decoded(std::int64_t type_id, Octets octets) : type_id_(type_id) {
   std::uint64_t consumed = 0;
   if (quarn_asn1_decode(stream.get(), type_id, &value_, &consumed, ctx.get()) != 1) {
     records_ = records_of(ctx.get());
-    reason_ = reason_of(records_);
+    path_ = quarn_err_ctx_path(ctx.get());
+    reason_ = reason_of(records_, path_);
   } else if (consumed != octets.size()) {
     reason_ = counted(octets.size() - consumed, "octet") + " after its end";
     quarn_asn1_value_free(type_id_, std::exchange(value_, nullptr));
@@ -207,13 +208,15 @@ Decoded::Decoded(Decoded &&other) noexcept
     : type_id_(other.type_id_),
       value_(std::exchange(other.value_, nullptr)),
       reason_(std::move(other.reason_)),
-      records_(std::move(other.records_)) {}
+      records_(std::move(other.records_)),
+      path_(std::move(other.path_)) {}
 
 Decoded &Decoded::operator=(Decoded &&other) noexcept {
   std::swap(type_id_, other.type_id_);
   std::swap(value_, other.value_);
   std::swap(reason_, other.reason_);
   std::swap(records_, other.records_);
+  std::swap(path_, other.path_);
   return *this;
 }
 

@@ -46,7 +46,7 @@ class Decoded {
  public:
   Decoded() = default;
   // All octets as one value of the type. When they are none, get() is null, reason() says why, and
-  // records() are what the library left.
+  // records() and path() are what the library left.
   Decoded(std::int64_t type_id, Octets octets);
   Decoded(Decoded &&other) noexcept;
   Decoded &operator=(Decoded &&other) noexcept;
@@ -56,12 +56,15 @@ class Decoded {
   void *get() const { return value_; }
   const std::string &reason() const { return reason_; }
   const std::vector<Record> &records() const { return records_; }
+  // "tbsCertificate.extensions[3].extnID", or nothing.
+  const std::string &path() const { return path_; }
 
  private:
   std::int64_t type_id_ = 0;
   void *value_ = nullptr;
   std::string reason_;
   std::vector<Record> records_;
+  std::string path_;
 };
 
 }  // namespace quarn::cli

@@ -35,6 +35,48 @@ LEAVES = [  # type, octets, line for people, JSON
     ("any", "30020500", "SEQUENCE", {"type": "SEQUENCE", "value": [{"type": "NULL"}]}),
 ]
 
+CONFIG = """[req]
+distinguished_name=name
+x509_extensions=v3
+prompt=no
+utf8=yes
+string_mask=utf8only
+[name]
+C=DE
+O=Ex, <A>
+CN=a\x1b[31m\u202e
+[v3]
+keyUsage=critical,keyCertSign,cRLSign
+basicConstraints=CA:TRUE,pathlen:0
+subjectAltName=DNS:example.org,IP:2001:db8::1,otherName:1.3.6.1.4.1.311.20.2.3;UTF8:u
+certificatePolicies=@policy
+nameConstraints=permitted;IP:10.0.0.0/255.0.0.0
+crlDistributionPoints=point
+[policy]
+policyIdentifier=1.2.3
+CPS.1=http://cps
+userNotice.1=@notice
+[notice]
+explicitText=UTF8:notice
+[point]
+fullname=URI:http://crl
+reasons=keyCompromise
+"""
+CERTIFICATE_LINES = r"""version               INTEGER 2 (v3)
+serialNumber          INTEGER 0x123456789abcdef012 (9 octets)
+subject               Name CN=a\1B[31m\E2\80\AE,O=Ex\, \<A\>,C=DE
+[2]  2.5.4.3 commonName: UTF8String 'a\u{1B}[31m\u{202E}'
+extnValue  OCTET STRING holds BIT STRING keyCertSign, cRLSign (7 bits) '0000011'B
+critical   BOOLEAN FALSE (default)
+[1]  iPAddress: OCTET STRING 2001:db8::1
+value    UTF8String 'u'
+algorithm   OID 1.3.6.1.5.5.7.2.1 cps (policy qualifier: certification practice statement)
+parameters  IA5String 'http://cps'
+explicitText  UTF8String 'notice'
+base     iPAddress: OCTET STRING 10.0.0.0/255.0.0.0
+distributionPoint  fullName: GeneralNames, 1 element
+reasons            BIT STRING keyCompromise (2 bits) '01'B""".splitlines()
+
 
 def extension(value, oid="551d0f"):
     body = bytes.fromhex("06") + bytes([len(oid) // 2]) + bytes.fromhex(oid)
@@ -122,7 +164,8 @@ class Types(Case):
         error = Run("decode", "--lines", data=data).records()[0]["error"]
         self.assertIn({"offset": 2}, [{"offset": each["offset"]} for each in error["tried"]])
         run = Run("decode", "-t", "Extension", data=data)
-        self.check(run, 1, "offset 2 (0x2): found INTEGER", "the type Extension", "0x1020a")
+        self.check(run, 1, "offset 2 (0x2): found INTEGER", "path      extnID",
+                   "expected  OBJECT IDENTIFIER, in a value of Extension", "0x1020a")
         self.check(Run("decode", data=b"\x30\x05\x02\x01"), 1, "expected  at most 0 octets")
 
     def test_labels_tell_the_type(self):
@@ -130,7 +173,40 @@ class Types(Case):
                                  "-----BEGIN X-----\nMAA=\n-----END X-----\n")
         records = Run("decode", "--lines", pem).records()
         self.assertEqual(len(records[0]["error"]["tried"]), 1)
-        self.assertEqual(records[1]["value"], [])
+        self.assertEqual((records[1]["type"], records[1]["value"]),
+                         ("Name", {"rfc4514": "", "rdnSequence": []}))
+
+    @unittest.skipUnless(shutil.which("openssl"), "no openssl to make certificates with")
+    def test_certificates_and_requests_of_openssl(self):
+        config = self.file("config", CONFIG)
+        for command in (f"req -x509 -newkey rsa:1024 -nodes -keyout key -config {config} -days 9 -out cert "
+                        "-set_serial 0x123456789abcdef012",
+                        f"req -new -key key -config {config} -reqexts v3 -out req"):
+            subprocess.run(["openssl", *command.split()], check=True, capture_output=True, cwd=self.path)
+        cert = str(self.path / "cert")
+        run = Run("decode", cert)
+        self.check(run, 0)
+        lines = [line.strip() for line in run.lines]
+        for line in CERTIFICATE_LINES:
+            self.assertIn(line, lines)
+        self.assertNotIn("(no ", run.out)
+        tbs = json.loads(Run("decode", "--json", cert).out)["tbsCertificate"]
+        self.assertEqual((tbs["version"], tbs["serialNumber"], tbs["subject"]["rfc4514"]),
+                         (2, "0x123456789abcdef012", r"CN=a\1B[31m\E2\80\AE,O=Ex\, \<A\>,C=DE"))
+        values = {each["extnID"]["name"]: each["extnValue"]["value"] for each in tbs["extensions"]}
+        self.assertEqual(values["subjectAltName"][:2], [{"dNSName": "example.org"}, {"iPAddress": "2001:db8::1"}])
+        self.assertEqual(values["keyUsage"]["names"], ["keyCertSign", "cRLSign"])
+        self.assertEqual(values["cRLDistributionPoints"][0]["reasons"]["names"], ["keyCompromise"])
+        request = json.loads(Run("decode", "--json", str(self.path / "req")).out)
+        opened = request["certificationRequestInfo"]["attributes"][0]["values"][0]
+        self.assertEqual((opened["type"], len(opened["value"])), ("Extensions", 6))
+
+        der = subprocess.run(["openssl", "x509", "-in", cert, "-outform", "DER"], check=True,
+                             capture_output=True).stdout
+        at = der.index(b"\x17\x0d")
+        run = Run("decode", data=der[:at] + b"\x16" + der[at + 1:])
+        self.check(run, 1, f"Certificate: offset {at}: tbsCertificate.validity.notBefore: found IA5String")
+        self.assertEqual(run.lines[0], "SEQUENCE")
 
     @unittest.skipUnless(shutil.which("openssl"), "no openssl to make keys with")
     def test_keys_of_openssl(self):
