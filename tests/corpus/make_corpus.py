@@ -5,7 +5,7 @@
 
 FOLDER gets a folder of DER files for each type, named after it, and `facts.json`: what openssl says
 about each file (see oracle.py). SOURCE is a folder of published certificates in PEM to add. A folder
-that is complete already is left alone.
+that is newer than the recipes is left alone.
 """
 
 import base64
@@ -295,7 +295,8 @@ def from_pem(path):
 
 def main(folder, source=None):
     folder, start = pathlib.Path(folder), time.monotonic()
-    if not (folder / "facts.json").exists():
+    made = folder / "facts.json"
+    if not made.exists() or made.stat().st_mtime < max(path.stat().st_mtime for path in HERE.iterdir()):
         Maker(folder).make(source)
     counts = {kind: len(list((folder / kind).glob("*.der"))) for kind in TYPES}
     print(f"corpus: {counts} in {time.monotonic() - start:.1f} s; refused by openssl:")
