@@ -6,8 +6,9 @@ import re
 
 from der import openssl
 
-OBJECTS = dict((match[3], (match[1], match[2])) for match in re.finditer(
-    r"^(.+?) = (.+), ([\d.]+)$", openssl("list", "-objects").decode(), re.MULTILINE))
+# By identifier: short name, long name.
+OBJECTS = dict((match[3], (match[1], match[2] or match[1])) for match in re.finditer(
+    r"^(.+?) = (?:(.+), )?([\d.]+)$", openssl("list", "-objects").decode(), re.MULTILINE))
 KEY_USAGES = ["Digital Signature", "Non Repudiation", "Key Encipherment", "Data Encipherment", "Key Agreement",
               "Certificate Sign", "CRL Sign", "Encipher Only", "Decipher Only"]
 FLAGS = ["Unused", "Key Compromise", "CA Compromise", "Affiliation Changed", "Superseded", "Cessation Of Operation",

@@ -121,7 +121,8 @@ def crl(lines, body):
 def request(lines, body):
     found = block(lines, "Attributes:")
     attributes = [line.strip() for line in found if re.match(r" {12}\S.*:.+", line)]
-    values = [[part.content.hex().upper() for part in attribute.parts()] for attribute in body[3].parts()]
+    values = [[kind.content.hex().upper(), [value.octets.hex().upper() for value in held.parts()]]
+              for kind, held in (attribute.parts() for attribute in body[3].parts())]
     return {"attributes": attributes, "attributeOctets": values,
             "extensions": extensions(lines, "Requested Extensions:")}
 
@@ -154,6 +155,8 @@ def facts(path):
              "algorithmOctets": outer[1].octets.hex().upper(), "signature": None}
     ends = next((i for i, line in enumerate(lines[at:], at) if line.startswith(("serial=", "-----"))), len(lines))
     found["signature"] = signature([line for line in lines[at:ends] if line])
+    if found["algorithm"].lower().startswith("dsa"):  # its two numbers are printed apart
+        found["signature"] = outer[2].content[1:].hex().upper()
     if command != "req":
         found["issuer"] = name(after(lines, "Issuer:"))
     if command != "crl":

@@ -135,7 +135,7 @@ class Reading:
         expected = self.facts.pop("attributeOctets")
         found = body["attributes"]
         self.fields["attributes"] = [[oid_hex(each["type"]), len(each["values"])] for each in found]
-        self.facts["attributes"] = [[kind, len(list(values))] for kind, values in expected]
+        self.facts["attributes"] = [[kind, len(values)] for kind, values in expected]
         for attribute, (_, values) in zip(found, expected):
             self.open += list(zip(attribute["values"], values))
         wanted = [each["values"][0] for each in found if each["type"]["oid"] == "1.2.840.113549.1.9.14"]
@@ -211,6 +211,8 @@ class Corpus(unittest.TestCase):
         """Documents of open types against the octets that they stand for."""
         documents = [(name, value, octets) for name, value, octets in found if set(value) != {"type", "value"}
                      or value["type"].isupper()]
+        if not documents:
+            return
         code, out, err = quarn("der", "--hex", data="".join(json.dumps(value) + "\n" for _, value, _ in documents))
         self.assertEqual((code, err), (0, ""))
         made = out.splitlines()
