@@ -282,8 +282,7 @@ class Maker:
             if source:
                 for path in sorted(pathlib.Path(source).glob("*.crt")):
                     (self.folder / TYPES[0] / f"published_{path.stem}.der").write_bytes(from_pem(path))
-            paths = sorted(path for kind in TYPES for path in (self.folder / kind).glob("*.der"))
-            facts = dict(zip([f"{path.parent.name}/{path.name}" for path in paths], pool.map(oracle.facts, paths)))
+            facts = oracle.facts([self.folder / kind for kind in TYPES], pool)
         (self.folder / "refused.txt").write_text("\n".join(self.refused) + "\n")
         shutil.rmtree(self.work)
         (self.folder / "facts.json").write_text(json.dumps(facts, indent=1))

@@ -60,7 +60,8 @@ def relative(rdn):
 
 def with_slashes(name):
     """The older form, in which each attribute but the first of an RDN follows a plus."""
-    text = "".join("/" + "+".join(f"{kind}={value}" for kind, value in attributes(rdn)) for rdn in rdns(name))
+    text = "".join("/" + "+".join(f"{kind}=" + re.sub("([/+])", r"\\\1", value) for kind, value in attributes(rdn))
+                   for rdn in rdns(name))
     return "".join(chr(octet) if 32 <= octet < 127 else f"\\x{octet:02X}" for octet in text.encode())
 
 

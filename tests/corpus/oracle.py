@@ -1,8 +1,8 @@
-"""What the openssl command prints about a file, as fields.
+"""What the openssl command prints about files, as fields.
 
-Names come twice: as types and octets of their values, and as the text that openssl makes of them. Of the
-extensions openssl prints the text; their octets and the parameters of algorithms are read with the small
-reader of der.py. Attribute certificates, which openssl 3.0 cannot print, are what `openssl asn1parse` says.
+openssl prints the text of everything; the octets of names, keys, extensions and parameters are read with the
+small reader of der.py. Of attribute certificates, which openssl 3.0 cannot print, `openssl asn1parse` tells
+the elements. All certificates are printed by one process, and each name once: starting openssl is what costs.
 """
 
 import base64
@@ -10,13 +10,8 @@ import re
 
 from der import Element, openssl
 
-AS_OCTETS = ("-nameopt", "oid,dump_all,dump_der,sep_comma_plus")
 AS_TEXT = ("-nameopt", "sep_multiline,oid,show_type,utf8,esc_ctrl")
-READERS = {
-    "x509pubkeycert": ("x509", "-serial", "-pubkey"),
-    "x509crl": ("crl",),
-    "pkcs10certreq": ("req", "-pubkey"),
-}
+COMMANDS = {"x509pubkeycert": "x509", "x509crl": "crl", "pkcs10certreq": "req"}
 KNOWN_NAMES = {}
 
 
@@ -56,24 +51,45 @@ def after(lines, start):
     return next((line.strip()[len(start):].strip() for line in lines if line.strip().startswith(start)), None)
 
 
-def name(text):
-    """RDNs, each a list of [type, value in hex]."""
-    return [[value.split("=#") for value in rdn.split("+")] for rdn in text.split(",")] if text else []
+def name(element):
+    """RDNs, each a list of [type, value] in hex."""
+    return [[[part.octets.hex().upper() for part in value.parts()] for value in rdn.parts()] for rdn in element.parts()]
 
 
-def texts_of(octets, command, which):
-    """The same as [type, type of string, text]; each name is asked for once."""
-    if str(octets) not in KNOWN_NAMES:
-        found = openssl(*command, "-" + which, *AS_TEXT).decode("utf-8", "replace").split("=", 1)[1]
+def texts_of(octets, path, which):
+    """A name's values as [type, type of string, text]."""
+    if octets not in KNOWN_NAMES:
+        command = (COMMANDS[path.parent.name], "-inform", "DER", "-in", path, "-noout", "-" + which, *AS_TEXT)
+        found = openssl(*command).decode("utf-8", "replace").split("=", 1)[1]
         rdns = [line.lstrip(" ").split(" + ") for line in found.split("\n") if line.strip()]
-        KNOWN_NAMES[str(octets)] = [[re.split("[=:]", value, maxsplit=2) for value in rdn] for rdn in rdns]
-    return KNOWN_NAMES[str(octets)]
+        KNOWN_NAMES[octets] = [[re.split("[=:]", value, maxsplit=2) for value in rdn] for rdn in rdns]
+    return KNOWN_NAMES[octets]
+
+
+def hex_lines(lines, title):
+    """The octets in the lines below a title, in hex."""
+    digits = ""
+    start = next((i for i, line in enumerate(lines) if line.strip() == title), len(lines))
+    for line in lines[start + 1:]:
+        if not re.fullmatch(r"\s+([0-9a-f]{2}:?)+", line):
+            break
+        digits += line.strip().replace(":", "")
+    return digits.upper()
+
+
+def serial_number(lines):
+    text = after(lines, "Serial Number:")
+    if text:
+        return int(text.split()[0])
+    start = next(i for i, line in enumerate(lines) if line.strip() == "Serial Number:")
+    digits = lines[start + 1].strip().replace(":", "")
+    return -int(digits[10:], 16) if digits.startswith("(Negative)") else int(digits, 16)
 
 
 def signature(lines):
-    """Hex of the lines after the last title."""
+    """Hex of the lines at the end; before them may stand the parameters of the algorithm."""
     digits = []
-    for line in reversed(lines):
+    for line in reversed([line for line in lines if line]):
         if not re.fullmatch(r"\s+([0-9a-f]{2}:?)+", line):
             break
         digits.insert(0, line.strip().replace(":", ""))
@@ -89,14 +105,22 @@ def extension_octets(listed):
     return found
 
 
+def key(lines, info):
+    """What is printed of a key, and all of it."""
+    parts = [hex_lines(lines, title) for title in ("pub:", "Modulus:")]
+    return {"keyAlgorithm": after(lines, "Public Key Algorithm:"), "key": info.octets.hex().upper(),
+            "keyParts": [part.lstrip("0") for part in parts if part]}
+
+
 def certificate(lines, body):
     tagged = {part.identifier: part for part in body if part.identifier in (0xA3, 0x81, 0x82)}
     exts = extension_octets(tagged[0xA3].parts()[0]) if 0xA3 in tagged else []
-    return {"serial": int(after(lines, "serial="), 16),
+    issuer, _, subject, info = [part for part in body if part.identifier == 0x30][1:]
+    return {"serial": serial_number(lines), "issuer": name(issuer), "subject": name(subject),
             "notBefore": after(lines, "Not Before:"), "notAfter": after(lines, "Not After :"),
             "issuerUniqueID": (after(lines, "Issuer Unique ID:") or "").replace(":", "").upper(),
             "subjectUniqueID": (after(lines, "Subject Unique ID:") or "").replace(":", "").upper(),
-            "extensionOctets": exts, "extensions": extensions(lines, "X509v3 extensions:")}
+            "extensionOctets": exts, "extensions": extensions(lines, "X509v3 extensions:")} | key(lines, info)
 
 
 def crl(lines, body):
@@ -113,8 +137,10 @@ def crl(lines, body):
         found["extensions"] = extensions(found.pop("lines"), "CRL entry extensions:")
     listed = [part.parts()[0] for part in body if part.identifier == 0xA0]
     next_update = after(lines, "Next Update:")
-    return {"thisUpdate": after(lines, "Last Update:"), "nextUpdate": None if next_update == "NONE" else next_update,
-            "entries": entries, "extensionOctets": extension_octets(listed[0]) if listed else [],
+    issuer = [part for part in body if part.identifier == 0x30][1]
+    return {"issuer": name(issuer), "thisUpdate": after(lines, "Last Update:"), 
+            "nextUpdate": None if next_update == "NONE" else next_update, "entries": entries,
+            "extensionOctets": extension_octets(listed[0]) if listed else [],
             "extensions": extensions(lines[:end], "CRL extensions:")}
 
 
@@ -123,47 +149,59 @@ def request(lines, body):
     attributes = [line.strip() for line in found if re.match(r" {12}\S.*:.+", line)]
     values = [[kind.content.hex().upper(), [value.octets.hex().upper() for value in held.parts()]]
               for kind, held in (attribute.parts() for attribute in body[3].parts())]
-    return {"attributes": attributes, "attributeOctets": values,
-            "extensions": extensions(lines, "Requested Extensions:")}
+    return {"attributes": attributes, "attributeOctets": values, "subject": name(body[1]),
+            "extensions": extensions(lines, "Requested Extensions:")} | key(lines, body[2])
 
 
 def asn1parse(path):
-    """[depth, whether constructed, content in hex] of every element."""
+    """Contents in hex of all primitive elements."""
     octets = path.read_bytes()
-    pattern = re.compile(r" *(\d+):d=(\d+) +hl=(\d+) +l= *(\d+) +(cons|prim): ([^:]+?) *(?::.*)?")
+    pattern = re.compile(r" *(\d+):d=\d+ +hl=(\d+) +l= *(\d+) +prim: .*")
     found = []
     for line in openssl("asn1parse", "-inform", "DER", "-in", path).decode("utf-8", "replace").splitlines():
         if match := pattern.fullmatch(line):
-            at, depth, head, size = map(int, match.groups()[:4])
-            content = octets[at + head:at + head + size].hex().upper() if match[5] == "prim" else ""
-            found.append((int(depth), match[5], content))
+            start = int(match[1]) + int(match[2])
+            found.append(octets[start:start + int(match[3])].hex().upper())
     return found
 
 
-def facts(path):
+def printed(kind, paths):
+    """The lines that openssl prints of each file."""
+    if kind == "pkcs10certreq":
+        texts = [openssl("req", "-inform", "DER", "-in", path, "-noout", "-text") for path in paths]
+        return [text.decode("utf-8", "replace").split("\n") for text in texts]
+    label, option = {"x509pubkeycert": ("CERTIFICATE", "-certs"), "x509crl": ("X509 CRL", "-crls")}[kind]
+    bundle = paths[0].parent.parent / f"{kind}.pem"
+    bundle.write_text("".join(f"-----BEGIN {label}-----\n{base64.encodebytes(path.read_bytes()).decode()}"
+                              f"-----END {label}-----\n" for path in paths))
+    text = openssl("storeutl", "-noout", "-text", option, bundle).decode("utf-8", "replace")
+    return [part.split("\n") for part in re.split(r"^\d+: (?:Certificate|CRL)\n", text, flags=re.MULTILINE)[1:]]
+
+
+def fields(path, lines):
     kind = path.parent.name
-    if kind == "attributecertificate":
-        return {"elements": asn1parse(path)}
-    command, *wanted = READERS[kind]
-    first = (command, "-inform", "DER", "-in", path, "-noout")
-    text = openssl(*first, "-text", *wanted, *AS_OCTETS).decode("utf-8", "replace")
-    lines = text.replace("\\\n", "").split("\n")
-    outer = Element(path.read_bytes()).parts()
-    at = next(i for i, line in enumerate(lines) if line.endswith(" Signature Value:") or "Signature Value:" in line)
+    body, algorithm, bits = Element(path.read_bytes()).parts()
+    while lines[-1].strip() == "" or lines[-1].startswith("Total found"):
+        lines.pop()
     version = re.search(r"Version:? \d+ \(0x(\d+)\)", "\n".join(lines))
-    found = {"version": int(version[1], 16), "algorithm": after(lines[at - 1:], "Signature Algorithm:"),
-             "algorithmOctets": outer[1].octets.hex().upper(), "signature": None}
-    ends = next((i for i, line in enumerate(lines[at:], at) if line.startswith(("serial=", "-----"))), len(lines))
-    found["signature"] = signature([line for line in lines[at:ends] if line])
+    at = max(i for i, line in enumerate(lines) if "Signature Algorithm:" in line)
+    found = {"version": int(version[1], 16), "algorithm": after(lines[at:], "Signature Algorithm:"),
+             "algorithmOctets": algorithm.octets.hex().upper(), "signature": signature(lines)}
     if found["algorithm"].lower().startswith("dsa"):  # its two numbers are printed apart
-        found["signature"] = outer[2].content[1:].hex().upper()
-    if command != "req":
-        found["issuer"] = name(after(lines, "Issuer:"))
-    if command != "crl":
-        found["subject"] = name(after(lines, "Subject:"))
-    found["texts"] = {key: texts_of(found[key], first, key) for key in ("issuer", "subject") if key in found}
-    if "-pubkey" in wanted:
-        whole = "".join(lines)
-        found["key"] = base64.b64decode(whole[whole.index("KEY-----") + 8:whole.index("-----END")]).hex().upper()
-    read = {"x509": certificate, "crl": crl, "req": request}[command]
-    return found | read(lines, outer[0].parts())
+        found["signature"] = bits.content[1:].hex().upper()
+    found |= {"x509pubkeycert": certificate, "x509crl": crl, "pkcs10certreq": request}[kind](lines, body.parts())
+    found["texts"] = {key: texts_of(str(found[key]), path, key) for key in ("issuer", "subject") if key in found}
+    return found
+
+
+def facts(folders, pool):
+    """By "type/file", what there is to know of all files."""
+    found = {}
+    for folder in folders:
+        paths = sorted(folder.glob("*.der"))
+        if folder.name == "attributecertificate":
+            results = pool.map(asn1parse, paths)
+        else:
+            results = pool.map(fields, paths, printed(folder.name, paths))
+        found |= {f"{folder.name}/{path.name}": result for path, result in zip(paths, results)}
+    return found
