@@ -4,7 +4,7 @@ import datetime
 import ipaddress
 import re
 
-from der import openssl
+from der import openssl, text
 
 # By identifier: short name, long name.
 OBJECTS = dict((match[3], (match[1], match[2] or match[1])) for match in re.finditer(
@@ -19,13 +19,24 @@ SIMPLE = {"rfc822Name": "email", "dNSName": "DNS", "uniformResourceIdentifier": 
 UNSUPPORTED = {"x400Address": "X400Name:<unsupported>", "ediPartyName": "EdiPartyName:<unsupported>"}
 
 
+def with_raw_strings(value, octets):
+    """openssl prints the octets of a BMPString in a policy as they are, up to the first zero."""
+    if isinstance(value, list):
+        return [with_raw_strings(item, octets) for item in value]
+    if isinstance(value, dict):
+        return {key: with_raw_strings(item, octets) for key, item in value.items()}
+    if not isinstance(value, str) or text(value, 0x1E) not in octets:
+        return value
+    return value.encode("utf-16-be").split(b"\0")[0].decode("utf-8", "replace")
+
+
 def long_name(oid):
     return OBJECTS.get(oid["oid"], (None, oid["oid"]))[1]
 
 
-def time(text):
+def time(shown):
     """"2026-01-02T00:00:00Z" as "Jan 2 00:00:00 2026 GMT"."""
-    when = datetime.datetime.strptime(text, "%Y-%m-%dT%H:%M:%SZ")
+    when = datetime.datetime.strptime(shown, "%Y-%m-%dT%H:%M:%SZ")
     return f"{when:%b} {when.day} {when:%H:%M:%S} {when.year} GMT"
 
 

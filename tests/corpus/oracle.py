@@ -146,7 +146,7 @@ def crl(lines, body):
 
 def request(lines, body):
     found = block(lines, "Attributes:")
-    attributes = [line.strip() for line in found if re.match(r" {12}\S.*:.+", line)]
+    attributes = [list(match.groups()) for match in (re.fullmatch(r" {12}(\S+) *:(.+)", line) for line in found) if match]
     values = [[kind.content.hex().upper(), [value.octets.hex().upper() for value in held.parts()]]
               for kind, held in (attribute.parts() for attribute in body[3].parts())]
     return {"attributes": attributes, "attributeOctets": values, "subject": name(body[1]),

@@ -15,13 +15,13 @@ import unittest
 
 import der
 import openssl_text
+import oracle
 from openssl_text import integer
 
 QUARN = os.environ.get("QUARN", "quarn")
 CORPUS = pathlib.Path(os.environ.get("QUARN_CORPUS", "corpus"))
-# Their texts show the octets of a string as they are, whatever its type is; ours show the text.
-OTHER_TEXT = re.compile("policy_notice_bmp|policies_ia5")
 STRINGS = ("PRINTABLESTRING", "UTF8STRING", "IA5STRING", "BMPSTRING", "NUMERICSTRING", "UNIVERSALSTRING")
+EXTENSION_REQUEST = "1.2.840.113549.1.9.14"
 BODIES = {"x509pubkeycert": "tbsCertificate", "x509crl": "tbsCertList", "pkcs10certreq": "certificationRequestInfo"}
 
 
@@ -109,7 +109,7 @@ class Reading:
         for extension, facts in zip(listed, texts):
             writer = openssl_text.WRITERS.get(extension["extnID"]["oid"])
             self.typed = getattr(self, "typed", 0) + bool(writer)
-            facts[:] = [*facts[:2], facts[2] if writer and not OTHER_TEXT.search(facts[2]) else None]
+            facts[:] = [*facts[:2], facts[2] if writer else None]
         return [[openssl_text.long_name(each["extnID"]), each["critical"], None if facts[2] is None else text_of(each)]
                 for each, facts in zip(listed, texts)]
 
@@ -145,14 +145,22 @@ class Reading:
         return found
 
     def pkcs10certreq(self, body):
-        expected = self.facts.pop("attributeOctets")
-        found = body["attributes"]
-        self.fields["attributes"] = [[oid_hex(each["type"]), len(each["values"])] for each in found]
-        self.facts["attributes"] = [[kind, len(values)] for kind, values in expected]
+        """Attributes: types and number of values of all, texts of those that are text, extensions of the rest."""
+        expected, found = self.facts.pop("attributeOctets"), body["attributes"]
+        self.fields["attribute types"] = [[oid_hex(each["type"]), len(each["values"])] for each in found]
+        self.facts["attribute types"] = [[kind, len(values)] for kind, values in expected]
+        listed, self.facts["extensionOctets"], self.fields["attributes"] = [], [], []
         for attribute, (_, values) in zip(found, expected):
-            self.open += list(zip(attribute["values"], values))
-        wanted = [each["values"][0] for each in found if each["type"]["oid"] == "1.2.840.113549.1.9.14"]
-        listed = [extension for value in wanted for extension in value["value"]]
+            if attribute["type"]["oid"] == EXTENSION_REQUEST:
+                listed = attribute["values"][0]["value"]
+                self.facts["extensionOctets"] = oracle.extension_octets(der.Element(bytes.fromhex(values[0])))
+            else:
+                self.open += list(zip(attribute["values"], values))
+                self.fields["attributes"].append([openssl_text.long_name(attribute["type"]),
+                                                  attribute["values"][0]["value"]])
+        texts = zip(self.fields["attributes"], self.facts["attributes"])  # a T61String is shown as octets
+        self.facts["attributes"] = [ours if isinstance(ours[1], dict) else theirs for ours, theirs in texts]
+        self.fields["extensionOctets"] = self.octets(listed)
         self.fields["extensions"] = self.extensions(listed, self.facts["extensions"])
 
 
@@ -160,7 +168,8 @@ def text_of(extension):
     value = extension["extnValue"]
     if "value" not in value:
         return f"not decoded: {value}"
-    return " ".join(openssl_text.WRITERS[extension["extnID"]["oid"]](value["value"]).split())
+    shown = openssl_text.with_raw_strings(value["value"], bytes.fromhex(value["hex"]))
+    return " ".join(openssl_text.WRITERS[extension["extnID"]["oid"]](shown).split())
 
 
 def leaves(value):
@@ -168,7 +177,7 @@ def leaves(value):
     if isinstance(value, list):
         for item in value:
             yield from leaves(item)
-    elif isinstance(value, dict) and "oid" in value:
+    elif isinstance(value, dict) and isinstance(value.get("oid"), str):
         yield {oid_hex(value)}
     elif isinstance(value, dict) and "number" in value:
         yield from leaves(value["number"])
