@@ -43,7 +43,7 @@ def certificates(key):
                    rdn((COMMON_NAME, text("plain", PRINTABLE)), (ORGANIZATION, text("a", IA5))),
                    rdn(("2.5.4.45", bit_string(b"\x05\x80", 7))), rdn(("2.5.4.5", text("12 3", 0x12))),
                    rdn(("2.5.4.16", sequence(text("street"), text("city", PRINTABLE)))),
-                   rdn(("1.2.3.4", text("\u00b5", TELETEX)), ("1.2.3.4", text("\u00b5")), ("1.2.3.4", text("\u00b5", BMP))))
+                   rdn(*[("1.2.3.4", text("\u00b5", kind)) for kind in (TELETEX, 0x0C, BMP)]))
     long = name(*[rdn(("2.5.4.11", text(f"unit {i} " + "x" * i))) for i in range(200)])
     yield "v2_unique_identifiers", certificate(key, 1, tail=uid + subject_uid)
     yield "v2_subject_identifier", certificate(key, 1, tail=subject_uid)
@@ -52,7 +52,7 @@ def certificates(key):
     yield "v1", certificate(key, 0, serial=-3)
     yield "strings", certificate(key, subject=strings, issuer=strings)
     yield "empty_names", certificate(key, subject=name(), issuer=name())
-    yield "empty_strings", certificate(key, subject=name(rdn((COMMON_NAME, text(""))), rdn((COMMON_NAME, text("", BMP)))))
+    yield "empty_strings", certificate(key, subject=name(*[rdn((COMMON_NAME, text("", kind))) for kind in (0x0C, BMP)]))
     yield "long_name", certificate(key, subject=long)
     yield "early_generalized_times", certificate(key, validity=(time("19000101000000Z"), time("20491231235959Z")))
     yield "no_such_end", certificate(key, validity=(time("491231235959Z"), time("99991231235959Z")))
@@ -117,7 +117,8 @@ def attribute_certificates():
     category = sequence(context(0, b"\x2a\x03\x04", primitive=True), context(1, text("compartment")))
     categories = set_of(category, sequence(context(0, b"\x2a\x03\x05", primitive=True), context(1, integer(5))))
     targets = sequence(context(0, dns("a.example.com")), context(1, directory()),
-                       context(2, issuer_serial(), dns("b"), digest_info(2, oid("1.2.3.4"))), context(2, issuer_serial()))
+                       context(2, issuer_serial(), dns("b"), digest_info(2, oid("1.2.3.4"))),
+                       context(2, issuer_serial()))
     controls = sequence(integer(2), context(0, oid("2.5.4.72"), oid("2.5.4.55")), boolean(False))
     unique = bit_string(b"\xc0", 6)
 
@@ -136,12 +137,14 @@ def attribute_certificates():
     yield "issuer_identifier", acinfo(by_name, tail=unique)
     yield "group", acinfo(by_name, attributes=attribute("1.3.6.1.5.5.7.10.4", ietf(
         octet_string(b"octets"), oid("1.2.3.4"), text("words"), authority=directory())))
-    yield "charging", acinfo(by_name, attributes=attribute("1.3.6.1.5.5.7.10.3", ietf(octet_string(b"")), ietf(text("ö"))))
-    yield "services", acinfo(by_name, attributes=attribute("1.3.6.1.5.5.7.10.1", sequence(rest(service), octet_string(b"pw")))
-                             + attribute("1.3.6.1.5.5.7.10.2", service))
+    yield "charging", acinfo(by_name, attributes=attribute(
+        "1.3.6.1.5.5.7.10.3", ietf(octet_string(b"")), ietf(text("ö"))))
+    yield "services", acinfo(by_name, attributes=attribute("1.3.6.1.5.5.7.10.2", service) + attribute(
+        "1.3.6.1.5.5.7.10.1", sequence(rest(service), octet_string(b"pw"))))
     yield "roles", acinfo(by_name, attributes=attribute("2.5.4.72", role, sequence(context(1, uri("urn:other")))))
     yield "clearance", acinfo(by_name, attributes=attribute(
-        "2.5.4.55", sequence(oid("1.2.3.4"), bit_string(b"\x50", 4), categories), sequence(oid("1.2.3"), bit_string(b"\x40", 6))))
+        "2.5.4.55", sequence(oid("1.2.3.4"), bit_string(b"\x50", 4), categories),
+        sequence(oid("1.2.3"), bit_string(b"\x40", 6))))
     yield "no_attributes", acinfo(by_name, attributes=b"")
     yield "targets", acinfo(by_name, tail=sequence(extension("2.5.29.55", sequence(targets), critical=True),
                                                    extension("2.5.29.56", wrap(5))))

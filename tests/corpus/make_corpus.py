@@ -23,6 +23,7 @@ from der import openssl
 
 HERE = pathlib.Path(__file__).parent
 TYPES = ("x509pubkeycert", "x509crl", "pkcs10certreq", "attributecertificate")
+LEAST = (400, 25, 25, 20)  # of each; other versions of openssl may lack a few kinds
 
 # Name, arguments of `openssl genpkey`.
 KEYS = [
@@ -87,7 +88,8 @@ CRLS = [
     ("all", revoked(*REASONS), "crl_reasons", True, ""),
     ("serials", revoked("", first=0x7F, count=3) + revoked("", first=0x7FFF, count=2) + revoked("", first=2 ** 159 - 1),
      "crl_user", True, ""),
-    ("times", revoked("", when="500101000000Z") + revoked("", first=2, when="491231235959Z"), "crl_ca", True, "-crl_lastupdate 19500101000000Z "
+    ("times", revoked("", when="500101000000Z") + revoked("", first=2, when="491231235959Z"), "crl_ca", True,
+     "-crl_lastupdate 19500101000000Z "
      "-crl_nextupdate 99991231235959Z"),
     ("attributes", "", "crl_aa", True, ""),
     ("delta", revoked("removeFromCRL"), "crl_delta", True, ""),
@@ -222,8 +224,8 @@ class Maker:
             self.authority(f"dates{number}", "ec")
             (self.work / f"dates{number}.index").write_text("")
             start, end = dates.split()
-            self.job("x509pubkeycert", f"dates{number}", f"ca -batch -notext -preserveDN -config corpus.cnf -in request.pem"
-                     f" -name dates{number} -startdate {start} -enddate {end} -out dates{number}.crt")
+            self.job("x509pubkeycert", f"dates{number}", "ca -batch -notext -preserveDN -config corpus.cnf"
+                     f" -in request.pem -name dates{number} -startdate {start} -enddate {end} -out dates{number}.crt")
 
     def prepare(self, pool):
         """Keys, and an authority for each that can sign."""
@@ -268,7 +270,8 @@ class Maker:
     def make(self, source):
         self.section("req", "distinguished_name = person")
         self.section("policy", "commonName = optional")
-        self.section("authority", "distinguished_name = person", "prompt = no", "x509_extensions = authority_extensions")
+        self.section("authority", "distinguished_name = person", "prompt = no",
+                     "x509_extensions = authority_extensions")
         self.section("authority_extensions", "subjectKeyIdentifier = hash", "basicConstraints = critical, CA:TRUE",
                      "subjectAltName = email:ca@example.com, URI:http://example.com/")
         for recipes in (self.extensions, self.keys, self.signatures, self.names, self.serials, self.validities,
@@ -283,7 +286,7 @@ class Maker:
                 for path in sorted(pathlib.Path(source).glob("*.crt")):
                     (self.folder / TYPES[0] / f"published_{path.stem}.der").write_bytes(from_pem(path))
             facts = oracle.facts([self.folder / kind for kind in TYPES], pool)
-        (self.folder / "refused.txt").write_text("\n".join(self.refused) + "\n")
+        (self.folder / "refused.txt").write_text("".join(each + "\n" for each in self.refused))
         shutil.rmtree(self.work)
         (self.folder / "facts.json").write_text(json.dumps(facts, indent=1))
 
@@ -295,11 +298,14 @@ def from_pem(path):
 def main(folder, source=None):
     folder, start = pathlib.Path(folder), time.monotonic()
     made = folder / "facts.json"
-    if not made.exists() or made.stat().st_mtime < max(path.stat().st_mtime for path in HERE.iterdir()):
+    if not made.exists() or made.stat().st_mtime < max(path.stat().st_mtime for path in HERE.glob("*.*")):
         Maker(folder).make(source)
-    counts = {kind: len(list((folder / kind).glob("*.der"))) for kind in TYPES}
-    print(f"corpus: {counts} in {time.monotonic() - start:.1f} s; refused by openssl:")
-    print((folder / "refused.txt").read_text(), end="")
+    counts = {kind: len(list((folder / kind).glob("[!p]*.der" if kind == TYPES[0] else "*.der"))) for kind in TYPES}
+    published = len(list((folder / TYPES[0]).glob("p*.der")))
+    print(f"corpus: {counts}, {published} published certificates, in {time.monotonic() - start:.1f} s")
+    print((folder / "refused.txt").read_text(), end="")  # what this openssl cannot do
+    if any(count < least for count, least in zip(counts.values(), LEAST)):
+        sys.exit(f"corpus: fewer than {LEAST}")
 
 
 if __name__ == "__main__":

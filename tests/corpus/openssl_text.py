@@ -14,7 +14,10 @@ KEY_USAGES = ["Digital Signature", "Non Repudiation", "Key Encipherment", "Data 
 FLAGS = ["Unused", "Key Compromise", "CA Compromise", "Affiliation Changed", "Superseded", "Cessation Of Operation",
          "Certificate Hold", "Privilege Withdrawn", "AA Compromise"]
 REASONS = ["Unspecified", *FLAGS[1:7], None, "Remove From CRL", *FLAGS[7:]]
-NETSCAPE = ["SSL Client", "SSL Server", "S/MIME", "Object Signing", "Unused", "SSL CA", "S/MIME CA", "Object Signing CA"]
+NETSCAPE = ["SSL Client", "SSL Server", "S/MIME", "Object Signing", "Unused", "SSL CA", "S/MIME CA",
+            "Object Signing CA"]
+ISSUING_FLAGS = {"onlyContainsUserCerts": "Only User Certificates", "onlyContainsCACerts": "Only CA Certificates",
+                 "indirectCRL": "Indirect CRL"}
 SIMPLE = {"rfc822Name": "email", "dNSName": "DNS", "uniformResourceIdentifier": "URI"}
 UNSUPPORTED = {"x400Address": "X400Name:<unsupported>", "ediPartyName": "EdiPartyName:<unsupported>"}
 
@@ -182,9 +185,7 @@ def points(value):
 
 def issuing_point(value):
     parts = [point_name(value["distributionPoint"])] if "distributionPoint" in value else []
-    for key, text in (("onlyContainsUserCerts", "Only User Certificates"), ("onlyContainsCACerts", "Only CA Certificates"),
-                      ("indirectCRL", "Indirect CRL")):
-        parts += [text] if value[key] else []
+    parts += [title for key, title in ISSUING_FLAGS.items() if value[key]]
     if "onlySomeReasons" in value:
         parts.append("Only Some Reasons: " + bits(value["onlySomeReasons"], FLAGS))
     return " ".join(parts + (["Only Attribute Certificates"] if value["onlyContainsAttributeCerts"] else []))

@@ -138,15 +138,15 @@ def crl(lines, body):
     listed = [part.parts()[0] for part in body if part.identifier == 0xA0]
     next_update = after(lines, "Next Update:")
     issuer = [part for part in body if part.identifier == 0x30][1]
-    return {"issuer": name(issuer), "thisUpdate": after(lines, "Last Update:"), 
+    return {"issuer": name(issuer), "thisUpdate": after(lines, "Last Update:"),
             "nextUpdate": None if next_update == "NONE" else next_update, "entries": entries,
             "extensionOctets": extension_octets(listed[0]) if listed else [],
             "extensions": extensions(lines[:end], "CRL extensions:")}
 
 
 def request(lines, body):
-    found = block(lines, "Attributes:")
-    attributes = [list(match.groups()) for match in (re.fullmatch(r" {12}(\S+) *:(.+)", line) for line in found) if match]
+    matches = [re.fullmatch(r" {12}(\S+) *:(.+)", line) for line in block(lines, "Attributes:")]
+    attributes = [list(match.groups()) for match in matches if match]
     values = [[kind.content.hex().upper(), [value.octets.hex().upper() for value in held.parts()]]
               for kind, held in (attribute.parts() for attribute in body[3].parts())]
     return {"attributes": attributes, "attributeOctets": values, "subject": name(body[1]),

@@ -239,7 +239,8 @@ class Corpus(unittest.TestCase):
         self.assertEqual((code, err), (0, ""))
         made = out.splitlines()
         self.assertEqual(len(made), len(documents))
-        wrong = [(name, value) for (name, value, octets), line in zip(documents, made) if line.upper() != octets.upper()]
+        wrong = [(name, value) for (name, value, octets), line in zip(documents, made)
+                 if line.upper() != octets.upper()]
         self.assertEqual(wrong, [])
         self.counts["open types"] += len(documents)
 
