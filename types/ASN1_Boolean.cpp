@@ -20,8 +20,11 @@ quarn_asn1_boolean *new_boolean(std::uint32_t cell) {
   return value;
 }
 
+// Most values of many records are defaults. Nothing writes to these.
+quarn_asn1_boolean kDefaults[] = {{0}, {0xFF}};
+
 void free_boolean(const Type & /*type*/, void *value) {
-  quarn_free(value);
+  if (value != &kDefaults[0] && value != &kDefaults[1]) quarn_free(value);
 }
 
 // Whatever the value, null included.
@@ -53,6 +56,10 @@ Status decode_boolean_content(
 }
 
 }  // namespace
+
+quarn_asn1_boolean *default_boolean(bool value) {
+  return &kDefaults[value ? 1 : 0];
+}
 
 const Codec kBooleanCodec = {
     free_boolean,           boolean_length, nullptr, encode_boolean_content,

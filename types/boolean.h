@@ -11,4 +11,12 @@ struct quarn_asn1_boolean {
   std::uint32_t cell;
 };
 
+namespace quarn::asn1 {
+
+// The value that records hold for a component whose default it is. Freed like any other, which does
+// nothing; nobody but the record is to own it.
+quarn_asn1_boolean *default_boolean(bool value);
+
+}  // namespace quarn::asn1
+
 #endif
