@@ -1,0 +1,65 @@
+// Botan: C++ objects. Extensions of known types are decoded with the certificate.
+#include <botan/pkcs10.h>
+#include <botan/pkix_types.h>
+#include <botan/x509_crl.h>
+#include <botan/x509cert.h>
+
+#include "bench/typed/typed.h"
+
+namespace bench {
+
+namespace {
+
+// It throws what it refuses.
+template <typename T>
+bool decode_and_free(const Octets &der) {
+  try {
+    T value(der);
+    return true;
+  } catch (const std::exception &) {
+    return false;
+  }
+}
+
+void *load(const Octets &der) {
+  try {
+    return new Botan::X509_Certificate(der);
+  } catch (const std::exception &) {
+    return nullptr;
+  }
+}
+
+const Botan::X509_Certificate &certificate_of(void *certificate) {
+  return *static_cast<Botan::X509_Certificate *>(certificate);
+}
+
+void release(void *certificate) {
+  delete static_cast<Botan::X509_Certificate *>(certificate);
+}
+
+std::size_t encode(void *certificate) {
+  return certificate_of(certificate).BER_encode().size();
+}
+
+bool same_names(void *certificate) {
+  return certificate_of(certificate).issuer_dn() == certificate_of(certificate).subject_dn();
+}
+
+const bool kKnown =
+    known_library({.name = "Botan",
+                   .certificate = nullptr,
+                   .certificate_and_extensions = decode_and_free<Botan::X509_Certificate>,
+                   .request = decode_and_free<Botan::PKCS10_Request>,
+                   .list = decode_and_free<Botan::X509_CRL>,
+                   .sorted_name = nullptr,
+                   .load = load,
+                   .release = release,
+                   .encode = encode,
+                   .encode_anew = nullptr,
+                   .change = nullptr,
+                   .copy = nullptr,  // copies share
+                   .same_names = same_names});
+
+}  // namespace
+
+}  // namespace bench
