@@ -53,6 +53,7 @@ struct Question {
   std::size_t operations;
   std::vector<Case> cases;
   std::vector<Comparison> comparisons = {};
+  std::vector<std::string> notes = {};  // what the reader of the figures must know
 };
 
 Question element_walk();

@@ -161,6 +161,7 @@ bool print_table(const Results &results, const Question &question) {
   for (const Comparison &comparison : question.comparisons) {
     good = print_comparison(results, question, comparison) && good;
   }
+  for (const std::string &note : question.notes) std::printf("   %s\n", note.c_str());
   return good;
 }
 

@@ -70,19 +70,15 @@ void change(void *certificate) {
 
 const bool kKnown = known_library({.name = "GnuTLS",
                                    .certificate = certificate,
-                                   .certificate_and_extensions = nullptr,
                                    .request = request,
                                    .list = list,
                                    // The square of the entries, when they have extensions: minutes.
                                    .most_entries = 10000,
-                                   .sorted_name = nullptr,
                                    .load = load,
                                    .release = release,
                                    .encode = encode,
                                    .encode_anew = encode,
-                                   .change = change,
-                                   .copy = nullptr,
-                                   .same_names = nullptr});
+                                   .change = change});
 
 }  // namespace
 

@@ -134,16 +134,11 @@ bool copy(void *certificate) {
 const bool kKnown = known_library({.name = "Heimdal",
                                    .certificate = certificate,
                                    .certificate_and_extensions = certificate_and_extensions,
-                                   .request = nullptr,
                                    .list = list,
-                                   .sorted_name = nullptr,
                                    .load = load,
                                    .release = release,
-                                   .encode = nullptr,
                                    .encode_anew = encode_anew,
-                                   .change = nullptr,
-                                   .copy = copy,
-                                   .same_names = nullptr});
+                                   .copy = copy});
 
 }  // namespace
 

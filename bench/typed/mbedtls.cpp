@@ -24,7 +24,6 @@ bool decode_and_free(const Octets &der) {
 
 const bool kKnown =
     known_library({.name = "mbedTLS",
-                   .certificate = nullptr,
                    .certificate_and_extensions = decode_and_free<mbedtls_x509_crt,
                                                                  mbedtls_x509_crt_init,
                                                                  mbedtls_x509_crt_parse_der,
@@ -36,15 +35,7 @@ const bool kKnown =
                    .list = decode_and_free<mbedtls_x509_crl,
                                            mbedtls_x509_crl_init,
                                            mbedtls_x509_crl_parse_der,
-                                           mbedtls_x509_crl_free>,
-                   .sorted_name = nullptr,
-                   .load = nullptr,
-                   .release = nullptr,
-                   .encode = nullptr,
-                   .encode_anew = nullptr,
-                   .change = nullptr,
-                   .copy = nullptr,
-                   .same_names = nullptr});
+                                           mbedtls_x509_crl_free>});
 
 }  // namespace
 
