@@ -73,7 +73,8 @@ inline Kept *kept_by(const Schema &schema, void *value) {
   return reinterpret_cast<Kept *>(components(value) + schema.fields.size());
 }
 
-// ---- Inside the engine, and for codecs that differ from those of core/engine_value.cpp in one step
+// ---- Inside the engine, and for codecs that differ from those of core/engine_value.cpp in one
+// step
 
 void free_record(const Type &type, void *value);
 

@@ -1,6 +1,7 @@
 // Values of structured types: blocks, defaults, freeing, alternatives.
 #include "core/engine.h"
 #include "quarn_asn1/types.h"
+#include "types/boolean.h"
 #include "types/codecs.h"
 #include "types/list.h"
 #include "util/memory.h"
@@ -87,7 +88,7 @@ bool take_default(const Field &field, void **component) {
   if (field.presence == Presence::default_integer) {
     *component = quarn_asn1_integer_value(field.default_value);
   } else if (field.presence == Presence::default_boolean) {
-    *component = field.default_value != 0 ? quarn_asn1_boolean_true() : quarn_asn1_boolean_false();
+    *component = boolean_value(field.default_value != 0);
   } else {
     Reader in(field.default_octets, static_cast<std::size_t>(field.default_value), nullptr);
     return decode(type_of(field.type()), in, component).ok();

@@ -1,5 +1,5 @@
-// What the modules add to the engine for irregular types: codecs and checks that a definition's notes
-// name. Each is defined, with the reason for it, in the source of its module.
+// What the modules add to the engine for irregular types: codecs and checks that a definition's
+// notes name. Each is defined, with the reason for it, in the source of its module.
 #ifndef QUARN_MODULES_OWN_H
 #define QUARN_MODULES_OWN_H
 

@@ -59,6 +59,10 @@ Status decode_boolean_content(
 
 }  // namespace
 
+quarn_asn1_boolean *boolean_value(bool value) {
+  return value_of(value ? 0xFF : 0);
+}
+
 const Codec kBooleanCodec = {
     free_nothing,           boolean_length, nullptr, encode_boolean_content,
     decode_boolean_content, nullptr,        nullptr};
@@ -66,11 +70,11 @@ const Codec kBooleanCodec = {
 }  // namespace quarn::asn1
 
 quarn_asn1_boolean *quarn_asn1_boolean_true(void) {
-  return quarn::asn1::value_of(0xFF);
+  return quarn::asn1::boolean_value(true);
 }
 
 quarn_asn1_boolean *quarn_asn1_boolean_false(void) {
-  return quarn::asn1::value_of(0);
+  return quarn::asn1::boolean_value(false);
 }
 
 int quarn_asn1_boolean_istrue(const quarn_asn1_boolean *v) {

@@ -11,4 +11,11 @@ struct quarn_asn1_boolean {
   std::uint32_t cell;
 };
 
+namespace quarn::asn1 {
+
+// The value of DER, which exists already. Freed like any other, which does nothing.
+quarn_asn1_boolean *boolean_value(bool value);
+
+}  // namespace quarn::asn1
+
 #endif

@@ -127,7 +127,7 @@ constexpr Field kEitherTag[] = {field("a", QUARN_ASN1_BOOLEAN, implicit_tag(0)),
 constexpr Schema kEither = choice("Either", kUnit, kEitherTag);
 
 struct Rows {
-  Type rows[QUARN_ASN1_TIME + 4];
+  Type rows[QUARN_ASN1_ANYSET + 1];
 };
 constexpr Rows small_registry() {
   Rows made{};
@@ -135,6 +135,11 @@ constexpr Rows small_registry() {
   made.rows[QUARN_ASN1_BOOLEAN].tag_number = 1;
   made.rows[QUARN_ASN1_INTEGER].tag_number = 2;
   made.rows[QUARN_ASN1_UTCTIME].tag_number = 23;
+  made.rows[QUARN_ASN1_BOOLEAN].form = made.rows[QUARN_ASN1_INTEGER].form = 1;
+  for (const auto id : {QUARN_ASN1_ANYLIST, QUARN_ASN1_ANYSET}) {
+    made.rows[id].tag_number = 16;
+    made.rows[id].form = 0;
+  }
   made.rows[QUARN_ASN1_OID].schema = &kEither;  // stands for a CHOICE
   return made;
 }
@@ -164,6 +169,23 @@ static_assert(!is_record(field("", QUARN_ASN1_ANY, optional())), "an open type i
 static_assert(!is_record(field("", kChoiceId, implicit_tag(1))), "a CHOICE has no tag to replace");
 static_assert(is_record(field("", kChoiceId, explicit_tag(1))));
 static_assert(!is_record(field("", QUARN_ASN1_INTEGER, defaults_to(true))));
+
+constexpr Field shared(quarn_asn1_type_id type) {
+  return field("", type, implicit_tag(0), primitive_form(), optional());
+}
+static_assert(is_record(shared(QUARN_ASN1_ANYLIST), shared(QUARN_ASN1_ANYLIST)));
+static_assert(!is_record(shared(QUARN_ASN1_ANYLIST), shared(QUARN_ASN1_ANYSET)));
+static_assert(!is_record(shared(QUARN_ASN1_ANYLIST),
+                         field("", QUARN_ASN1_ANYLIST, implicit_tag(0), optional())));
+static_assert(!is_record(shared(QUARN_ASN1_BOOLEAN)), "only lists and records have two forms");
+static_assert(is_record(field("", QUARN_ASN1_BOOLEAN, written_tag(4))));
+static_assert(!is_record(field("", kChoiceId, written_tag(4))));
+constexpr std::uint8_t kTooLong[kMostDefaultOctets + 1] = {};
+static_assert(!is_record(field("", QUARN_ASN1_ANYLIST, default_encoding(kTooLong))));
+constexpr Field kSigned[] = {field("body", QUARN_ASN1_ANYLIST), field("", QUARN_ASN1_BITSTRING)};
+static_assert(!SchemaCheck(kRows.rows).well_formed(record("", kUnit, kSigned, keep_body())),
+              "a body has components");
+static_assert(!SchemaCheck(kRows.rows).well_formed(record("", kUnit, kSigned, keep_encoding())));
 
 }  // namespace
 }  // namespace quarn::asn1

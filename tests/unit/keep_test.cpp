@@ -2,6 +2,8 @@
 // leaves.
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "core/build.h"
 #include "core/engine.h"
 #include "tests/support/allocation.h"
@@ -155,6 +157,17 @@ TEST(Keep, octets_outlive_the_object_a_part_was_taken_from) {
   request.drop();
   const Held kept(QUARN_ASN1_PKCS10CERTREQINFO, body);
   EXPECT_EQ(encoding_of(QUARN_ASN1_X500NAME, component(body, 1)), ber(0x30, kNameContent));
+}
+
+TEST(Keep, parts_of_one_object_may_go_on_different_threads) {
+  for (int i = 0; i < 100; i++) {
+    const auto request = std::make_unique<Held>(kRequestId, kRequest);
+    void *body = component(request->get(), 0);
+    components(request->get())[0] = nullptr;
+    std::thread other([body] { quarn_asn1_value_free(QUARN_ASN1_PKCS10CERTREQINFO, body); });
+    request->drop();
+    other.join();
+  }
 }
 
 TEST(Keep, an_indefinite_length_inside_makes_those_around_it_indefinite) {
