@@ -38,6 +38,8 @@ if(TARGET quarn_cli AND Python3_FOUND)
   add_test(NAME cli COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_quarn.py)
   set_tests_properties(cli PROPERTIES ENVIRONMENT
     "QUARN=$<TARGET_FILE:quarn_cli>;QUARN_COMPLETION=${QUARN_COMPLETION_bash};QUARN_MAN=${QUARN_MAN_PAGE}")
+  add_test(NAME decode COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_decode.py)
+  set_tests_properties(decode PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
   add_test(NAME files COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_files.py)
   add_test(NAME check COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_check.py)
   set_tests_properties(check PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")

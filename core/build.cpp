@@ -43,7 +43,7 @@ void *build_alternative(quarn_asn1_type_id id, std::uint64_t number, const void 
   const Type &type = type_of(id);
   const std::uint32_t index = alternative_index(*type.schema, number);
   if (index == type.schema->fields.size() || value == nullptr) return nullptr;
-  Value choice(type, new_choice(index));
+  Value choice(type, new_choice(*type.schema, index));
   if (choice.get() == nullptr) return nullptr;
   const Type &inner = type_of(type.schema->fields[index].type());
   if (!copy_into(inner, value, &static_cast<Choice *>(choice.get())->value)) return nullptr;

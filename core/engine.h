@@ -23,9 +23,13 @@
 namespace quarn::asn1 {
 
 struct Choice {
-  std::uint32_t index;  // of the alternative in the schema
+  std::uint32_t index;  // of the alternative in the schema; of strings, in kStringAlternatives
   void *value;
 };
+
+// All alternatives that CHOICEs of strings have, by type id from QUARN_ASN1_UTF8STRING on. To C
+// code the values of all these CHOICEs are of one type, and may be handed to any of them.
+extern const Field kStringAlternatives[];
 
 // ---- Access
 
@@ -53,8 +57,9 @@ inline quarn_asn1_list *list_in(const Schema &schema, const void *value) {
 
 // A record with all components absent; null when memory is short.
 void *new_record(const Schema &schema);
-// A CHOICE without its value; null when memory is short.
-void *new_choice(std::uint32_t index);
+// A CHOICE of the alternative with this index in the schema, without its value; null when memory is
+// short.
+void *new_choice(const Schema &schema, std::uint32_t index);
 
 // ---- Octets that values keep
 
@@ -96,7 +101,8 @@ Status refuse(const Schema &schema, quarn_err_ctx *ctx, std::int64_t offset);
 
 // The field that the value of a CHOICE is of.
 inline const Field &chosen(const Schema &schema, const void *value) {
-  return schema.fields[static_cast<const Choice *>(value)->index];
+  const std::uint32_t index = static_cast<const Choice *>(value)->index;
+  return schema.kind == Kind::string_choice ? kStringAlternatives[index] : schema.fields[index];
 }
 
 // engine_decode.cpp

@@ -366,7 +366,7 @@ Status decode_choice_rest(const Type &type,
   std::uint32_t index = 0;
   while (index < schema.fields.size() && !field_matches(schema.fields[index], identifier)) index++;
   if (index == schema.fields.size()) return fail(schema, in, QUARN_ASN1_ERROR_ITEM);
-  Value choice(type, new_choice(index));
+  Value choice(type, new_choice(schema, index));
   if (choice.get() == nullptr) return fail(schema, in, QUARN_ERROR_NO_MEMORY);
   auto &made = *static_cast<Choice *>(choice.get());
   // A CHOICE of strings does not tell its strings apart, neither do its failures.

@@ -252,7 +252,7 @@ class Encoder {
   // A CHOICE of strings does not tell its strings apart, neither do its failures.
   Status choice(const Type &type, const Choice &value, std::int64_t length) {
     const Schema &schema = *type.schema;
-    const Field &field = schema.fields[value.index];
+    const Field &field = chosen(schema, &value);
     const Type &blamed = schema.kind == Kind::string_choice ? type : type_of(field.type());
     const Status status = inside(schema, field, value.value, length, blamed.encode_error());
     if (!status) out_.step(field.name);

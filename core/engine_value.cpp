@@ -22,13 +22,8 @@ void free_list_value(const Type &type, void *value) {
   quarn_free(value);
 }
 
-// Types of strings share one free function among them, which frees values of any under one id:
-// alternatives that this type need not have, but all of them octets.
 void free_choice(const Type &type, void *value) {
-  const Schema &schema = *type.schema;
-  const Field &field =
-      schema.kind == Kind::string_choice ? schema.fields[0] : chosen(schema, value);
-  free_value(type_of(field.type()), static_cast<Choice *>(value)->value);
+  free_value(type_of(chosen(*type.schema, value).type()), static_cast<Choice *>(value)->value);
   quarn_free(value);
 }
 
@@ -56,9 +51,25 @@ void *new_record(const Schema &schema) {
   return record == nullptr ? nullptr : std::memset(record, 0, size);
 }
 
-void *new_choice(std::uint32_t index) {
+constexpr Field kStringAlternatives[] = {
+    field("utf8String", QUARN_ASN1_UTF8STRING),
+    field("numericString", QUARN_ASN1_NUMERICSTRING),
+    field("printableString", QUARN_ASN1_PRINTABLESTRING),
+    field("teletexString", QUARN_ASN1_TELETEXSTRING),
+    field("videotexString", QUARN_ASN1_VIDEOTEXSTRING),
+    field("ia5String", QUARN_ASN1_IA5STRING),
+    field("graphicString", QUARN_ASN1_GRAPHICSTRING),
+    field("visibleString", QUARN_ASN1_VISIBLESTRING),
+    field("generalString", QUARN_ASN1_GENERALSTRING),
+    field("universalString", QUARN_ASN1_UNIVERSALSTRING),
+    field("bmpString", QUARN_ASN1_BMPSTRING),
+};
+
+void *new_choice(const Schema &schema, std::uint32_t index) {
   auto *choice = util::allocate<Choice>();
-  if (choice != nullptr) choice->index = index;
+  if (choice == nullptr) return nullptr;
+  const bool of_strings = schema.kind == Kind::string_choice;
+  choice->index = of_strings ? schema.fields[index].type_id - QUARN_ASN1_UTF8STRING : index;
   return choice;
 }
 
@@ -131,8 +142,12 @@ std::uint32_t alternative_index(const Schema &schema, std::uint64_t number) {
 }
 
 std::uint64_t alternative_number(const Type &type, const void *value) {
-  if (value != nullptr) return number_of(*type.schema, static_cast<const Choice *>(value)->index);
-  return type.schema->kind == Kind::choice ? UINT32_MAX : 0;
+  const Schema &schema = *type.schema;
+  if (schema.kind == Kind::string_choice) {
+    return value == nullptr ? 0 : type_of(chosen(schema, value).type()).tag_number;
+  }
+  if (value == nullptr) return UINT32_MAX;
+  return number_of(schema, static_cast<const Choice *>(value)->index);
 }
 
 void *alternative(const Type &type, const void *value, std::uint64_t number) {

@@ -27,8 +27,9 @@ class SchemaCheck {
       case Kind::list:
         return schema.fields.size() == 1;
       case Kind::choice:
-      case Kind::string_choice:
         return distinct(schema.fields);
+      case Kind::string_choice:
+        return distinct(schema.fields) && are_strings(schema.fields);
     }
     return false;
   }
@@ -126,6 +127,14 @@ class SchemaCheck {
     return fields.size() == 2 && fields[0].mandatory() && is_any(fields[1]) &&
            fields[0].tagging == Tagging::plain && fields[1].tagging == Tagging::plain &&
            fields[1].presence == Presence::optional;
+  }
+
+  static constexpr bool are_strings(std::span<const Field> alternatives) {
+    for (const Field &field : alternatives) {
+      if (field.type_id < QUARN_ASN1_UTF8STRING || field.type_id > QUARN_ASN1_BMPSTRING)
+        return false;
+    }
+    return true;
   }
 
   constexpr bool distinct(std::span<const Field> alternatives) const {

@@ -87,6 +87,17 @@ TEST(Build, a_choice_is_made_by_number) {
       nullptr);
 }
 
+TEST(Build, strings_of_all_choices_are_one_type) {
+  // An alternative that the other CHOICE does not have, and one that stands elsewhere in it.
+  const Decoded ia5(QUARN_ASN1_PKCS9STRING, {22, 1, 'a'});
+  const Decoded bmp(QUARN_ASN1_PKCS9STRING, {30, 2, 0, 'a'});
+  EXPECT_EQ(string_tag(QUARN_ASN1_X500DIRSTRING, ia5.get()), 22u);
+  EXPECT_EQ(encoding_of(QUARN_ASN1_X500DIRSTRING, ia5.get()), (Octets{22, 1, 'a'}));
+  EXPECT_EQ(copy_of(QUARN_ASN1_X500DIRSTRING, ia5.get()), nullptr);
+  const Decoded copy(QUARN_ASN1_DISPLAYTEXT, copy_of(QUARN_ASN1_DISPLAYTEXT, bmp.get()));
+  EXPECT_EQ(copy.encoding(), (Octets{30, 2, 0, 'a'}));
+}
+
 TEST(Build, a_copy_is_what_the_encoding_decodes_to) {
   const Decoded string(QUARN_ASN1_AC_IETFATTRSYNTAXVALUE, {12, 1, 'a'});
   EXPECT_EQ(choice_number(QUARN_ASN1_AC_IETFATTRSYNTAXVALUE, string.get()), 2u);
