@@ -4,6 +4,8 @@
 #include <botan/x509_crl.h>
 #include <botan/x509cert.h>
 
+#include <memory>
+
 #include "bench/typed/typed.h"
 
 namespace bench {
@@ -23,7 +25,7 @@ bool decode_and_free(const Octets &der) {
 
 void *load(const Octets &der) {
   try {
-    return new Botan::X509_Certificate(der);
+    return std::make_unique<Botan::X509_Certificate>(der).release();
   } catch (const std::exception &) {
     return nullptr;
   }

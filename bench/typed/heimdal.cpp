@@ -1,6 +1,7 @@
 // Heimdal: C structures by a compiler of ASN.1, without any keys or canonical forms. It has no
 // types of requests, certificate policies and their mappings and constraints.
 #include <iterator>
+#include <memory>
 
 #include "bench/typed/typed.h"
 
@@ -101,10 +102,10 @@ bool list(const Octets &der) {
 }
 
 void *load(const Octets &der) {
-  auto *value = new Certificate;
+  auto value = std::make_unique<Certificate>();
   std::size_t size = 0;
-  require(decode_Certificate(der.data(), der.size(), value, &size) == 0, "load with Heimdal");
-  return value;
+  const int result = decode_Certificate(der.data(), der.size(), value.get(), &size);
+  return result == 0 ? value.release() : nullptr;
 }
 
 void release(void *certificate) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <deque>
 #include <memory>
 
 namespace bench {
@@ -200,17 +201,17 @@ constexpr Length kLengths[] = {
 
 // CRLs of each length. The time is that of an entry.
 Question lists_decoded(const std::string &title, bool extensions) {
+  static std::deque<std::vector<Octets>> kept;  // for as long as the cases, as all inputs
   Cases cases(title);
   for (const auto &[entries, suffix] : kLengths) {
-    // Lives as long as the program, as all inputs.
-    const auto *inputs = new std::vector<Octets>{revocation_list(entries, extensions)};
+    const std::vector<Octets> &inputs = kept.emplace_back(1, revocation_list(entries, extensions));
     for (const Library &library : libraries()) {
       if (library.most_entries != 0 && entries > library.most_entries) {
         cases.note(std::string(library.name) + suffix + ": left out, takes minutes");
         continue;
       }
       const double at_most = is_ours(library) && entries == kLengths[0].entries ? 0.6 : 0;
-      cases.add(library, suffix, library.list, *inputs, at_most, entries,
+      cases.add(library, suffix, library.list, inputs, at_most, entries,
                 std::string("OpenSSL") + suffix);
     }
   }
