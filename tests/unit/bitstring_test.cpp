@@ -9,10 +9,7 @@
 namespace quarn::test {
 namespace {
 
-struct FreeBits {
-  void operator()(quarn_asn1_bitstring *v) const { quarn_asn1_value_free(3, v); }
-};
-using Bits = std::unique_ptr<quarn_asn1_bitstring, FreeBits>;
+using Bits = Value<quarn_asn1_bitstring, QUARN_ASN1_BITSTRING>;
 
 Octets encoding_of(const Bits &value) {
   return test::encoding_of(3, value.get());

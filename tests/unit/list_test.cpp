@@ -10,10 +10,7 @@
 namespace quarn::test {
 namespace {
 
-struct FreeAnylist {
-  void operator()(quarn_asn1_list *l) const { quarn_asn1_anylist_free(l); }
-};
-using AnyList = std::unique_ptr<quarn_asn1_list, FreeAnylist>;
+using AnyList = Value<quarn_asn1_list, QUARN_ASN1_ANYLIST>;
 
 // An OCTET STRING of some octets, as ANY.
 quarn_asn1_any *element(const Octets &content) {
