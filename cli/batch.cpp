@@ -50,14 +50,6 @@ class Progress {
   std::chrono::steady_clock::time_point last_ = start_;
 };
 
-Form form_of(const Arguments &arguments) {
-  const std::string name = arguments.value(Opt::in_form, "auto");
-  if (name == "der") return Form::der;
-  if (name == "pem") return Form::pem;
-  if (name == "base64") return Form::base64;
-  return name == "hex" ? Form::hex : Form::automatic;
-}
-
 // A run over all inputs.
 class Batch {
  public:
@@ -149,8 +141,15 @@ int Batch::run() {
 
 }  // namespace
 
+Form form_named(std::string_view name) {
+  if (name == "der") return Form::der;
+  if (name == "pem") return Form::pem;
+  if (name == "base64") return Form::base64;
+  return name == "hex" ? Form::hex : Form::automatic;
+}
+
 int visit_inputs(const Arguments &arguments, Visitor &visitor) {
-  Batch batch(visitor, form_of(arguments));
+  Batch batch(visitor, form_named(arguments.value(Opt::in_form, "auto")));
   if (arguments.operands.empty()) {
     if (isatty(STDIN_FILENO) == 1) say("quarn: reading from the terminal; end with Ctrl-D");
     batch.add("-", false);
@@ -161,19 +160,38 @@ int visit_inputs(const Arguments &arguments, Visitor &visitor) {
   return batch.run();
 }
 
+std::string json_head(const std::string &path, const Object *object) {
+  std::string text = "{\"source\":" + json_string(path);
+  if (object == nullptr) return text;
+  text += ",\"index\":" + std::to_string(object->index) +
+          ",\"offset\":" + std::to_string(object->offset) +
+          ",\"length\":" + std::to_string(object->octets.size());
+  if (!object->label.empty()) text += ",\"label\":" + json_string(object->label);
+  return text;
+}
+
+void write_json_failure(const std::string &path, const Object *object, const Failure &failure) {
+  std::string text = json_head(path, object) +
+                     ",\"error\":{\"exit\":" + std::to_string(failure.code()) +
+                     ",\"message\":" + json_string(failure.what());
+  if (failure.report() != nullptr) text += "," + json_members(*failure.report());
+  standard_output().write(text + "}}\n");
+}
+
+std::string object_prefix(const Object *object) {
+  if (object == nullptr || (object->index == 0 && object->label.empty())) return "";
+  const std::string label = object->label.empty() ? "" : " (" + printable(object->label) + ")";
+  return "object " + std::to_string(object->index) + " at " + std::to_string(object->offset) +
+         label + ": ";
+}
+
 void say_failure(const std::string &command,
                  const std::string &path,
                  const Object *object,
                  const Failure &failure) {
-  const bool later = object != nullptr && (object->index > 0 || !object->label.empty());
-  std::string line =
-      "quarn " + command + ": " + (path == "-" ? "standard input" : printable(path)) + ": ";
-  if (later) {
-    line += "object " + std::to_string(object->index) + " at " + std::to_string(object->offset);
-    if (!object->label.empty()) line += " (" + printable(object->label) + ")";
-    line += ": ";
-  }
-  line += failure.what();
+  std::string line = "quarn " + command + ": " +
+                     (path == "-" ? "standard input" : printable(path)) + ": " +
+                     object_prefix(object) + failure.what();
   if (failure.report() != nullptr) line += "\n" + details(*failure.report());
   say(line);
 }

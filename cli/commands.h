@@ -11,6 +11,8 @@ namespace quarn::cli {
 int run_json(const Arguments &arguments);
 int run_der(const Arguments &arguments);
 int run_dump(const Arguments &arguments);
+int run_check(const Arguments &arguments);
+int run_convert(const Arguments &arguments);
 int run_types(const Arguments &arguments);
 int run_error(const Arguments &arguments);
 int run_help(const Arguments &arguments);

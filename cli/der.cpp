@@ -1,19 +1,13 @@
 // `quarn der`: JSON documents back to octets.
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
-#include <memory>
 
 #include "cli/commands.h"
 #include "cli/diagnosis.h"
 #include "cli/failure.h"
 #include "cli/handles.h"
-#include "cli/output.h"
+#include "cli/output_file.h"
 #include "cli/text.h"
 #include "quarn_asn1/json.h"
 
@@ -183,90 +177,15 @@ quarn_json *document_in(quarn_json *json) {
   return json;
 }
 
-// A file that takes its name only when it is complete. What is no regular file, a device or a pipe,
-// is written as it is.
-class OutputFile {
- public:
-  explicit OutputFile(std::string path);
-  ~OutputFile();
-  OutputFile(const OutputFile &) = delete;
-  OutputFile &operator=(const OutputFile &) = delete;
-
-  Output &output() { return *output_; }
-  void commit();
-
- private:
-  Failure failure(const char *what) const {
-    return {kFile, printable(path_) + ": " + what + ": " + std::strerror(errno)};
-  }
-
-  std::string path_;
-  std::string temporary_;
-  int descriptor_ = -1;
-  std::unique_ptr<Output> output_;
-};
-
-OutputFile::OutputFile(std::string path) : path_(std::move(path)) {
-  struct stat status {};
-  const bool exists = ::stat(path_.c_str(), &status) == 0;
-  if (exists && !S_ISREG(status.st_mode)) {
-    descriptor_ = ::open(path_.c_str(), O_WRONLY | O_CLOEXEC);
-  } else {
-    // A link stays a link: the file that it names is replaced.
-    char *real = exists ? ::realpath(path_.c_str(), nullptr) : nullptr;
-    if (real != nullptr) path_ = real;
-    std::free(real);
-    temporary_ = path_ + ".XXXXXX";
-    descriptor_ = ::mkostemp(temporary_.data(), O_CLOEXEC);
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    const mode_t mode = exists ? status.st_mode & 07777 : 0666 & ~mask;
-    if (descriptor_ >= 0 && ::fchmod(descriptor_, mode) != 0) throw failure("cannot be made");
-  }
-  if (descriptor_ < 0) {
-    temporary_.clear();
-    throw failure("cannot be written");
-  }
-  output_ = std::make_unique<Output>(descriptor_, printable(path_));
+Form form_of(const Arguments &arguments) {
+  if (!arguments.has(Opt::pem)) return arguments.has(Opt::hex) ? Form::hex : Form::der;
+  if (arguments.has(Opt::hex)) throw UsageError("der", "--pem and --hex exclude each other");
+  check_label("der", arguments.value(Opt::pem));
+  return Form::pem;
 }
 
-OutputFile::~OutputFile() {
-  if (descriptor_ >= 0) ::close(descriptor_);
-  if (!temporary_.empty()) ::unlink(temporary_.c_str());
-}
-
-void OutputFile::commit() {
-  output_->flush();
-  const int descriptor = descriptor_;
-  descriptor_ = -1;
-  if (::close(descriptor) != 0) throw failure("cannot be written");
-  if (temporary_.empty()) return;
-  if (::rename(temporary_.c_str(), path_.c_str()) != 0) throw failure("cannot be replaced");
-  temporary_.clear();
-}
-
-void write_encoding(const quarn_data_blob &blob, const Arguments &arguments, Output &output) {
-  char *text = nullptr;
-  std::int64_t length = 0;
-  int result = 1;
-  if (arguments.has(Opt::pem)) {
-    const std::string label = arguments.value(Opt::pem);
-    result = quarn_pemencode(label.c_str(), blob.data, blob.length, &text, &length);
-  } else if (arguments.has(Opt::hex)) {
-    result = quarn_hexencode(1, blob.data, blob.length, &text, &length);
-  } else {
-    output.write(
-        {reinterpret_cast<const char *>(blob.data), static_cast<std::size_t>(blob.length)});
-    return;
-  }
-  const OwnedText owned(text);
-  if (result != 1) throw std::bad_alloc();
-  output.write({text, static_cast<std::size_t>(length)});
-  if (length > 0 && text[length - 1] != '\n') output.write("\n");
-}
-
-// Writes the encodings of all documents of the text; returns an exit code.
-int convert(std::string_view text, const Arguments &arguments, Output &output) {
+// Writes the encodings of all documents of the text.
+void convert(std::string_view text, Form form, const std::string &label, Output &output) {
   std::size_t at = text.find_first_not_of(" \t\r\n");
   if (at == std::string_view::npos) throw Failure(kBadInput, "holds no JSON document");
   while (at != std::string_view::npos) {
@@ -276,10 +195,10 @@ int convert(std::string_view text, const Arguments &arguments, Output &output) {
     quarn_json *document = document_in(json.get());
     const Blob blob = encoding_of(document);
     if (blob == nullptr) throw encode_failure(document);
-    write_encoding(*blob, arguments, output);
+    const Octets octets(blob->data, static_cast<std::size_t>(blob->length));
+    write_encoding(output, form, label, octets);
     at = text.find_first_not_of(" \t\r\n", end);
   }
-  return kGood;
 }
 
 Blob read(const std::string &path) {
@@ -293,32 +212,20 @@ Blob read(const std::string &path) {
                                   : std::string("cannot be read"));
 }
 
-void check_label(const Arguments &arguments) {
-  if (arguments.has(Opt::pem) && arguments.has(Opt::hex)) {
-    throw UsageError("der", "--pem and --hex exclude each other");
-  }
-  const std::string label = arguments.value(Opt::pem);
-  const bool good = std::all_of(label.begin(), label.end(),
-                                [](char c) { return c >= 0x20 && c < 0x7F && c != '-'; });
-  if (!good) throw UsageError("der", in_quotes(label) + " cannot be the label of a PEM block");
-}
-
 }  // namespace
 
 int run_der(const Arguments &arguments) {
-  check_label(arguments);
+  const Form form = form_of(arguments);
   const std::string path = arguments.operands.empty() ? "-" : arguments.operands[0];
   const std::string name = path == "-" ? "standard input" : printable(path);
-  std::unique_ptr<OutputFile> file;
-  const std::string target = arguments.value(Opt::output, "-");
-  if (target != "-") file = std::make_unique<OutputFile>(target);
+  Target target("der", arguments, form);
   try {
     const Blob blob = read(path);
     const std::string_view text(reinterpret_cast<const char *>(blob->data),
                                 static_cast<std::size_t>(blob->length));
-    const int code = convert(text, arguments, file ? file->output() : standard_output());
-    if (file) file->commit();
-    return code;
+    convert(text, form, arguments.value(Opt::pem), target.output());
+    target.commit();
+    return kGood;
   } catch (const Failure &failure) {
     const bool of_output =
         failure.code() == kFile &&

@@ -44,8 +44,6 @@ class Dump : public Visitor {
   void heading(const Source &source, const Object &object);
   void line(Walk &walk);
   void write(const Walk &walk, bool encapsulates) const;
-  // Where the encodings inside the element start, or nothing when it holds none.
-  std::optional<std::uint64_t> encapsulated(const Walk &walk) const;
 
   bool dig_;
   std::uint64_t depth_;
@@ -61,31 +59,6 @@ void Dump::heading(const Source &source, const Object &object) {
       " at offset " + std::to_string(object.offset) + ", " + counted(object.octets.size(), "octet");
   standard_output().write((first_ ? "" : "\n") + painted(Paint::tag, text) + "\n");
   first_ = false;
-}
-
-// Whether the octets are encodings that make sense: any octets may happen to be well-formed.
-bool sensible_encodings(Octets octets) {
-  if (octets.size() < 2) return false;
-  Walk walk(octets, Walk::Top::several);
-  Walk::Step step = walk.next();
-  for (; step == Walk::Step::element; step = walk.next()) {
-    const Element &found = walk.element();
-    if (found.depth > 0 || found.constructed()) continue;
-    if (found.header.tag_class != kUniversal || !plausible(found.header, walk.content())) {
-      return false;
-    }
-  }
-  return step == Walk::Step::end;
-}
-
-std::optional<std::uint64_t> Dump::encapsulated(const Walk &walk) const {
-  const Element &element = walk.element();
-  if (!dig_ || element.constructed()) return std::nullopt;
-  const Octets content = walk.content();
-  if (element.universal(4) && sensible_encodings(content)) return 0;
-  const bool whole_octets = element.universal(3) && !content.empty() && content[0] == 0;
-  if (whole_octets && sensible_encodings(content.subspan(1))) return 1;
-  return std::nullopt;
 }
 
 void Dump::write(const Walk &walk, bool encapsulates) const {
@@ -112,7 +85,7 @@ void Dump::write(const Walk &walk, bool encapsulates) const {
 }
 
 void Dump::line(Walk &walk) {
-  const std::optional<std::uint64_t> inside = encapsulated(walk);
+  const std::optional<std::uint64_t> inside = dig_ ? encapsulated(walk) : std::nullopt;
   if (walk.element().depth <= depth_) write(walk, inside.has_value());
   if (inside) walk.descend(*inside);
 }

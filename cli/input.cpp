@@ -1,9 +1,10 @@
 // Reading a file and finding the objects in it.
 //
 // In automatic form the octets are taken for what they plainly are: whole encodings to the last
-// octet are DER; a BEGIN line makes PEM; nothing but hexadecimal digits makes hexadecimal text;
-// nothing but base64 characters makes base64 text when an encoding starts there. What remains is
-// taken for DER, so that the fault in it can be shown.
+// octet are DER, unless they are text that stands for whole encodings; a BEGIN line makes PEM;
+// nothing but hexadecimal digits makes hexadecimal text; nothing but base64 characters makes base64
+// text when an encoding starts there. What remains is taken for DER, so that the fault in it can be
+// shown.
 #include "cli/input.h"
 
 #include <fcntl.h>
@@ -91,22 +92,43 @@ bool hex_text(Octets text) {
   return only && !read_hex(text).octets.empty();
 }
 
-bool base64_text(Octets text) {
-  const bool only = std::all_of(text.begin(), text.end(),
-                                [](std::uint8_t c) { return base64_character(c) || blank(c); });
-  if (!only) return false;
-  // Base64 of an encoding starts with the identifier of a SEQUENCE or SET, of anything that is
-  // whole, or not at all.
+// The octets of text that is nothing but base64 characters and blanks; nothing when they are none.
+struct Base64Text {
+  bool only = false;
+  OwnedOctets owned;
+  Octets octets;
+};
+
+Base64Text read_base64(Octets text) {
+  Base64Text result;
+  result.only = std::all_of(text.begin(), text.end(),
+                            [](std::uint8_t c) { return base64_character(c) || blank(c); });
+  if (!result.only) return result;
   std::uint8_t *octets = nullptr;
   std::int64_t count = 0;
   const auto length = static_cast<std::int64_t>(text.size());
-  if (quarn_base64decode(2, as_text(text).data(), length, &octets, &count, nullptr) != 1) {
+  const int good = quarn_base64decode(2, as_text(text).data(), length, &octets, &count, nullptr);
+  result.owned.reset(octets);
+  if (good == 1) result.octets = {octets, static_cast<std::size_t>(count)};
+  return result;
+}
+
+// Base64 of an encoding starts with the identifier of a SEQUENCE or SET, of anything that is whole,
+// or, when it cannot be decoded, looks like a SEQUENCE.
+bool base64_text(Octets text) {
+  const Base64Text decoded = read_base64(text);
+  if (!decoded.only) return false;
+  if (decoded.octets.empty()) {
     return text.size() >= 2 && text[0] == 'M' && text[1] >= 'A' && text[1] <= 'S';
   }
-  const OwnedOctets owned(octets);
-  const Octets decoded(octets, static_cast<std::size_t>(count));
-  return !decoded.empty() &&
-         (decoded[0] == 0x30 || decoded[0] == 0x31 || extent(decoded).has_value());
+  return decoded.octets[0] == 0x30 || decoded.octets[0] == 0x31 ||
+         extent(decoded.octets).has_value();
+}
+
+// Whether hexadecimal or base64 text stands for encodings from the first octet to the last.
+bool text_of_encodings(Octets text) {
+  return (hex_text(text) && well_formed(read_hex(text).octets)) ||
+         well_formed(read_base64(text).octets);
 }
 
 // UTF-8 with no controls but blanks, at the start at least.
@@ -120,8 +142,11 @@ bool ordinary_text(Octets text) {
   return blanks && quarn_utf8_valid(start.data(), static_cast<std::int64_t>(whole)) == 1;
 }
 
+// Letters and digits are identifiers and lengths too, so that one text of base64 in a hundred is
+// well-formed itself; that an encoding reads as the text of another one does not happen.
 Form recognise(Octets text) {
-  if (text.empty() || (text[0] != '-' && well_formed(text))) return Form::der;
+  if (text.empty()) return Form::der;
+  if (text[0] != '-' && well_formed(text) && !text_of_encodings(text)) return Form::der;
   if (has_begin_line(as_text(text))) return Form::pem;
   if (hex_text(text)) return Form::hex;
   if (base64_text(text)) return Form::base64;

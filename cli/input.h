@@ -19,6 +19,7 @@
 namespace quarn::cli {
 
 enum class Form { automatic, der, pem, base64, hex };
+Form form_named(std::string_view name);
 
 // One encoding, or what should have been one.
 struct Object {
@@ -74,6 +75,14 @@ class Visitor {
 // Shows every object of the operands to the visitor, and returns the exit code.
 int visit_inputs(const Arguments &arguments, Visitor &visitor);
 
+// The JSON object of a line about an object, as far as it is the same whatever is said of it:
+// {"source":"a.der","index":0,"offset":0,"length":5 - without what follows and its closing brace.
+std::string json_head(const std::string &path, const Object *object);
+// The same with the failure, whole, on standard output.
+void write_json_failure(const std::string &path, const Object *object, const Failure &failure);
+
+// "object 1 at 5 (CERTIFICATE): ", or nothing for the only object of a file without labels.
+std::string object_prefix(const Object *object);
 // The message of a failure on standard error, with the details of its report.
 void say_failure(const std::string &command,
                  const std::string &path,

@@ -53,27 +53,12 @@ class Lines : public Visitor {
  public:
   void object(const Source &source, const Object &object, bool /*several*/) override {
     const Json json = document_of(object);
-    standard_output().write(head(source.path(), &object) + ",\"document\":");
+    standard_output().write(json_head(source.path(), &object) + ",\"document\":");
     write(json.get(), 0);
     standard_output().write("}\n");
   }
   void failure(const std::string &path, const Object *object, const Failure &failure) override {
-    std::string text = head(path, object) +
-                       ",\"error\":{\"exit\":" + std::to_string(failure.code()) +
-                       ",\"message\":" + json_string(failure.what());
-    if (failure.report() != nullptr) text += "," + json_members(*failure.report());
-    standard_output().write(text + "}}\n");
-  }
-
- private:
-  static std::string head(const std::string &path, const Object *object) {
-    std::string text = "{\"source\":" + json_string(path);
-    if (object == nullptr) return text;
-    text += ",\"index\":" + std::to_string(object->index) +
-            ",\"offset\":" + std::to_string(object->offset) +
-            ",\"length\":" + std::to_string(object->octets.size());
-    if (!object->label.empty()) text += ",\"label\":" + json_string(object->label);
-    return text;
+    write_json_failure(path, object, failure);
   }
 };
 

@@ -30,6 +30,10 @@ constexpr Option kOptions[] = {
     {Opt::pem, "--pem", "LABEL", nullptr,
      "Write PEM blocks with this label, for example CERTIFICATE."},
     {Opt::hex, "--hex", nullptr, nullptr, "Write hexadecimal text."},
+    {Opt::to, "--to", "FORM", "der,pem,hex,base64",
+     "Form of the output. der is the octets as they are."},
+    {Opt::label, "--label", "LABEL", nullptr,
+     "Label of the PEM blocks, whatever they had before or look like."},
     {Opt::no_dig, "--no-dig", nullptr, nullptr,
      "Do not look for encodings inside OCTET STRING and BIT STRING."},
     {Opt::depth, "--depth", "N", nullptr, "Show elements down to level N; the outermost is 0."},
@@ -87,6 +91,44 @@ std::vector<Command> encoding_commands() {
        run_dump}};
 }
 
+// Commands that judge encodings, or carry them from one form of text to another.
+std::vector<Command> form_commands() {
+  return {
+      {"check",
+       "[FILE...]",
+       "List every departure from DER",
+       "Writes a line for each place where an encoding is not DER: the offset in the object, the "
+       "path of the element, what was found and what was expected, and the clause of X.690 (2021) "
+       "with the name of the rule. Nothing is written for DER. What only a schema tells cannot be "
+       "judged: types behind tags of their own, most DEFAULT values, trailing zeros of named bits. "
+       "A SET of different tags may be ordered by its tags or by its encodings. Encodings inside "
+       "OCTET STRING and BIT STRING, such as the values of extensions, are judged too where they "
+       "make sense. With --json each line is a JSON object. The exit code is 1 when there is a "
+       "departure; a file that cannot be judged gives the codes of all commands.",
+       {Opt::in_form, Opt::recursive, Opt::no_dig, Opt::json},
+       {{"quarn check server.pem && echo DER", "whether a certificate is DER"},
+        {"quarn check --json -r DIR | jq -r 'select(.finding).finding.rule' | sort | uniq -c",
+         "which rules the files of a directory break, and how often"}},
+       0,
+       SIZE_MAX,
+       run_check},
+      {"convert",
+       "[FILE...]",
+       "Write encodings as DER, PEM, base64 or hexadecimal text",
+       "Writes the octets of each object, unchanged, in the form that --to names. A PEM block "
+       "keeps "
+       "its label; other objects get the label that their structure tells: certificates, CRLs, "
+       "requests, attribute certificates, CMS (as PKCS7) and keys. For anything else --label is "
+       "needed. Hexadecimal text has a line for each object, base64 is one text for all of them. "
+       "Octets are not written to a terminal unless -o - asks for it.",
+       {Opt::to, Opt::label, Opt::output, Opt::in_form, Opt::recursive},
+       {{"quarn convert --to der -o server.der server.pem", "PEM to DER"},
+        {"quarn convert --to pem *.der > all.pem", "many files in one"}},
+       0,
+       SIZE_MAX,
+       run_convert}};
+}
+
 // Commands that tell what the libraries know.
 std::vector<Command> reference_commands() {
   return {
@@ -118,6 +160,7 @@ std::vector<Command> reference_commands() {
 const std::vector<Command> &table() {
   static const std::vector<Command> all = [] {
     std::vector<Command> list = encoding_commands();
+    for (Command &command : form_commands()) list.push_back(std::move(command));
     for (Command &command : reference_commands()) list.push_back(std::move(command));
     return list;
   }();

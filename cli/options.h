@@ -22,6 +22,8 @@ enum class Opt {
   output,
   pem,
   hex,
+  to,
+  label,
   no_dig,
   depth,
   width,

@@ -148,6 +148,15 @@ std::string printable_wide(Octets octets, std::size_t width) {
   return out;
 }
 
+std::size_t utf8_prefix(std::string_view text) {
+  std::string_view rest = text;
+  while (!rest.empty()) {
+    const std::size_t good = text.size() - rest.size();
+    if (next_code_point(rest) == kInvalid) return good;
+  }
+  return text.size();
+}
+
 std::string json_string(std::string_view text) {
   std::string out = "\"";
   while (!text.empty()) {

@@ -29,6 +29,9 @@ std::string in_quotes(std::string_view text);
 // is shown as octets.
 std::string printable_wide(Octets octets, std::size_t width);
 
+// Octets at the start of the text that are UTF-8.
+std::size_t utf8_prefix(std::string_view text);
+
 // A JSON string with its quotation marks, all of ASCII control, bidirectional and non-UTF-8 content
 // escaped; octets that are no UTF-8 become U+FFFD.
 std::string json_string(std::string_view text);

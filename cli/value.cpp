@@ -141,6 +141,60 @@ bool ascii(Octets content) {
   return std::all_of(content.begin(), content.end(), [](std::uint8_t c) { return c < 0x80; });
 }
 
+// Whether content can be that of a primitive element with this tag: what a value of the type must
+// look like, for the universal types that are commonly found inside strings.
+bool plausible(const quarn_asn1_header &header, Octets content) {
+  switch (header.tag_number) {
+    case 1:
+      return content.size() == 1;
+    case 2:
+    case 10:
+      return !content.empty();
+    case 3:
+      return bit_string(content);
+    case 4:
+      return true;
+    case 5:
+      return content.empty();
+    case 6:
+      return dotted_oid(content).has_value();
+    case 12:
+      return quarn_utf8_valid(content.data(), static_cast<std::int64_t>(content.size())) == 1;
+    case 18:
+    case 19:
+      return printable_string(content);
+    case 20:
+      return true;
+    case 22:
+    case 26:
+      return ascii(content);
+    case 23:
+    case 24:
+      return content.size() >= 10 && digits(as_text(content.first(10)));
+    case 28:
+      return content.size() % 4 == 0;
+    case 30:
+      return content.size() % 2 == 0;
+    default:
+      return false;
+  }
+}
+
+// Whether the octets are encodings that make sense: any octets may happen to be well-formed.
+bool sensible_encodings(Octets octets) {
+  if (octets.size() < 2) return false;
+  Walk walk(octets, Walk::Top::several);
+  Walk::Step step = walk.next();
+  for (; step == Walk::Step::element; step = walk.next()) {
+    const Element &found = walk.element();
+    if (found.depth > 0 || found.constructed()) continue;
+    if (found.header.tag_class != kUniversal || !plausible(found.header, walk.content())) {
+      return false;
+    }
+  }
+  return step == Walk::Step::end;
+}
+
 }  // namespace
 
 std::string value_text(const quarn_asn1_header &header, Octets content, std::size_t width) {
@@ -182,41 +236,14 @@ std::string value_text(const quarn_asn1_header &header, Octets content, std::siz
   }
 }
 
-bool plausible(const quarn_asn1_header &header, Octets content) {
-  switch (header.tag_number) {
-    case 1:
-      return content.size() == 1;
-    case 2:
-    case 10:
-      return !content.empty();
-    case 3:
-      return bit_string(content);
-    case 4:
-      return true;
-    case 5:
-      return content.empty();
-    case 6:
-      return dotted_oid(content).has_value();
-    case 12:
-      return quarn_utf8_valid(content.data(), static_cast<std::int64_t>(content.size())) == 1;
-    case 18:
-    case 19:
-      return printable_string(content);
-    case 20:
-      return true;
-    case 22:
-    case 26:
-      return ascii(content);
-    case 23:
-    case 24:
-      return content.size() >= 10 && digits(as_text(content.first(10)));
-    case 28:
-      return content.size() % 4 == 0;
-    case 30:
-      return content.size() % 2 == 0;
-    default:
-      return false;
-  }
+std::optional<std::uint64_t> encapsulated(const Walk &walk) {
+  const Element &element = walk.element();
+  if (element.constructed()) return std::nullopt;
+  const Octets content = walk.content();
+  if (element.universal(4) && sensible_encodings(content)) return 0;
+  const bool whole_octets = element.universal(3) && !content.empty() && content[0] == 0;
+  if (whole_octets && sensible_encodings(content.subspan(1))) return 1;
+  return std::nullopt;
 }
 
 }  // namespace quarn::cli

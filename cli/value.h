@@ -2,6 +2,7 @@
 #ifndef QUARN_CLI_VALUE_H
 #define QUARN_CLI_VALUE_H
 
+#include <optional>
 #include <string>
 
 #include "cli/walk.h"
@@ -12,9 +13,10 @@ namespace quarn::cli {
 // nothing to show.
 std::string value_text(const quarn_asn1_header &header, Octets content, std::size_t width);
 
-// Whether content can be that of a primitive element with this tag: what a value of the type must
-// look like, for the universal types that are commonly found inside strings.
-bool plausible(const quarn_asn1_header &header, Octets content);
+// Where the encodings inside the element that the walk stands at start in its content: it is an
+// OCTET STRING or a BIT STRING that holds nothing else, and they make sense. Nothing when it holds
+// none.
+std::optional<std::uint64_t> encapsulated(const Walk &walk);
 
 }  // namespace quarn::cli
 

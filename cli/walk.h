@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/rules.h"
 #include "cli/text.h"
 #include "quarn_asn1/core.h"
 
@@ -40,9 +41,9 @@ struct Element {
 
 struct Fault {
   std::uint64_t offset = 0;
+  Rule rule = Rule::whole_header;
   std::string found;
   std::string expected;
-  bool truncated = false;  // the octets end too early; what there is may be good
 };
 
 class Walk {
@@ -50,14 +51,20 @@ class Walk {
   enum class Step { element, end, fault };
   // How many elements there should be side by side at the top.
   enum class Top { one, several };
+  // Whether tag numbers below 31 may be in the long form, which the library refuses.
+  enum class Tags { strict, lenient };
 
-  explicit Walk(Octets octets, Top top = Top::one) : octets_(octets), top_(top) {}
+  explicit Walk(Octets octets, Top top = Top::one, Tags tags = Tags::strict)
+      : octets_(octets), top_(top), tags_(tags) {}
 
   // Goes to the next element: the first one inside the current, when that is constructed.
   Step next();
   // Makes the content of the current element, which is primitive and holds `skip` octets before
   // them, the next elements.
   void descend(std::uint64_t skip);
+  // After a fault: goes on behind the innermost element around it that has a known end. False when
+  // there is none.
+  bool recover();
 
   const Element &element() const { return element_; }
   const Fault &fault() const { return fault_; }
@@ -74,12 +81,14 @@ class Walk {
 
  private:
   struct Frame {
+    quarn_asn1_header header;
     std::uint64_t offset;  // of the element itself
     std::uint64_t end;     // its content ends here at the latest
     std::uint64_t children;
-    bool indefinite;
     bool cut_off;  // its length passes the end of the input
     bool open;     // what is around it may go on after the end of the input
+
+    bool indefinite() const { return header.content_length == QUARN_ASN1_INDEFINITE; }
   };
 
   std::uint64_t limit() const { return frames_.empty() ? octets_.size() : frames_.back().end; }
@@ -90,13 +99,15 @@ class Walk {
   Step read_element();
   Step enter_element();
   Step end_of_contents();
-  Step fail(std::uint64_t offset, std::string found, std::string expected, bool truncated = false);
+  Step fail(std::uint64_t offset, Rule rule, std::string found, std::string expected = "");
+  int header_at(std::uint64_t offset, std::uint64_t left, quarn_asn1_header &header) const;
   Step fail_header(int result);
-  std::string path_to(std::size_t depth, std::uint64_t offset) const;
-  std::string name_at(std::uint64_t offset) const;
+  void enter(std::uint64_t end, bool cut_off, bool open);
+  std::string path_to(std::size_t depth) const;
 
   Octets octets_;
   Top top_;
+  Tags tags_;
   std::uint64_t position_ = 0;
   std::uint64_t top_elements_ = 0;
   std::vector<Frame> frames_;

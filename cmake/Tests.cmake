@@ -26,12 +26,20 @@ foreach(folder util unit vectors laws)
   quarn_add_test_program(${folder})
 endforeach()
 
-# The command as a person runs it.
+# What is generated: that it is up to date, and the generator itself.
 find_package(Python3 COMPONENTS Interpreter)
+if(Python3_FOUND)
+  add_test(NAME generated COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/generate.py --check)
+  add_test(NAME notation COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/tools/test_notation.py)
+endif()
+
+# The command as a person runs it.
 if(TARGET quarn_cli AND Python3_FOUND)
   add_test(NAME cli COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_quarn.py)
   set_tests_properties(cli PROPERTIES ENVIRONMENT
     "QUARN=$<TARGET_FILE:quarn_cli>;QUARN_COMPLETION=${QUARN_COMPLETION_bash};QUARN_MAN=${QUARN_MAN_PAGE}")
   add_test(NAME files COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_files.py)
+  add_test(NAME check COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_check.py)
+  set_tests_properties(check PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
   set_tests_properties(files PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
 endif()

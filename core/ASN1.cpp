@@ -26,7 +26,10 @@ Status encode_around_content(const Type &type, Writer &out, void *value) {
   return status ? type.codec->encode_content(type, out, value, length) : status;
 }
 
+}  // namespace
+
 Status decode_around_content(const Type &type, Reader &in, void **value) {
+  if (value != nullptr) *value = nullptr;
   Identifier identifier{};
   Status status = read_identifier(in, identifier);
   if (!status) {
@@ -43,8 +46,6 @@ Status decode_around_content(const Type &type, Reader &in, void **value) {
   if (!status) return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_LENGTH, in.offset());
   return type.codec->decode_content(type, in, value, identifier.primitive, length);
 }
-
-}  // namespace
 
 Status write_header(const Type &type, Writer &out, std::int64_t length) {
   if (length < kIndefinite) {
@@ -71,7 +72,6 @@ Status decode(const Type &type, Reader &in, void **value) {
   if (in.at_depth_limit()) return Status::too_deep();
   const Nesting nesting(in);
   if (type.codec->decode != nullptr) return type.codec->decode(type, in, value);
-  if (value != nullptr) *value = nullptr;
   return decode_around_content(type, in, value);
 }
 
@@ -224,8 +224,9 @@ int quarn_asn1_type_describe(int64_t type_id, quarn_asn1_type_description *descr
   if (type == nullptr || description == nullptr) return 0;
   const bool supported =
       type->codec->decode_content != cannot_decode_content || type->codec->decode != cannot_decode;
-  *description = {type->name, type->tag_number, type->tag_class,
-                  type->form, type->error_code, supported ? 1 : 0};
+  *description = {type->name,       type->tag_untold ? 0 : type->tag_number,
+                  type->tag_class,  type->tag_untold ? -1 : type->form,
+                  type->error_code, supported ? 1 : 0};
   return 1;
 }
 

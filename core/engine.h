@@ -4,6 +4,9 @@
 //     CHOICE    one block: which alternative, and a pointer to its value
 //     list      quarn_asn1_list
 //
+// Behind the components of a type that keeps octets stands what it keeps; a list that keeps its
+// encoding is a record of one component, the list itself.
+//
 // A component with a default is never absent once a value has been decoded: it holds its default.
 // C code knows these values by the names of incomplete types only, so that one layout serves all.
 #ifndef QUARN_CORE_ENGINE_H
@@ -12,8 +15,10 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/kept.h"
 #include "core/schema.h"
 #include "core/type.h"
+#include "quarn_asn1/types.h"
 
 namespace quarn::asn1 {
 
@@ -37,15 +42,56 @@ std::uint64_t alternative_number(const Type &type, const void *value);
 // The alternative's value when it is the one with this number, else null.
 void *alternative(const Type &type, const void *value, std::uint64_t number);
 
-// ---- Inside the engine
+// The index of the alternative with a number; how many alternatives there are when none has it.
+std::uint32_t alternative_index(const Schema &schema, std::uint64_t number);
+
+// The list of a value of a list type.
+inline quarn_asn1_list *list_in(const Schema &schema, const void *value) {
+  if (schema.keep == Keep::encoding) return static_cast<quarn_asn1_list *>(component(value, 0));
+  return static_cast<quarn_asn1_list *>(const_cast<void *>(value));
+}
 
 // A record with all components absent; null when memory is short.
 void *new_record(const Schema &schema);
+// A CHOICE without its value; null when memory is short.
+void *new_choice(std::uint32_t index);
+
+// ---- Octets that values keep
+
+// The next value written is encoded anew: of this value alone, and of all values in it. Its type
+// and theirs may keep octets or not.
+void drop_encoding(const Schema &schema, void *value);
+void drop_kept(const Type &type, void *value);
+
+// The octets of the first component of a signed object, made if it does not keep them. Null when
+// that fails.
+const Kept *body_of(const Type &type, void *value);
+
+// What a value keeps: its encoding, and behind that, of a signed object, its body. The type must be
+// one that keeps octets.
+inline Kept *kept_by(const Schema &schema, void *value) {
+  return reinterpret_cast<Kept *>(components(value) + schema.fields.size());
+}
+
+// ---- Inside the engine, and for codecs that differ from those of core/engine_value.cpp in one step
+
+void free_record(const Type &type, void *value);
+
+// Whether a value's encoding is kept.
+inline bool is_kept(const Schema &schema, const void *value) {
+  return schema.keep != Keep::nothing && value != nullptr &&
+         kept_by(schema, const_cast<void *>(value))->valid();
+}
 
 // Gives an absent component its default, if it has one. False when memory is short.
 [[nodiscard]] bool take_default(const Field &field, void **component);
 // Whether a component is left out of the encoding: absent, or equal in meaning to its default.
-bool left_out(const Field &field, const void *component);
+bool left_out(const Field &field, void *component);
+// Whether a value may be used for its type. Decoding and encoding record it when not.
+inline bool allowed(const Schema &schema, const void *value) {
+  return schema.restriction == nullptr || schema.restriction->allows(value);
+}
+Status refuse(const Schema &schema, quarn_err_ctx *ctx, std::int64_t offset);
 
 // The field that the value of a CHOICE is of.
 inline const Field &chosen(const Schema &schema, const void *value) {
@@ -55,6 +101,7 @@ inline const Field &chosen(const Schema &schema, const void *value) {
 // engine_decode.cpp
 Status decode_record_content(
     const Type &type, Reader &in, void **value, bool primitive, std::int64_t length);
+Status decode_structured(const Type &type, Reader &in, void **value);
 Status decode_list_value(
     const Type &type, Reader &in, void **value, bool primitive, std::int64_t length);
 Status decode_choice(const Type &type, Reader &in, void **value);

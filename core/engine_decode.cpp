@@ -34,7 +34,7 @@ bool is_end_of_contents(const Field &field, const void *value) {
 bool field_matches(const Field &field, const Identifier &identifier) {
   if (field.tagging == Tagging::plain) return matches(type_of(field.type()), identifier);
   if (!identifier.is(kContext, field.tag)) return false;
-  return field.tagging == Tagging::implicit || !identifier.primitive;
+  return field.tagging != Tagging::explicitly || !identifier.primitive;
 }
 
 // A component whole, by its row. That no end-of-contents is taken for an open type is the caller's
@@ -75,7 +75,24 @@ Status decode_field_rest(const Schema &schema,
   if (field.tagging == Tagging::explicitly) {
     return decode_inside_tag(schema, field, in, length, value);
   }
-  return note(schema, in, decode_content(type, in, value, identifier.primitive, length), code);
+  const bool primitive = identifier.primitive && field.tagging != Tagging::implicit_primitive;
+  return note(schema, in, decode_content(type, in, value, primitive, length), code);
+}
+
+// Reads one element as quarn_asn1_readoneobject() does, to be read again from the octets kept.
+Status keep_element(const Schema &schema, Reader &in, Kept &out) {
+  const Capture octets(in);
+  Element element{};
+  if (const Status status = find_element(in, element); !status) return status;
+  if (in.block() != nullptr) {
+    out.share(in.block(), octets.data(), octets.size());
+    return Status::success();
+  }
+  SharedOctets *block = SharedOctets::make(octets.size());
+  if (block == nullptr) return fail(schema, in, QUARN_ERROR_NO_MEMORY);
+  std::memcpy(block->octets(), octets.data(), octets.size());
+  out.take(block, block->octets(), octets.size());
+  return Status::success();
 }
 
 // Fills the components of one record.
@@ -99,18 +116,31 @@ class RecordDecoder {
 
   // The open type ends the record: in the indefinite form, an end-of-contents in its place does.
   Status open_tail() {
-    Status status = take_whole(schema_.fields[0], components_[0]);
+    Status status = take_named(schema_.fields[0], components_[0]);
     if (!status) return status;
     void *&tail = components_[1];
     if (length_ == kIndefinite || !at_end()) {
       status = decode_whole(schema_, schema_.fields[1], in_, &tail);
-      if (!status) return status;
+      if (!status) return named(schema_.fields[1], status);
     }
     if (length_ != kIndefinite) return at_exact_end() ? status : fail_with_length();
     if (!is_end_of_contents(schema_.fields[1], tail)) return read_end();
     free_value(type_of(schema_.fields[1].type()), tail);
     tail = nullptr;
     return status;
+  }
+
+  // A body, whose octets are kept, and what signs it.
+  Status signed_object(Kept &kept_body) {
+    std::size_t i = 0;
+    for (const Field &field : schema_.fields) {
+      const Status status =
+          i == 0 ? take_body(field, kept_body) : take_named(field, components_[i]);
+      if (!status) return status;
+      i++;
+    }
+    if (length_ == kIndefinite) return read_end();
+    return at_exact_end() ? Status::success() : fail_with_length();
   }
 
  private:
@@ -148,16 +178,39 @@ class RecordDecoder {
   Status take(const Field &field, void **component) {
     if (field.mandatory()) {
       const bool whole = field.tagging == Tagging::plain && !in_hand_;
-      return whole ? take_whole(field, *component) : take_expected(field, component);
+      return whole ? take_named(field, *component) : named(field, take_expected(field, component));
     }
     Status status = look();
     if (!status) return status;
     if (in_hand_ && field_matches(field, identifier_)) {
-      status = take_rest(field, component);
+      status = named(field, take_rest(field, component));
       return status ? look() : status;
     }
     if (take_default(field, component)) return status;
-    return fail(schema_, in_, QUARN_ERROR_NO_MEMORY);
+    return named(field, fail(schema_, in_, QUARN_ERROR_NO_MEMORY));
+  }
+
+  // Says in which component a failure lies.
+  Status named(const Field &field, Status status) {
+    if (!status) in_.step(field.name);
+    return status;
+  }
+  Status take_named(const Field &field, void *&component) {
+    return named(field, take_whole(field, component));
+  }
+
+  Status take_body(const Field &field, Kept &kept) {
+    return named(field, at_end() ? fail_with_item() : keep_and_decode(field, kept));
+  }
+
+  Status keep_and_decode(const Field &field, Kept &kept) {
+    const Type &type = type_of(field.type());
+    Status status = keep_element(schema_, in_, kept);
+    if (!status) return note(schema_, in_, status, type.decode_error());
+    Reader body(in_, kept);
+    status = decode_whole(schema_, field, body, components_);
+    if (!status) return status;
+    return body.left() == 0 ? check_end() : fail_with_length();
   }
 
   Status take_whole(const Field &field, void *&component) {
@@ -208,7 +261,52 @@ Status begin(const Type &type, Reader &in, void **value, bool primitive, std::in
   return length < kIndefinite ? fail(*type.schema, in, QUARN_ERROR_RANGE) : Status::success();
 }
 
+Status decode_components(RecordDecoder &decoder, const Schema &schema, void *record) {
+  if (schema.keep == Keep::body) return decoder.signed_object(kept_by(schema, record)[1]);
+  return schema.kind == Kind::open_tail ? decoder.open_tail() : decoder.fields();
+}
+
+// A whole element of a type that keeps its encoding, from the octets kept.
+Status decode_from_kept(const Type &type, Reader &in, void **value) {
+  const Schema &schema = *type.schema;
+  Identifier identifier{};
+  Status status = read_identifier(in, identifier);
+  if (!status) return note(schema, in, status, QUARN_ASN1_ERROR_READ_IDENTIFIER);
+  if (!identifier.is(type.tag_class, type.tag_number) || identifier.primitive) {
+    return fail(schema, in, QUARN_ASN1_ERROR_ITEM);
+  }
+  std::int64_t length = 0;
+  status = read_length(in, length);
+  if (!status) return note(schema, in, status, QUARN_ASN1_ERROR_READ_LENGTH);
+  status = type.codec->decode_content(type, in, value, false, length);
+  if (!status || in.left() == 0) return status;
+  return fail(schema, in, QUARN_ASN1_ERROR_ITEM_LENGTH);
+}
+
 }  // namespace
+
+Status refuse(const Schema &schema, quarn_err_ctx *ctx, std::int64_t offset) {
+  const Restriction &restriction = *schema.restriction;
+  if (restriction.general_text) return schema.unit.fail_generally(ctx, restriction.code);
+  return schema.unit.fail(ctx, restriction.code, offset);
+}
+
+Status decode_structured(const Type &type, Reader &in, void **value) {
+  const Schema &schema = *type.schema;
+  if (schema.keep == Keep::nothing) return decode_around_content(type, in, value);
+  if (value != nullptr) *value = nullptr;
+  if (in.is_null() || value == nullptr) return fail(schema, in, QUARN_ERROR_ARGUMENT);
+  Keeping encoding;
+  Status status = keep_element(schema, in, encoding.get());
+  if (!status) return status;
+  Reader octets(in, encoding.get());
+  Value made(type);
+  status = decode_from_kept(type, octets, made.out());
+  if (!status) return status;
+  encoding.move_to(*kept_by(schema, made.get()));
+  *value = made.release();
+  return status;
+}
 
 Status decode_record_content(
     const Type &type, Reader &in, void **value, bool primitive, std::int64_t length) {
@@ -218,16 +316,39 @@ Status decode_record_content(
   Value record(type, new_record(schema));
   if (record.get() == nullptr) return fail(schema, in, QUARN_ERROR_NO_MEMORY);
   RecordDecoder decoder(schema, in, record.get(), length);
-  status = schema.kind == Kind::open_tail ? decoder.open_tail() : decoder.fields();
+  status = decode_components(decoder, schema, record.get());
+  if (status && !allowed(schema, record.get())) status = refuse(schema, in.ctx(), in.offset());
   if (status) *value = record.release();
   return status;
 }
 
-Status decode_list_value(
+namespace {
+
+Status decode_plain_list(
     const Type &type, Reader &in, void **value, bool primitive, std::int64_t length) {
   const Schema &schema = *type.schema;
   return decode_list(in, reinterpret_cast<quarn_asn1_list **>(value), type_of(schema.element()),
-                     primitive, length, schema.least);
+                     primitive, length, schema.at_least);
+}
+
+}  // namespace
+
+Status decode_list_value(
+    const Type &type, Reader &in, void **value, bool primitive, std::int64_t length) {
+  const Schema &schema = *type.schema;
+  if (schema.keep == Keep::nothing && schema.restriction == nullptr) {
+    return decode_plain_list(type, in, value, primitive, length);
+  }
+  if (value != nullptr) *value = nullptr;
+  if (in.is_null() || value == nullptr) return fail(schema, in, QUARN_ERROR_ARGUMENT);
+  const bool wrapped = schema.keep == Keep::encoding;
+  Value made(type, wrapped ? new_record(schema) : nullptr);
+  if (wrapped && made.get() == nullptr) return fail(schema, in, QUARN_ERROR_NO_MEMORY);
+  void **list = wrapped ? components(made.get()) : made.out();
+  Status status = decode_plain_list(type, in, list, primitive, length);
+  if (status && !allowed(schema, made.get())) status = refuse(schema, in.ctx(), in.offset());
+  if (status) *value = made.release();
+  return status;
 }
 
 bool choice_matches(const Type &type, const Identifier &identifier) {
@@ -245,16 +366,20 @@ Status decode_choice_rest(const Type &type,
   std::uint32_t index = 0;
   while (index < schema.fields.size() && !field_matches(schema.fields[index], identifier)) index++;
   if (index == schema.fields.size()) return fail(schema, in, QUARN_ASN1_ERROR_ITEM);
-  Value choice(type, util::allocate<Choice>());
+  Value choice(type, new_choice(index));
   if (choice.get() == nullptr) return fail(schema, in, QUARN_ERROR_NO_MEMORY);
   auto &made = *static_cast<Choice *>(choice.get());
-  made.index = index;
   // A CHOICE of strings does not tell its strings apart, neither do its failures.
   const Field &field = schema.fields[index];
   const Type &blamed = schema.kind == Kind::string_choice ? type : type_of(field.type());
-  const Status status =
+  Status status =
       decode_field_rest(schema, field, in, identifier, blamed.decode_error(), &made.value);
-  if (status) *value = choice.release();
+  if (!status) {
+    in.step(field.name);
+    return status;
+  }
+  if (!allowed(schema, &made)) return refuse(schema, in.ctx(), in.offset());
+  *value = choice.release();
   return status;
 }
 

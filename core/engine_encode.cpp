@@ -4,9 +4,13 @@
 // Here one walk measures a value and notes the content length of each structured value in it, in
 // the order in which it comes to them; writing comes to them in the same order and takes one note
 // for each.
+//
+// Octets that a value keeps are noted and written as they are. A value that is to keep its octets
+// and does not is written into a block of exactly the measured size, which those inside it share.
 #include "core/engine.h"
 #include "core/lengths.h"
 #include "types/list.h"
+#include "types/scratch.h"
 
 namespace quarn::asn1 {
 
@@ -21,7 +25,8 @@ std::uint64_t tag_number_of(const Type &type, const void *value) {
     return type.tag_number;
   }
   const Field &field = chosen(*type.schema, value);
-  return field.tagging == Tagging::plain ? type_of(field.type()).tag_number : field.tag;
+  return field.tagging == Tagging::plain && field.tag == 0 ? type_of(field.type()).tag_number
+                                                           : field.tag;
 }
 
 // The sum of lengths, or the first of them that is no count.
@@ -46,7 +51,7 @@ class Measure {
  public:
   explicit Measure(Lengths *lengths) : lengths_(lengths) {}
 
-  std::int64_t content(const Type &type, const void *value) {
+  std::int64_t content(const Type &type, void *value) {
     if (type.schema == nullptr) return content_length_of(type, value);
     const std::size_t place = lengths_ == nullptr ? 0 : lengths_->reserve();
     const std::int64_t length = value == nullptr ? kNoLength : structured(*type.schema, value);
@@ -54,41 +59,58 @@ class Measure {
     return length;
   }
 
-  std::int64_t element(const Type &type, const void *value) {
+  std::int64_t element(const Type &type, void *value) {
     if (type.schema == nullptr) return length_of(type, value);
+    if (is_kept(*type.schema, value)) return as_kept(*kept_by(*type.schema, value));
     return element_length(tag_number_of(type, value), content(type, value));
   }
 
  private:
-  std::int64_t structured(const Schema &schema, const void *value) {
-    if (schema.is_choice()) {
-      return inside(chosen(schema, value), static_cast<const Choice *>(value)->value);
-    }
-    return schema.is_list() ? list(schema, *static_cast<const quarn_asn1_list *>(value))
-                            : record(schema, value);
+  std::int64_t as_kept(const Kept &kept) {
+    if (lengths_ != nullptr) lengths_->add(kAsKept);
+    return static_cast<std::int64_t>(kept.count);
   }
 
-  std::int64_t record(const Schema &schema, const void *value) {
+  std::int64_t structured(const Schema &schema, void *value) {
+    const Restriction *restriction = schema.restriction;
+    const bool counts = restriction == nullptr || !restriction->in_length || allowed(schema, value);
+    if (!counts) return kNoLength;
+    if (schema.is_choice())
+      return inside(chosen(schema, value), static_cast<Choice *>(value)->value);
+    return schema.is_list() ? list(schema, list_in(schema, value)) : record(schema, value);
+  }
+
+  std::int64_t record(const Schema &schema, void *value) {
     Sum sum;
-    for (std::size_t i = 0; i < schema.fields.size(); i++) {
+    std::size_t i = 0;
+    if (schema.keep == Keep::body) {
+      const Kept &body = kept_by(schema, value)[1];
+      sum.add(body.valid() ? as_kept(body) : field_length(schema.fields[0], component(value, 0)));
+      i = 1;
+    }
+    for (; i < schema.fields.size(); i++) {
       const Field &field = schema.fields[i];
-      const void *part = component(value, i);
-      if (left_out(field, part)) continue;
-      sum.add(field.tagging == Tagging::plain ? element(type_of(field.type()), part)
-                                              : element_length(field.tag, inside(field, part)));
+      void *part = component(value, i);
+      if (!left_out(field, part)) sum.add(field_length(field, part));
     }
     return sum.get();
   }
 
-  std::int64_t list(const Schema &schema, const quarn_asn1_list &value) {
+  std::int64_t list(const Schema &schema, const quarn_asn1_list *list) {
+    if (list == nullptr) return kNoLength;
     const Type &type = type_of(schema.element());
     Sum sum;
-    for (std::int32_t i = 0; i < value.count; i++) sum.add(element(type, value.items[i]));
+    for (std::int32_t i = 0; i < list->count; i++) sum.add(element(type, list->items[i]));
     return sum.get();
+  }
+
+  std::int64_t field_length(const Field &field, void *value) {
+    if (field.tagging == Tagging::plain) return element(type_of(field.type()), value);
+    return element_length(field.tag, inside(field, value));
   }
 
   // What follows identifier and length of a field.
-  std::int64_t inside(const Field &field, const void *value) {
+  std::int64_t inside(const Field &field, void *value) {
     const Type &type = type_of(field.type());
     return field.tagging == Tagging::explicitly ? element(type, value) : content(type, value);
   }
@@ -98,28 +120,94 @@ class Measure {
 
 class Encoder {
  public:
-  Encoder(Writer &out, Lengths &lengths) : out_(out), lengths_(lengths) {}
+  // block: what out writes to, if that is to be kept; else null.
+  Encoder(Writer &out, Lengths &lengths, SharedOctets *block = nullptr)
+      : out_(out), lengths_(lengths), block_(block) {}
 
   Status element(const Type &type, void *value) {
     if (type.schema == nullptr) return encode(type, out_, value);
     const std::int64_t length = lengths_.next();
     if (value == nullptr) return kUnit.fail(out_.ctx(), QUARN_ERROR_ARGUMENT, out_.offset());
+    if (type.schema->keep == Keep::nothing) return whole(type, value, length);
+    return keeping(type, value, length, *kept_by(*type.schema, value));
+  }
+
+  // An element whose octets are kept: made first, if the note says so. The note decides, so that
+  // measuring and writing go the same way.
+  Status keeping(const Type &type, void *value, std::int64_t length, Kept &kept) {
+    if (length == kAsKept) return out_.octets(kept.octets, kept.count);
+    if (length < kIndefinite) return whole(type, value, length);
+    if (block_ != nullptr) return keep_in_place(type, value, length, kept);
+    const std::int64_t size = element_length(type.tag_number, length);
+    const Status status = size < 0 ? keep_unmeasured(type, value, length, kept)
+                                   : keep_in_block(type, value, length, kept, size);
+    return status ? out_.octets(kept.octets, kept.count) : status;
+  }
+
+  // The content of a structured value whose note has been taken.
+  Status structured(const Type &type, void *value, std::int64_t length) {
+    const Schema &schema = *type.schema;
+    const Restriction *restriction = schema.restriction;
+    if (restriction != nullptr && !restriction->decode_only && !allowed(schema, value)) {
+      return refuse(schema, out_.ctx(), out_.offset());
+    }
+    if (schema.is_choice()) return choice(type, *static_cast<Choice *>(value), length);
+    const Status status =
+        schema.is_list() ? list(schema, list_in(schema, value)) : record(schema, value);
+    return status && length == kIndefinite ? end(schema) : status;
+  }
+
+ private:
+  // Identifier, length and content.
+  Status whole(const Type &type, void *value, std::int64_t length) {
     const Status status = type.schema->is_choice()
                               ? field_header(*type.schema, chosen(*type.schema, value), length)
                               : write_header(type, out_, length);
     return status ? structured(type, value, length) : status;
   }
 
-  // The content of a structured value whose note has been taken.
-  Status structured(const Type &type, void *value, std::int64_t length) {
-    const Schema &schema = *type.schema;
-    if (schema.is_choice()) return choice(type, *static_cast<Choice *>(value), length);
-    const Status status = schema.is_list() ? list(schema, *static_cast<quarn_asn1_list *>(value))
-                                           : record(schema, value);
-    return status && length == kIndefinite ? end(schema) : status;
+  // Into the block that holds what surrounds it.
+  Status keep_in_place(const Type &type, void *value, std::int64_t length, Kept &kept) {
+    const std::uint8_t *start = out_.next();
+    const Status status = whole(type, value, length);
+    const std::int64_t size = out_.next() - start;
+    if (status && size == element_length(type.tag_number, length)) {
+      kept.share(block_, start, static_cast<std::uint64_t>(size));
+    }
+    return status;
   }
 
- private:
+  // Into a block of its own.
+  Status keep_in_block(
+      const Type &type, void *value, std::int64_t length, Kept &kept, std::int64_t size) {
+    SharedOctets *block = SharedOctets::make(static_cast<std::size_t>(size));
+    if (block == nullptr) return fail(*type.schema, QUARN_ERROR_NO_MEMORY);
+    Keeping encoding;
+    encoding.get().take(block, block->octets(), static_cast<std::uint64_t>(size));
+    Writer room({block->octets(), static_cast<std::size_t>(size)}, &out_);
+    Status status = Encoder(room, lengths_, block).whole(type, value, length);
+    if (status && room.offset() != size) status = fail(*type.schema, QUARN_ERROR_COUNT);
+    if (status) encoding.move_to(kept);
+    return status;
+  }
+
+  // The same for what has no definite length, whose size shows when it has been written.
+  Status keep_unmeasured(const Type &type, void *value, std::int64_t length, Kept &kept) {
+    const Scratch scratch(out_.ctx());
+    if (scratch.stream() == nullptr) return Status::failure();
+    Status status = Status::success();
+    {
+      Writer room(scratch.stream(), out_);
+      status = Encoder(room, lengths_).whole(type, value, length);
+    }
+    if (!status) return status;
+    SharedOctets *block = SharedOctets::make(scratch.size());
+    if (block == nullptr) return fail(*type.schema, QUARN_ERROR_NO_MEMORY);
+    std::memcpy(block->octets(), scratch.data(), scratch.size());
+    kept.take(block, block->octets(), scratch.size());
+    return status;
+  }
+
   Status fail(const Schema &schema, int code, int line = __builtin_LINE()) {
     return schema.unit.fail(out_.ctx(), code, out_.offset(), line);
   }
@@ -134,18 +222,29 @@ class Encoder {
     for (std::size_t i = 0; i < schema.fields.size(); i++) {
       const Field &field = schema.fields[i];
       void *part = component(value, i);
-      if (left_out(field, part)) continue;
-      const Status status = field.tagging == Tagging::plain ? plain(schema, field, part)
-                                                            : tagged(schema, field, part);
-      if (!status) return status;
+      Status status = Status::success();
+      if (i == 0 && schema.keep == Keep::body) {
+        status = body(schema, part, kept_by(schema, value)[1]);
+      } else if (!left_out(field, part)) {
+        status = field.tagging == Tagging::plain ? plain(schema, field, part)
+                                                 : tagged(schema, field, part);
+      }
+      if (!status) {
+        out_.step(field.name);
+        return status;
+      }
     }
     return Status::success();
   }
 
-  Status list(const Schema &schema, const quarn_asn1_list &value) {
-    for (std::int32_t i = 0; i < value.count; i++) {
-      const Status status = plain(schema, schema.fields[0], value.items[i]);
-      if (!status) return status;
+  Status list(const Schema &schema, const quarn_asn1_list *list) {
+    if (list == nullptr) return fail(schema, QUARN_ERROR_ARGUMENT);
+    for (std::int32_t i = 0; i < list->count; i++) {
+      const Status status = plain(schema, schema.fields[0], list->items[i]);
+      if (!status) {
+        out_.step(i);
+        return status;
+      }
     }
     return Status::success();
   }
@@ -155,7 +254,15 @@ class Encoder {
     const Schema &schema = *type.schema;
     const Field &field = schema.fields[value.index];
     const Type &blamed = schema.kind == Kind::string_choice ? type : type_of(field.type());
-    return inside(schema, field, value.value, length, blamed.encode_error());
+    const Status status = inside(schema, field, value.value, length, blamed.encode_error());
+    if (!status) out_.step(field.name);
+    return status;
+  }
+
+  // The first component of a signed object.
+  Status body(const Schema &schema, void *value, Kept &kept) {
+    const Type &type = type_of(schema.fields[0].type());
+    return note(schema, keeping(type, value, lengths_.next(), kept), type.encode_error());
   }
 
   Status plain(const Schema &schema, const Field &field, void *value) {
@@ -170,12 +277,15 @@ class Encoder {
     return status ? inside(schema, field, value, length, type.encode_error()) : status;
   }
 
-  std::int64_t length_inside(const Field &field, const Type &type, const void *value) const {
+  std::int64_t length_inside(const Field &field, const Type &type, void *value) const {
     const bool whole = field.tagging == Tagging::explicitly;
     if (type.schema == nullptr) {
       return whole ? length_of(type, value) : content_length_of(type, value);
     }
     const std::int64_t content = lengths_.peek();
+    if (content == kAsKept) {
+      return static_cast<std::int64_t>(kept_by(*type.schema, value)->count);
+    }
     return whole ? element_length(tag_number_of(type, value), content) : content;
   }
 
@@ -184,10 +294,10 @@ class Encoder {
     const Type &type = type_of(field.type());
     const bool own = field.tagging == Tagging::plain;
     const bool wraps = field.tagging == Tagging::explicitly;
-    const bool either = type.form == -1;
-    const bool primitive = !wraps && (either ? length != kIndefinite : type.form != 0);
+    const bool primitive = field.tagging == Tagging::implicit_primitive ||
+                           (!wraps && (type.form == -1 ? length != kIndefinite : type.form != 0));
     const std::uint32_t tag_class = own ? type.tag_class : kContext;
-    const std::uint64_t number = own ? type.tag_number : field.tag;
+    const std::uint64_t number = own && field.tag == 0 ? type.tag_number : field.tag;
     if (write_short_header(out_, tag_class, primitive, number, length)) return Status::success();
     Status status = write_identifier(out_, tag_class, primitive, static_cast<std::int64_t>(number));
     if (!status) return note(schema, status, QUARN_ASN1_ERROR_WRITE_IDENTIFIER);
@@ -211,43 +321,56 @@ class Encoder {
 
   Writer &out_;
   Lengths &lengths_;
+  SharedOctets *block_;
 };
 
-// Measures a value for writing. write(Encoder &) returns Status.
-template <typename Write>
-Status measure_and_write(const Type &type, Writer &out, void *value, Write write) {
-  if (out.is_null() || value == nullptr) return kUnit.fail(out.ctx(), QUARN_ERROR_ARGUMENT);
-  Lengths lengths;
-  Measure(&lengths).content(type, value);
-  if (lengths.out_of_memory()) {
-    return kUnit.fail(out.ctx(), QUARN_ERROR_NO_MEMORY, out.offset());
-  }
-  Encoder encoder(out, lengths);
-  return write(encoder, lengths);
+Status short_of_memory(const Writer &out) {
+  return kUnit.fail(out.ctx(), QUARN_ERROR_NO_MEMORY, out.offset());
 }
 
 }  // namespace
 
 std::int64_t structured_content_length(const Type &type, const void *value) {
-  return Measure(nullptr).content(type, value);
+  return Measure(nullptr).content(type, const_cast<void *>(value));
 }
 
 std::int64_t structured_length(const Type &type, const void *value) {
-  return Measure(nullptr).element(type, value);
+  return Measure(nullptr).element(type, const_cast<void *>(value));
 }
 
 Status encode_structured(const Type &type, Writer &out, void *value) {
-  return measure_and_write(type, out, value, [&](Encoder &encoder, Lengths & /*lengths*/) {
-    return encoder.element(type, value);
-  });
+  if (out.is_null() || value == nullptr) return kUnit.fail(out.ctx(), QUARN_ERROR_ARGUMENT);
+  if (is_kept(*type.schema, value)) {
+    const Kept &kept = *kept_by(*type.schema, value);
+    return out.octets(kept.octets, kept.count);
+  }
+  Lengths lengths;
+  Measure(&lengths).element(type, value);
+  if (lengths.out_of_memory()) return short_of_memory(out);
+  return Encoder(out, lengths).element(type, value);
 }
 
 Status encode_structured_content(const Type &type, Writer &out, void *value, std::int64_t length) {
-  return measure_and_write(type, out, value, [&](Encoder &encoder, Lengths &lengths) {
-    if (length < kIndefinite) return kUnit.fail(out.ctx(), QUARN_ERROR_RANGE, out.offset());
-    static_cast<void>(lengths.next());  // the caller's stands in its place
-    return encoder.structured(type, value, length);
-  });
+  if (out.is_null() || value == nullptr) return kUnit.fail(out.ctx(), QUARN_ERROR_ARGUMENT);
+  if (length < kIndefinite) return kUnit.fail(out.ctx(), QUARN_ERROR_RANGE, out.offset());
+  Lengths lengths;
+  Measure(&lengths).content(type, value);
+  if (lengths.out_of_memory()) return short_of_memory(out);
+  static_cast<void>(lengths.next());  // the caller's stands in its place
+  return Encoder(out, lengths).structured(type, value, length);
+}
+
+const Kept *body_of(const Type &type, void *value) {
+  Kept &body = kept_by(*type.schema, value)[1];
+  if (body.valid()) return &body;
+  const Type &body_type = type_of(type.schema->fields[0].type());
+  void *first = component(value, 0);
+  Lengths lengths;
+  Measure(&lengths).element(body_type, first);
+  if (lengths.out_of_memory()) return nullptr;
+  Writer nowhere(std::span<std::uint8_t>{});
+  Encoder encoder(nowhere, lengths);
+  return encoder.keeping(body_type, first, lengths.next(), body) ? &body : nullptr;
 }
 
 }  // namespace quarn::asn1

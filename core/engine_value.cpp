@@ -9,57 +9,124 @@ namespace quarn::asn1 {
 
 namespace {
 
-void free_record(const Type &type, void *value) {
-  void **component = components(value);
-  for (const Field &field : type.schema->fields) free_value(type_of(field.type()), *component++);
-  quarn_free(value);
+void drop_body(const Schema &schema, void *value) {
+  if (schema.keep == Keep::body) kept_by(schema, value)[1].drop();
 }
 
 void free_list_value(const Type &type, void *value) {
-  free_list(static_cast<quarn_asn1_list *>(value), type_of(type.schema->element()));
+  const Schema &schema = *type.schema;
+  free_list(list_in(schema, value), type_of(schema.element()));
+  if (schema.keep == Keep::nothing) return;
+  drop_encoding(schema, value);
+  quarn_free(value);
 }
 
+// Types of strings share one free function among them, which frees values of any under one id:
+// alternatives that this type need not have, but all of them octets.
 void free_choice(const Type &type, void *value) {
-  free_value(type_of(chosen(*type.schema, value).type()), static_cast<Choice *>(value)->value);
+  const Schema &schema = *type.schema;
+  const Field &field =
+      schema.kind == Kind::string_choice ? schema.fields[0] : chosen(schema, value);
+  free_value(type_of(field.type()), static_cast<Choice *>(value)->value);
   quarn_free(value);
 }
 
 std::uint64_t number_of(const Schema &schema, std::uint32_t index) {
-  if (schema.kind == Kind::choice) return std::uint64_t{schema.least} + index;
+  if (schema.kind == Kind::choice) return std::uint64_t{schema.first_number} + index;
   return type_of(schema.fields[index].type()).tag_number;
 }
 
 }  // namespace
 
+void free_record(const Type &type, void *value) {
+  const Schema &schema = *type.schema;
+  drop_encoding(schema, value);
+  drop_body(schema, value);
+  void **component = components(value);
+  for (const Field &field : schema.fields) free_value(type_of(field.type()), *component++);
+  quarn_free(value);
+}
+
 void *new_record(const Schema &schema) {
-  const std::size_t count = schema.fields.size();
-  void **record = util::allocate_array<void *>(count);
-  for (std::size_t i = 0; record != nullptr && i < count; i++) record[i] = nullptr;
-  return record;
+  constexpr std::size_t kKept[] = {0, sizeof(Kept), 2 * sizeof(Kept)};
+  const std::size_t size =
+      schema.fields.size() * sizeof(void *) + kKept[static_cast<std::size_t>(schema.keep)];
+  auto *record = util::allocate_array<std::uint8_t>(size);
+  return record == nullptr ? nullptr : std::memset(record, 0, size);
+}
+
+void *new_choice(std::uint32_t index) {
+  auto *choice = util::allocate<Choice>();
+  if (choice != nullptr) choice->index = index;
+  return choice;
+}
+
+void drop_encoding(const Schema &schema, void *value) {
+  if (schema.keep != Keep::nothing) kept_by(schema, value)->drop();
+}
+
+void drop_kept(const Type &type, void *value) {
+  if (value == nullptr || type.schema == nullptr) return;
+  const Schema &schema = *type.schema;
+  drop_encoding(schema, value);
+  drop_body(schema, value);
+  if (schema.is_choice()) {
+    drop_kept(type_of(chosen(schema, value).type()), static_cast<Choice *>(value)->value);
+  } else if (schema.is_list()) {
+    const quarn_asn1_list *list = list_in(schema, value);
+    const std::int32_t count = list == nullptr ? 0 : list->count;
+    for (std::int32_t i = 0; i < count; i++) drop_kept(type_of(schema.element()), list->items[i]);
+  } else {
+    void **component = components(value);
+    for (const Field &field : schema.fields) drop_kept(type_of(field.type()), *component++);
+  }
 }
 
 bool take_default(const Field &field, void **component) {
   if (*component != nullptr || !field.has_default()) return true;
   if (field.presence == Presence::default_integer) {
     *component = quarn_asn1_integer_value(field.default_value);
-  } else {
+  } else if (field.presence == Presence::default_boolean) {
     *component = field.default_value != 0 ? quarn_asn1_boolean_true() : quarn_asn1_boolean_false();
+  } else {
+    Reader in(field.default_octets, static_cast<std::size_t>(field.default_value), nullptr);
+    return decode(type_of(field.type()), in, component).ok();
   }
   return *component != nullptr;
 }
 
-bool left_out(const Field &field, const void *component) {
+namespace {
+
+// Whether a value encodes to these octets. One of their length needs no memory to be written.
+bool encodes_to(const Type &type, void *value, const std::uint8_t *octets, std::int64_t count) {
+  if (length_of(type, value) != count) return false;
+  std::uint8_t room[kMostDefaultOctets];
+  Writer out({room, static_cast<std::size_t>(count)});
+  if (!encode(type, out, value) || out.offset() != count) return false;
+  return std::memcmp(room, octets, static_cast<std::size_t>(count)) == 0;
+}
+
+}  // namespace
+
+bool left_out(const Field &field, void *component) {
+  if (component == nullptr) return !field.mandatory();
+  if (!field.has_default()) return false;
   if (field.presence == Presence::default_boolean) {
     const auto *value = static_cast<const quarn_asn1_boolean *>(component);
-    return value == nullptr || quarn_asn1_boolean_istrue(value) == field.default_value;
+    return quarn_asn1_boolean_istrue(value) == field.default_value;
   }
   if (field.presence == Presence::default_integer) {
     std::int64_t number = 0;
     const auto *value = static_cast<const quarn_asn1_integer *>(component);
-    if (value == nullptr) return true;
     return quarn_asn1_integer_getlong(value, &number) == 1 && number == field.default_value;
   }
-  return component == nullptr && !field.mandatory();
+  return encodes_to(type_of(field.type()), component, field.default_octets, field.default_value);
+}
+
+std::uint32_t alternative_index(const Schema &schema, std::uint64_t number) {
+  std::uint32_t index = 0;
+  while (index < schema.fields.size() && number_of(schema, index) != number) index++;
+  return index;
 }
 
 std::uint64_t alternative_number(const Type &type, const void *value) {
@@ -74,19 +141,19 @@ void *alternative(const Type &type, const void *value, std::uint64_t number) {
 
 const Codec kRecordCodec{.free = free_record,
                          .content_length = structured_content_length,
-                         .length = nullptr,
+                         .length = structured_length,
                          .encode_content = encode_structured_content,
                          .decode_content = decode_record_content,
                          .encode = encode_structured,
-                         .decode = nullptr};
+                         .decode = decode_structured};
 
 const Codec kListCodec{.free = free_list_value,
                        .content_length = structured_content_length,
-                       .length = nullptr,
+                       .length = structured_length,
                        .encode_content = encode_structured_content,
                        .decode_content = decode_list_value,
                        .encode = encode_structured,
-                       .decode = nullptr};
+                       .decode = decode_structured};
 
 const Codec kChoiceCodec{.free = free_choice,
                          .content_length = structured_content_length,

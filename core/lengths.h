@@ -10,8 +10,14 @@
 
 namespace quarn::asn1 {
 
+// In place of a length: the element is written as the octets that its value keeps.
+constexpr std::int64_t kAsKept = INT64_MIN;
+
 class Lengths {
  public:
+  // cppcheck-suppress uninitMemberVar ; near_ is written before it is read
+  Lengths() = default;
+
   // A place for a length that is not known yet, because those after it are part of it.
   std::size_t reserve() {
     const std::size_t place = count_++;
@@ -19,6 +25,7 @@ class Lengths {
     if (place >= kNear && !far_.append(&unknown, sizeof unknown)) out_of_memory_ = true;
     return place;
   }
+  void add(std::int64_t length) { set(reserve(), length); }
   void set(std::size_t place, std::int64_t length) {
     if (place < kNear) {
       near_[place] = length;
@@ -46,7 +53,7 @@ class Lengths {
  private:
   static constexpr std::size_t kNear = 64;  // enough for most values, and no allocation
 
-  std::int64_t near_[kNear] = {};
+  std::int64_t near_[kNear];  // written before it is read
   Buffer far_;
   std::size_t count_ = 0;
   std::size_t next_ = 0;

@@ -12,6 +12,7 @@
 #include <cstring>
 
 #include "core/buffer.h"
+#include "core/kept.h"
 #include "core/status.h"
 
 namespace quarn::asn1 {
@@ -23,12 +24,32 @@ class Reader {
   // Reads octets that stay where they are while the Reader lives.
   Reader(const std::uint8_t *octets, std::size_t count, quarn_err_ctx *ctx)
       : begin_(octets), next_(octets), end_(octets + count), ctx_(ctx), in_memory_(true) {}
+  // Reads again the octets that another Reader has just given out and that are kept: positions,
+  // nesting and the path of a failure go on from there, and values may share the block.
+  Reader(Reader &outer, const Kept &kept)
+      : begin_(kept.octets),
+        next_(kept.octets),
+        end_(kept.octets + kept.count),
+        ctx_(outer.ctx_),
+        path_(&outer.path_),
+        block_(kept.block),
+        settled_(outer.count() - kept.count),
+        depth_(outer.depth_),
+        limit_(outer.limit_),
+        in_memory_(true) {}
   Reader(const Reader &) = delete;
   Reader &operator=(const Reader &) = delete;
   ~Reader() { settle(); }
 
   bool is_null() const { return stream_ == nullptr && !in_memory_; }
   quarn_err_ctx *ctx() const { return ctx_; }
+
+  // The block that all octets lie in, if it is one that values may share; else null.
+  SharedOctets *block() const { return block_; }
+
+  // Adds a step to the path of a failure.
+  void step(const char *name) { path_.step(ctx_, name); }
+  void step(std::int64_t index) { path_.step(ctx_, nullptr, index); }
 
   // Octets read since the Reader was made.
   std::uint64_t count() const { return settled_ + static_cast<std::uint64_t>(next_ - begin_); }
@@ -91,6 +112,8 @@ class Reader {
   const std::uint8_t *end_ = nullptr;
   quarn_stream *stream_ = nullptr;
   quarn_err_ctx *ctx_;
+  FailurePath path_;
+  SharedOctets *block_ = nullptr;
   std::uint64_t settled_ = 0;
   Buffer captured_;
   int captures_ = 0;

@@ -7,11 +7,13 @@
 //     };
 //     constexpr Schema kExtension = record("Extension", kUnit, kExtensionFields);
 //
-// One engine (core/engine_*.cpp) interprets the schemas for all types. Whether a schema can be
-// decoded at all is settled when the registry is compiled; see core/schema_check.h.
+// Notes say what is not plain: optional(), explicit_tag(3), at_least(1), keep_body(). One engine
+// (core/engine_*.cpp) interprets the schemas for all types. Whether a schema can be decoded at all
+// is settled when the registry is compiled; see core/schema_check.h.
 #ifndef QUARN_CORE_SCHEMA_H
 #define QUARN_CORE_SCHEMA_H
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 
@@ -21,27 +23,34 @@
 namespace quarn::asn1 {
 
 enum class Tagging : std::uint8_t {
-  plain,      // the identifier of the component's own type
-  implicit,   // [n] in place of it
-  explicitly  // [n] around it
+  plain,               // the identifier of the component's own type
+  implicit,            // [n] in place of it
+  implicit_primitive,  // the same, written as if the component were primitive and read in either
+                       // form
+  explicitly           // [n] around it
 };
 
-enum class Presence : std::uint8_t { mandatory, optional, default_boolean, default_integer };
+enum class Presence : std::uint8_t {
+  mandatory,
+  optional,
+  default_boolean,
+  default_integer,
+  default_encoding
+};
 
 // A component of a record, or an alternative of a CHOICE.
 struct Field {
   const char *name;
+  const std::uint8_t *default_octets;  // DER encoding of a default that is neither of the two below
   std::uint16_t type_id;
-  std::uint16_t tag;           // n of [n]
-  std::int16_t default_value;  // 0 and 1 for FALSE and TRUE
+  std::uint16_t tag;  // n of [n]; plain: the universal tag that is written, 0 for the type's
+  std::int16_t default_value;  // 0 and 1 for FALSE and TRUE; how many default_octets there are
   Tagging tagging;
   Presence presence;
 
   constexpr quarn_asn1_type_id type() const { return static_cast<quarn_asn1_type_id>(type_id); }
   constexpr bool mandatory() const { return presence == Presence::mandatory; }
-  constexpr bool has_default() const {
-    return presence == Presence::default_boolean || presence == Presence::default_integer;
-  }
+  constexpr bool has_default() const { return presence > Presence::optional; }
 };
 
 enum class Kind : std::uint8_t {
@@ -52,12 +61,36 @@ enum class Kind : std::uint8_t {
   string_choice,  // of character strings, which are numbered by their tags
 };
 
+// The longest encoding that a default may have: values are compared with it on the stack.
+constexpr std::int16_t kMostDefaultOctets = 64;
+
+// What a value keeps of the octets that it was decoded from or last encoded to, so that it encodes
+// to the same ones again.
+enum class Keep : std::uint8_t {
+  nothing,
+  encoding,  // a list: its whole encoding
+  body       // a signed object, a record: its whole encoding, and that of the first component
+};
+
+// A condition on the values of a type beyond its components. Decoding refuses a value that does not
+// meet it, and so do encoding and measuring, as the type will have it.
+struct Restriction {
+  bool (*allows)(const void *value);
+  int code;                   // what a refusal is recorded with
+  bool general_text = false;  // with the general errors' text for the code, not with this library's
+  bool in_length = false;     // a value that is refused has no length either
+  bool decode_only = false;   // encoding does not ask
+};
+
 struct Schema {
   const char *name;
   Unit unit;                      // in the records of failures
   std::span<const Field> fields;  // of a list: one, for the elements
   Kind kind;
-  std::uint8_t least;  // elements of a list; number of the first alternative of a CHOICE
+  Keep keep = Keep::nothing;
+  std::uint8_t at_least = 0;      // elements of a list
+  std::uint8_t first_number = 0;  // of the alternatives of a CHOICE
+  const Restriction *restriction = nullptr;
 
   constexpr bool is_choice() const { return kind == Kind::choice || kind == Kind::string_choice; }
   constexpr bool is_list() const { return kind == Kind::list; }
@@ -75,6 +108,14 @@ struct Tag {
 struct Occurrence {
   Presence presence;
   std::int16_t value;
+  const std::uint8_t *octets = nullptr;
+};
+struct PrimitiveForm {};
+struct AtLeast {
+  std::uint8_t count;
+};
+struct NumberedFrom {
+  std::uint8_t number;
 };
 
 constexpr void note(Field &field, Tag tag) {
@@ -84,15 +125,50 @@ constexpr void note(Field &field, Tag tag) {
 constexpr void note(Field &field, Occurrence occurrence) {
   field.presence = occurrence.presence;
   field.default_value = occurrence.value;
+  field.default_octets = occurrence.octets;
+}
+constexpr void note(Field &field, PrimitiveForm /*form*/) {
+  field.tagging = Tagging::implicit_primitive;
+}
+constexpr void note(Schema &schema, Keep keep) {
+  schema.keep = keep;
+}
+constexpr void note(Schema &schema, const Restriction *restriction) {
+  schema.restriction = restriction;
+}
+constexpr void note(Schema &schema, AtLeast least) {
+  schema.at_least = least.count;
+}
+constexpr void note(Schema &schema, NumberedFrom first) {
+  schema.first_number = first.number;
+}
+
+template <typename... Notes>
+constexpr Schema schema(
+    const char *name, Unit unit, std::span<const Field> fields, Kind kind, Notes... notes) {
+  Schema made{name, unit, fields, kind};
+  (note(made, notes), ...);
+  return made;
 }
 
 }  // namespace notation
 
+// Of a component: a tag, how it may be absent.
 constexpr notation::Tag implicit_tag(std::uint16_t number) {
   return {Tagging::implicit, number};
 }
 constexpr notation::Tag explicit_tag(std::uint16_t number) {
   return {Tagging::explicitly, number};
+}
+// A plain component that goes out with another universal tag than its type's, and comes in with its
+// type's.
+constexpr notation::Tag written_tag(std::uint16_t number) {
+  return {Tagging::plain, number};
+}
+// After an implicit tag, on a constructed type. Several such components may share a tag: they are
+// filled in their order.
+constexpr notation::PrimitiveForm primitive_form() {
+  return {};
 }
 constexpr notation::Occurrence optional() {
   return {Presence::optional, 0};
@@ -103,35 +179,69 @@ constexpr notation::Occurrence defaults_to(bool value) {
 constexpr notation::Occurrence defaults_to(int value) {
   return {Presence::default_integer, static_cast<std::int16_t>(value)};
 }
+// A default of any type, by its DER encoding.
+template <std::size_t kCount>
+constexpr notation::Occurrence default_encoding(const std::uint8_t (&octets)[kCount]) {
+  return {Presence::default_encoding, static_cast<std::int16_t>(kCount), octets};
+}
 
-// Notes are a tag, an occurrence, both or none: a plain mandatory component.
+// Of a type.
+constexpr Keep keep_encoding() {
+  return Keep::encoding;
+}
+constexpr Keep keep_body() {
+  return Keep::body;
+}
+constexpr const Restriction *restricted_by(const Restriction &restriction) {
+  return &restriction;
+}
+constexpr notation::AtLeast at_least(std::uint8_t count) {
+  return {count};
+}
+constexpr notation::NumberedFrom numbered_from(std::uint8_t number) {
+  return {number};
+}
+
+// Without notes a component is plain and mandatory.
 template <typename... Notes>
 constexpr Field field(const char *name, quarn_asn1_type_id type, Notes... notes) {
-  Field made{name, static_cast<std::uint16_t>(type), 0, 0, Tagging::plain, Presence::mandatory};
+  Field made{
+      name, nullptr, static_cast<std::uint16_t>(type), 0, 0, Tagging::plain, Presence::mandatory};
   (notation::note(made, notes), ...);
   return made;
 }
 
-constexpr Schema record(const char *name, Unit unit, std::span<const Field> fields) {
-  return {name, unit, fields, Kind::record, 0};
+template <typename... Notes>
+constexpr Schema record(const char *name,
+                        Unit unit,
+                        std::span<const Field> fields,
+                        Notes... notes) {
+  return notation::schema(name, unit, fields, Kind::record, notes...);
 }
-constexpr Schema open_tail(const char *name, Unit unit, std::span<const Field> fields) {
-  return {name, unit, fields, Kind::open_tail, 0};
+template <typename... Notes>
+constexpr Schema open_tail(const char *name,
+                           Unit unit,
+                           std::span<const Field> fields,
+                           Notes... notes) {
+  return notation::schema(name, unit, fields, Kind::open_tail, notes...);
 }
-constexpr Schema list(const char *name,
-                      Unit unit,
-                      std::span<const Field> element,
-                      std::uint8_t least = 0) {
-  return {name, unit, element, Kind::list, least};
+template <typename... Notes>
+constexpr Schema list(const char *name, Unit unit, std::span<const Field> element, Notes... notes) {
+  return notation::schema(name, unit, element, Kind::list, notes...);
 }
+template <typename... Notes>
 constexpr Schema choice(const char *name,
                         Unit unit,
                         std::span<const Field> alternatives,
-                        std::uint8_t first_number = 0) {
-  return {name, unit, alternatives, Kind::choice, first_number};
+                        Notes... notes) {
+  return notation::schema(name, unit, alternatives, Kind::choice, notes...);
 }
-constexpr Schema string_choice(const char *name, Unit unit, std::span<const Field> alternatives) {
-  return {name, unit, alternatives, Kind::string_choice, 0};
+template <typename... Notes>
+constexpr Schema string_choice(const char *name,
+                               Unit unit,
+                               std::span<const Field> alternatives,
+                               Notes... notes) {
+  return notation::schema(name, unit, alternatives, Kind::string_choice, notes...);
 }
 
 }  // namespace quarn::asn1

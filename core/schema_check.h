@@ -18,6 +18,7 @@ class SchemaCheck {
     for (const Field &field : schema.fields) {
       if (!sound(field)) return false;
     }
+    if (!keeps_what_it_can(schema)) return false;
     switch (schema.kind) {
       case Kind::record:
         return decidable(schema.fields);
@@ -43,10 +44,29 @@ class SchemaCheck {
   }
 
   constexpr bool sound(const Field &field) const {
-    if (field.tagging == Tagging::implicit && !has_own_tag(field)) return false;
+    const bool replaces_tag = field.tagging == Tagging::implicit ||
+                              field.tagging == Tagging::implicit_primitive ||
+                              (field.tagging == Tagging::plain && field.tag != 0);
+    if (replaces_tag && !has_own_tag(field)) return false;
+    if (field.tagging == Tagging::implicit_primitive && row(field).form != 0) return false;
     if (field.presence == Presence::default_boolean) return field.type_id == QUARN_ASN1_BOOLEAN;
     if (field.presence == Presence::default_integer) return field.type_id == QUARN_ASN1_INTEGER;
+    if (field.presence == Presence::default_encoding) {
+      return field.default_value >= 2 && field.default_value <= kMostDefaultOctets;
+    }
     return true;
+  }
+
+  // Names are lists; signed objects begin with their body, which says its own length.
+  constexpr bool keeps_what_it_can(const Schema &schema) const {
+    if (schema.keep == Keep::encoding) return schema.is_list();
+    if (schema.keep != Keep::body) return true;
+    if (schema.kind != Kind::record) return false;
+    for (const Field &field : schema.fields) {
+      if (!field.mandatory() || field.tagging != Tagging::plain) return false;
+    }
+    const Schema *body = row(schema.fields[0]).schema;
+    return body != nullptr && !body->is_choice();
   }
 
   // Whether an element with this tag can begin the field.
@@ -81,13 +101,19 @@ class SchemaCheck {
     return accepts(b, row(a).tag_class, row(a).tag_number);
   }
 
+  // Components that share a tag on purpose.
+  static constexpr bool take_turns(const Field &a, const Field &b) {
+    return a.tagging == Tagging::implicit_primitive && b.tagging == Tagging::implicit_primitive &&
+           a.type_id == b.type_id;
+  }
+
   // Each field that may be absent differs from those that may come in its place: the others that
   // may be absent up to the next mandatory one, and that one.
   constexpr bool decidable(std::span<const Field> fields) const {
     for (std::size_t i = 0; i < fields.size(); i++) {
       if (fields[i].mandatory()) continue;
       for (std::size_t next = i + 1; next < fields.size(); next++) {
-        if (clash(fields[i], fields[next])) return false;
+        if (clash(fields[i], fields[next]) && !take_turns(fields[i], fields[next])) return false;
         if (fields[next].mandatory()) break;
       }
       // An open type cannot be begun once its identifier has been read.

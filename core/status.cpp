@@ -20,4 +20,11 @@ const char *message_of(int code) {
   return Status::failure();
 }
 
+[[gnu::cold]] void FailurePath::step(quarn_err_ctx *ctx, const char *name, std::int64_t index) {
+  FailurePath *path = this;
+  while (path->outer_ != nullptr) path = path->outer_;
+  quarn_err_ctx_put_step(ctx, name, index, path->begun_ ? 0 : 1);
+  path->begun_ = true;
+}
+
 }  // namespace quarn::asn1

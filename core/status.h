@@ -67,6 +67,20 @@ struct Unit {
               int line = __builtin_LINE()) const;
 };
 
+// The steps by which a failure came up through the components of values. Each cursor has one; that
+// of a cursor inside another one's octets goes on with its path.
+class FailurePath {
+ public:
+  explicit FailurePath(FailurePath *outer = nullptr) : outer_(outer) {}
+
+  // The failure lies in a component of this name, or in element number index of a list.
+  void step(quarn_err_ctx *ctx, const char *name, std::int64_t index = 0);
+
+ private:
+  FailurePath *outer_;
+  bool begun_ = false;
+};
+
 }  // namespace quarn::asn1
 
 #endif

@@ -48,6 +48,7 @@ struct Type {
   int error_code;
   std::uint32_t tag_class;
   std::int32_t form;
+  bool tag_untold = false;  // callers are told of no tag, and of either form
 
   int encode_error() const { return error_code; }
   int decode_error() const { return error_code + 1; }
@@ -68,6 +69,7 @@ inline const Type &type_of(quarn_asn1_type_id id) {
 // Whole elements. The row's own codec, or identifier and length around its content codec.
 Status encode(const Type &type, Writer &out, void *value);
 Status decode(const Type &type, Reader &in, void **value);
+Status decode_around_content(const Type &type, Reader &in, void **value);
 // Octets of the whole element; kIndefinite, kNoLength.
 std::int64_t length_of(const Type &type, const void *value);
 std::int64_t content_length_of(const Type &type, const void *value);
@@ -76,6 +78,9 @@ Status encode_content(const Type &type, Writer &out, void *value, std::int64_t l
 Status decode_content(
     const Type &type, Reader &in, void **value, bool primitive, std::int64_t length);
 void free_value(const Type &type, void *value);
+
+// A copy of a value: what its encoding decodes to.
+Status duplicate(const Type &type, void *value, void **copy, quarn_err_ctx *ctx);
 
 // Whether a value can begin with an identifier.
 bool matches(const Type &type, const Identifier &identifier);

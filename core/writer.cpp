@@ -12,6 +12,7 @@ constexpr std::uint64_t kPiece = 2048;
 }  // namespace
 
 void Writer::settle() {
+  if (in_room_) return;
   if (next_ != begin_) {
     const auto count = static_cast<std::uint64_t>(next_ - begin_);
     // Cannot fail: the room was lent for at least these octets.
@@ -22,6 +23,10 @@ void Writer::settle() {
 }
 
 Status Writer::octets_slowly(const void *octets, std::uint64_t count) {
+  if (in_room_) {
+    settled_ += count;
+    return Status::success();
+  }
   settle();
   std::uint8_t *room = nullptr;
   std::uint64_t size = 0;

@@ -25,8 +25,13 @@
 #ifndef QUARN_ASN1_H
 #define QUARN_ASN1_H
 
+#include "quarn_asn1/attribute.h"
 #include "quarn_asn1/core.h"
+#include "quarn_asn1/extension.h"
 #include "quarn_asn1/json.h"
+#include "quarn_asn1/pkcs10.h"
 #include "quarn_asn1/types.h"
+#include "quarn_asn1/x500.h"
+#include "quarn_asn1/x509.h"
 
 #endif

@@ -100,7 +100,26 @@ QUARN_UTIL_API size_t quarn_err_ctx_dropped(const quarn_err_ctx *ctx);
 QUARN_UTIL_API const quarn_err_record *quarn_err_ctx_get(const quarn_err_ctx *ctx, size_t index);
 /** Input offset of record number index, from the first octet its codec read; -1 if unknown. */
 QUARN_UTIL_API int64_t quarn_err_ctx_offset(const quarn_err_ctx *ctx, size_t index);
-/** Removes all records. */
+/**
+ * Puts one step in front of the path of components in which a failure lies. Decoders and encoders
+ * of structured values do this on their way out: "extnValue", then 3, then "extensions".
+ *
+ * @param name   of the component; null for an element of a list
+ * @param index  of the element, counted from 0
+ * @param first  not 0: this is the innermost step, and a path from an earlier failure is forgotten
+ * @return 1, also for a null context
+ */
+QUARN_UTIL_API int quarn_err_ctx_put_step(quarn_err_ctx *ctx,
+                                          const char *name,
+                                          int64_t index,
+                                          int first);
+/**
+ * The path of the latest failure that lay in a component: "extensions[3].extnValue". Beyond 256
+ * octets the outer steps are left out and "..." stands for them. Empty when there is none, and for
+ * null. Borrowed until the context changes.
+ */
+QUARN_UTIL_API const char *quarn_err_ctx_path(const quarn_err_ctx *ctx);
+/** Removes all records and the path. */
 QUARN_UTIL_API void quarn_err_ctx_clear(quarn_err_ctx *ctx);
 
 /**

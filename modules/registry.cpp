@@ -2,15 +2,18 @@
 // of rows that it must have, so that nothing below depends on the modules.
 #include "core/schema_check.h"
 #include "core/type.h"
+#include "modules/own.h"
 #include "types/codecs.h"
 
 namespace quarn::asn1 {
 
 namespace {
 
-#include "modules/ASN1_AC.inc"
-#include "modules/ASN1_X500.inc"
-#include "modules/ASN1_X509.inc"
+#include "modules/gen/ASN1_Attribute.inc"
+#include "modules/gen/ASN1_Extension.inc"
+#include "modules/gen/ASN1_PKCS10.inc"
+#include "modules/gen/ASN1_X500.inc"
+#include "modules/gen/ASN1_X509.inc"
 
 }  // namespace
 

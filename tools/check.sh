@@ -15,9 +15,15 @@ if git ls-files '*.cpp' '*.h' '*.py' '*.sh' '*.cmake' | xargs -r grep -nE '[[:bl
 fi
 if command -v clang-format >/dev/null; then
   step "C++ is formatted"
-  git ls-files '*.cpp' '*.h' | grep -v '/gen/' | grep -vE '^include/quarn_asn1/(ids|errors)\.h$' |
+  git ls-files '*.cpp' '*.h' | xargs -r grep -L '^/[/*] Generated from ' |
     xargs -r clang-format --dry-run --Werror
 fi
+step "each public header stands alone, in C and in C++"
+for header in include/*.h include/quarn_asn1/*.h; do
+  for language in 'c -std=c99' 'c++ -std=c++11'; do
+    cc -x $language -Wall -Wextra -Wpedantic -Werror -fsyntax-only "$header"
+  done
+done
 [ "${1:-}" != quick ] || exit 0
 
 for preset in release asan; do

@@ -4,13 +4,16 @@
     tools/generate.py           writes the files
     tools/generate.py --check   writes nothing; exits 1 and names each file that is not up to date
 
-Sources are modules/registry.tsv, core/messages.tsv and cli/oids.tsv. Only Python's standard library is used, and a
-build does not need this program: its outputs are checked in.
+Sources are modules/*.asn1, modules/registry.tsv, core/messages.tsv and cli/oids.tsv. Only Python's standard library is
+used, and a build does not need this program: its outputs are checked in.
 """
 
+import functools
 import pathlib
 import re
 import sys
+
+from notation import api, functions, model, parser, resolve, rows
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 CLASS_BITS = {"universal": 0x00, "application": 0x40}
@@ -24,12 +27,30 @@ def rows_of(path):
             yield line.split("\t")
 
 
+@functools.cache
 def registry():
+    made = []
     for number, fields in enumerate(rows_of("modules/registry.tsv")):
         type_id, name, stem, tag, tag_class, form, code, codec = fields
         if int(type_id) != number:
             raise SystemExit(f"modules/registry.tsv: row {number} has id {type_id}")
-        yield number, name, stem, int(tag), tag_class, form, int(code, 16), codec
+        made.append(model.Row(number, name, stem, int(tag), tag_class, form, int(code, 16), codec))
+    return made
+
+
+@functools.cache
+def modules():
+    paths = sorted((ROOT / "modules").glob("*.asn1"))
+    parsed = [parser.parse(str(path.relative_to(ROOT)), path.read_text(encoding="utf-8")) for path in paths]
+    resolved = resolve.Resolver(registry(), parsed).resolve()
+    functions.check_names(resolved)
+    return resolved
+
+
+def described():
+    """The definition and its variant of each row that has a notation, by id."""
+    return {variant.id: (definition, variant) for module in modules() for definition in module.definitions
+            for variant in definition.variants}
 
 
 def messages():
@@ -59,8 +80,8 @@ extern "C" {
 
 enum quarn_asn1_type_id {
 """)
-    for number, name, *_ in registry():
-        lines.append(f"  QUARN_ASN1_{name.upper()} = {number},\n")
+    for row in registry():
+        lines.append(f"  {row.constant} = {row.id},\n")
     lines.append("""  QUARN_ASN1_TYPE_COUNT = 420 /**< ids are 0 to one less than this */
 };
 
@@ -109,31 +130,40 @@ def messages_table():
     return made_from("core/messages.tsv") + "constexpr const char *kMessages[] = {\n" + body + "};\n"
 
 
-def codec_constants(codec):
-    """The constants of a codec and of the schema it goes by: record:Validity."""
-    name, _, schema = codec.partition(":")
-    constant = "k" + "".join(part.capitalize() for part in name.split("_")) + "Codec"
-    return f"&{constant}, " + (f"&k{schema}" if schema else "nullptr")
+def codec_reference(row):
+    """The constants of a row's codec and of the schema that it goes by."""
+    if row.id in described():
+        return rows.registry_reference(*described()[row.id])
+    codec = "unsupported" if row.codec == "-" else row.codec
+    return "&k" + "".join(part.capitalize() for part in codec.split("_")) + "Codec, nullptr"
 
 
 def registry_table():
-    lines = [made_from("modules/registry.tsv"), "constexpr Type kTypes[] = {\n"]
-    for number, name, _, tag, tag_class, form, code, codec in registry():
-        parts = [c_string(name), codec_constants(codec), str(tag), f"{code:#x}",
-                 f"{CLASS_BITS[tag_class]:#x}", str(FORM_NUMBERS[form])]
-        lines.append("    {" + ", ".join(parts) + f"}},  // {number}\n")
+    lines = [made_from("modules/registry.tsv and modules/*.asn1"), "constexpr Type kTypes[] = {\n"]
+    for row in registry():
+        wire = row.id in described() and "wire" in described()[row.id][0].notes
+        tag, form = (16, "constructed") if wire else (row.tag, row.form)
+        parts = [c_string(row.name), codec_reference(row), str(tag), f"{row.code:#x}",
+                 f"{CLASS_BITS[row.tag_class]:#x}", str(FORM_NUMBERS[form]), *(["true"] if wire else [])]
+        lines.append("    {" + ", ".join(parts) + f"}},  // {row.id}\n")
     return "".join(lines) + "};\n"
 
 
 def types_page():
-    lines = ["<!-- Generated from modules/registry.tsv by tools/generate.py; do not edit. -->\n",
+    lines = ["<!-- Generated from modules/registry.tsv and modules/*.asn1 by tools/generate.py; do not edit. -->\n",
              "# Types\n\nEvery ASN.1 type that the library names, by its id. A tag of its own is written only where\n"
-             "the row has one; CHOICEs and open types have none. The decode code is the encode code plus one.\n\n",
-             "| id | constant | tag | form | encode code | in this version |\n|---|---|---|---|---|---|\n"]
-    for number, name, _, tag, tag_class, form, code, codec in registry():
-        tag_text = f"{'APPLICATION ' if tag_class == 'application' else ''}{tag}"
-        state = "no" if codec == "unsupported" else "yes"
-        lines.append(f"| {number} | `QUARN_ASN1_{name.upper()}` | {tag_text} | {form} | `{code:#x}` | {state} |\n")
+             "the row has one; CHOICEs and open types have none. The decode code is the encode code plus one. Types\n"
+             "without a header are universal or open types, or not in this version.\n\n",
+             "| id | constant | ASN.1 | tag | form | encode code | header | in this version |\n"
+             "|---|---|---|---|---|---|---|---|\n"]
+    headers = {definition.name: module.header for module in modules() for definition in module.definitions}
+    for row in registry():
+        tag_text = f"{'APPLICATION ' if row.tag_class == 'application' else ''}{row.tag}"
+        name = described()[row.id][0].name if row.id in described() else ""
+        header = f"{headers[name]}.h" if name else ""
+        state = "no" if row.codec == "-" and not name else "yes"
+        lines.append(f"| {row.id} | `{row.constant}` | {name} | {tag_text} | {row.form} | `{row.code:#x}` | {header} "
+                     f"| {state} |\n")
     return "".join(lines)
 
 
@@ -169,7 +199,18 @@ def error_uses():
             "constexpr CodeUse kCodeUses[] = {\n" + body + "};\n")
 
 
+def module_outputs():
+    for module in modules():
+        name = f"modules/gen/ASN1_{module.family}"
+        yield f"{name}.inc", made_from(module.path) + rows.rows(module)
+        yield f"{name}_api.inc", made_from(module.path) + api.bodies(module)
+        yield (f"include/quarn_asn1/{module.header}.h",
+               made_from(module.path, "/*", " */") + api.header(module, modules()))
+    yield "modules/gen/own.inc", made_from("modules/*.asn1") + rows.own(modules())
+
+
 def outputs():
+    yield from module_outputs()
     yield "include/quarn_asn1/ids.h", ids_header()
     yield "include/quarn_asn1/errors.h", errors_header()
     yield "core/gen/messages.inc", messages_table()
@@ -180,11 +221,26 @@ def outputs():
     yield "docs/errors.md", errors_page()
 
 
+def left_over(paths):
+    """Generated files of modules that are there no more."""
+    for path in [*(ROOT / "modules/gen").glob("*"), *(ROOT / "include/quarn_asn1").glob("*.h")]:
+        name = str(path.relative_to(ROOT))
+        if name not in paths and "Generated from" in path.read_text(encoding="utf-8").partition("\n")[0]:
+            yield name
+
+
 def main(arguments):
     if arguments not in ([], ["--check"]):
         raise SystemExit(__doc__)
+    try:
+        made = list(outputs())
+    except model.NotationError as error:
+        raise SystemExit(f"{error}")
     stale = 0
-    for path, text in outputs():
+    for path in left_over({path for path, _ in made}):
+        print(f"{path} has no source; delete it", file=sys.stderr)
+        stale = 1
+    for path, text in made:
         target = ROOT / path
         if target.exists() and target.read_text(encoding="utf-8") == text:
             continue

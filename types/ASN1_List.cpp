@@ -276,6 +276,7 @@ Status decode_elements(Reader &in, quarn_asn1_list &list, std::int64_t length, E
     void *element = nullptr;
     bool ended = false;
     const Status status = elements.read(in, length == kIndefinite, &element, ended);
+    if (!status) in.step(list.count);
     if (!status || ended) return status;
     if (!append(list, element)) {
       elements.release(element);

@@ -35,17 +35,21 @@ bool at_end(Reader &in) {
 // Decodes one value by read(type, in, value), lets close(in) read what encloses it to its end, and
 // wants nothing left.
 template <typename Read, typename Close>
-Status decode_all(Reader &in, std::int64_t type_id, void **value, Read read, Close close) {
-  const Type *type = find_type(type_id);
-  if (type == nullptr) return no_such_type(in.ctx());
-  Value made(*type);
-  Status status = read(*type, in, made.out());
-  if (!status) return kUnit.pass_on(status, in.ctx(), type->decode_error(), in.offset());
+Status decode_all(Reader &in, const Type &type, void **value, Read read, Close close) {
+  Value made(type);
+  Status status = read(type, in, made.out());
+  if (!status) return kUnit.pass_on(status, in.ctx(), type.decode_error(), in.offset());
   status = close(in);
   if (!status) return status;
   if (!at_end(in)) return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_TRAILING, in.offset());
   *value = made.release();
   return status;
+}
+
+template <typename Read, typename Close>
+Status decode_all(Reader &in, std::int64_t type_id, void **value, Read read, Close close) {
+  const Type *type = find_type(type_id);
+  return type == nullptr ? no_such_type(in.ctx()) : decode_all(in, *type, value, read, close);
 }
 
 Status nothing_more(Reader & /*in*/) {
@@ -111,17 +115,6 @@ Status get_object(const quarn_asn1_any &v, std::int64_t type_id, void **value, q
                       [=](Reader &in) { return decode_all(in, type_id, value, decode, close); });
 }
 
-Status duplicate(std::int64_t type_id, void *value, void **copy, quarn_err_ctx *ctx) {
-  const Type *type = find_type(type_id);
-  if (type == nullptr) return no_such_type(ctx);
-  const Scratch scratch(ctx);
-  const Status status =
-      write_to(scratch, ctx, [=](Writer &out) { return encode(*type, out, value); });
-  if (!status) return kUnit.pass_on(status, ctx, type->encode_error());
-  Reader in(scratch.data(), scratch.size(), ctx);
-  return decode_whole(in, type_id, copy);
-}
-
 Status copy_element(Reader &in, quarn_stream *destination) {
   quarn_asn1_any *v = nullptr;
   if (const Status status = decode_any(in, &v); !status) return status;
@@ -183,6 +176,15 @@ quarn_asn1_any *to_any(const Type &type, void *value) {
 
 }  // namespace
 
+Status duplicate(const Type &type, void *value, void **copy, quarn_err_ctx *ctx) {
+  const Scratch scratch(ctx);
+  const Status status =
+      write_to(scratch, ctx, [&](Writer &out) { return encode(type, out, value); });
+  if (!status) return kUnit.pass_on(status, ctx, type.encode_error());
+  Reader in(scratch.data(), scratch.size(), ctx);
+  return decode_all(in, type, copy, decode, nothing_more);
+}
+
 }  // namespace quarn::asn1
 
 using namespace quarn::asn1;
@@ -208,8 +210,10 @@ quarn_asn1_any *quarn_asn1_objecttoany(int64_t type_id, void *value) {
 }
 
 void *quarn_asn1_dupobject(int64_t type_id, void *value, quarn_err_ctx *ctx) {
+  const Type *type = find_type(type_id);
   void *copy = nullptr;
-  return duplicate(type_id, value, &copy, ctx) ? copy : nullptr;
+  const Status status = type == nullptr ? no_such_type(ctx) : duplicate(*type, value, &copy, ctx);
+  return status ? copy : nullptr;
 }
 
 int quarn_asn1_any_toobject(quarn_asn1_any *v, int64_t type_id, void **value, quarn_err_ctx *ctx) {

@@ -69,11 +69,17 @@ int print_entry(const Entry &entry, char *out, std::size_t room) {
 
 }  // namespace
 
+constexpr std::size_t kMostPath = 256;
+constexpr char kCut[] = "...";
+
 struct quarn_err_ctx {
   Entry *entries;
   std::size_t count;
   std::size_t capacity;
   std::size_t dropped;
+  std::size_t path_length;
+  bool path_cut;
+  char path[kMostPath + 1];  // written from its end, where there is a NUL
 };
 
 const char *quarn_igetGeneralError(int code) {
@@ -155,6 +161,45 @@ void quarn_err_ctx_clear(quarn_err_ctx *ctx) {
   if (ctx == nullptr) return;
   ctx->count = 0;
   ctx->dropped = 0;
+  ctx->path_length = 0;
+  ctx->path_cut = false;
+}
+
+static const char *path_of(const quarn_err_ctx *ctx) {
+  return ctx->path + kMostPath - ctx->path_length;
+}
+
+// Puts text in front of the path. False, with the path unchanged, when it has no room.
+static bool put_before(quarn_err_ctx *ctx, const char *text) {
+  const std::size_t length = std::strlen(text);
+  if (length > kMostPath - ctx->path_length) return false;
+  ctx->path_length += length;
+  std::memcpy(ctx->path + kMostPath - ctx->path_length, text, length);
+  return true;
+}
+
+int quarn_err_ctx_put_step(quarn_err_ctx *ctx, const char *name, int64_t index, int first) {
+  if (ctx == nullptr) return 1;
+  if (first != 0) {
+    ctx->path_length = 0;
+    ctx->path_cut = false;
+  }
+  if (ctx->path_cut) return 1;
+  char number[24];
+  std::snprintf(number, sizeof number, "[%lld]", static_cast<long long>(index));
+  const bool parted = ctx->path_length > 0 && *path_of(ctx) != '[';
+  const std::size_t before = ctx->path_length;
+  const bool fits = (!parted || put_before(ctx, ".")) &&
+                    put_before(ctx, name == nullptr ? number : name) &&
+                    ctx->path_length <= kMostPath - (sizeof kCut - 1);
+  if (fits) return 1;
+  ctx->path_length = before;
+  ctx->path_cut = put_before(ctx, kCut);
+  return 1;
+}
+
+const char *quarn_err_ctx_path(const quarn_err_ctx *ctx) {
+  return ctx == nullptr ? "" : path_of(ctx);
 }
 
 int quarn_err_ctx_print(const quarn_err_ctx *ctx, char **text, size_t *length) {

@@ -5,6 +5,7 @@ Environment: QUARN is the command; QUARN_COMPLETION and QUARN_MAN are what was m
 options, tested when they are set. Certificates come from the openssl command where there is one.
 """
 
+import base64
 import json
 import os
 import pathlib
@@ -65,7 +66,7 @@ class CommandLine(Case):
         self.assertRegex(run.lines[0], r"^quarn \d+\.\d+\.\d+$")
         self.assertRegex(run.lines[2], r"^libquarn_util \d")
         self.assertEqual(Run("json", "--help").out, Run("help", "json").out)
-        for command in ("json", "der", "dump", "types", "error", "help"):
+        for command in ("json", "der", "dump", "check", "convert", "types", "error", "help"):
             self.assertIn(f"  {command} ", Run("--help").out)
             self.check(Run(command, "-h"), 0)
 
@@ -107,13 +108,14 @@ class CommandLine(Case):
         self.assertEqual(complete("quarn", "d"), ["der", "dump"])
         self.assertEqual(complete("quarn", "json", "--co"), ["--compact", "--color"])
         self.assertEqual(complete("quarn", "json", "--in-form", "d"), ["der"])
+        self.assertEqual(complete("quarn", "convert", "--to", "h"), ["hex"])
 
     @unittest.skipUnless("QUARN_MAN" in os.environ and shutil.which("man"), "no man page to test")
     def test_man_page_has_no_warnings_and_every_option(self):
         done = subprocess.run(["man", "--warnings", "-E", "UTF-8", "-l", os.environ["QUARN_MAN"]],
                               capture_output=True, check=True, env={**ENVIRONMENT, "MANWIDTH": "100"})
         self.assertEqual(done.stderr, b"")
-        for option in ("--in-form", "--recursive", "--lines", "--no-dig", "--pem", "EXIT STATUS"):
+        for option in ("--in-form", "--recursive", "--lines", "--no-dig", "--pem", "--label", "EXIT STATUS"):
             self.assertIn(option, done.stdout.decode())
 
 
@@ -128,6 +130,11 @@ class Input(Case):
                     run = Run("json", "--compact", *arguments, data=text)
                     self.check(run, 0)
                     self.assertEqual(json.loads(run.out)["value"], [{"type": "INTEGER", "value": 5}])
+
+    def test_text_that_happens_to_be_well_formed_is_text(self):
+        for text in (base64.b64encode(b"\x04\x59" + b"c" * 89), b"0432" + b"A0" * 50):
+            self.assertEqual(Run("dump", "--in-form=der", data=text).code, 0, text)
+            self.assertEqual(json.loads(Run("json", data=text).out)["type"], "OCTETSTRING")
 
     def test_der_that_holds_a_pem_block_is_der(self):
         text = b"\n-----BEGIN X-----\nMAMCAQU=\n-----END X-----\n"

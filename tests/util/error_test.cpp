@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "quarn_util.h"
 #include "tests/support/allocation.h"
 #include "tests/support/streams.h"
@@ -55,6 +57,37 @@ TEST(Blob, copies_its_octets_and_refuses_bad_counts) {
   quarn_data_blob_free(blob);
   EXPECT_EQ(quarn_data_blob_new(octets, -1), nullptr);
   EXPECT_EQ(quarn_data_blob_new(octets, INT64_MAX), nullptr);
+}
+
+TEST(ErrorContext, a_path_grows_at_its_front) {
+  const Context ctx(quarn_err_ctx_new());
+  EXPECT_STREQ(quarn_err_ctx_path(ctx.get()), "");
+  const auto step = [&ctx](const char *name, int64_t index, int first) {
+    EXPECT_EQ(quarn_err_ctx_put_step(ctx.get(), name, index, first), 1);
+    return std::string(quarn_err_ctx_path(ctx.get()));
+  };
+  EXPECT_EQ(step("extnValue", 0, 1), "extnValue");
+  EXPECT_EQ(step(nullptr, 3, 0), "[3].extnValue");
+  EXPECT_EQ(step(nullptr, 0, 0), "[0][3].extnValue");
+  EXPECT_EQ(step("extensions", 0, 0), "extensions[0][3].extnValue");
+  EXPECT_EQ(step("version", 0, 1), "version") << "of a later failure";
+  quarn_err_ctx_clear(ctx.get());
+  EXPECT_STREQ(quarn_err_ctx_path(ctx.get()), "");
+  EXPECT_EQ(quarn_err_ctx_put_step(nullptr, "version", 0, 1), 1);
+  EXPECT_STREQ(quarn_err_ctx_path(nullptr), "");
+}
+
+TEST(ErrorContext, a_path_that_is_too_long_is_cut_at_its_front) {
+  const Context ctx(quarn_err_ctx_new());
+  for (int i = 0; i < 100; i++) quarn_err_ctx_put_step(ctx.get(), "name", 0, i == 0);
+  const std::string path = quarn_err_ctx_path(ctx.get());
+  EXPECT_LE(path.size(), 256u);
+  EXPECT_EQ(path.substr(0, 8), "...name.");
+  EXPECT_EQ(path.substr(path.size() - 10), ".name.name");
+  quarn_err_ctx_put_step(ctx.get(), "name", 0, 0);
+  EXPECT_EQ(quarn_err_ctx_path(ctx.get()), path) << "nothing comes before the sign";
+  quarn_err_ctx_put_step(ctx.get(), std::string(300, 'n').c_str(), 0, 1);
+  EXPECT_STREQ(quarn_err_ctx_path(ctx.get()), "...");
 }
 
 }  // namespace

@@ -1,0 +1,104 @@
+#include "core/build.h"
+
+#include <cstring>
+
+#include "core/engine.h"
+
+namespace quarn::asn1 {
+
+namespace {
+
+// Encoding a value for a copy may fill what it keeps.
+bool copy_into(const Type &type, const void *value, void **copy) {
+  return duplicate(type, const_cast<void *>(value), copy, nullptr).ok();
+}
+
+bool are_enough(const Schema &schema, std::span<const void *const> parts) {
+  if (parts.size() != schema.fields.size()) return false;
+  for (std::size_t i = 0; i < parts.size(); i++) {
+    if (parts[i] == nullptr && schema.fields[i].mandatory()) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+void *build_record(quarn_asn1_type_id id, std::span<const void *const> parts) {
+  const Type &type = type_of(id);
+  const Schema &schema = *type.schema;
+  if (!are_enough(schema, parts)) return nullptr;
+  Value record(type, new_record(schema));
+  if (record.get() == nullptr) return nullptr;
+  void **component = components(record.get());
+  for (std::size_t i = 0; i < parts.size(); i++, component++) {
+    const Field &field = schema.fields[i];
+    const bool made = parts[i] != nullptr ? copy_into(type_of(field.type()), parts[i], component)
+                                          : take_default(field, component);
+    if (!made) return nullptr;
+  }
+  return record.release();
+}
+
+void *build_alternative(quarn_asn1_type_id id, std::uint64_t number, const void *value) {
+  const Type &type = type_of(id);
+  const std::uint32_t index = alternative_index(*type.schema, number);
+  if (index == type.schema->fields.size() || value == nullptr) return nullptr;
+  Value choice(type, new_choice(index));
+  if (choice.get() == nullptr) return nullptr;
+  const Type &inner = type_of(type.schema->fields[index].type());
+  if (!copy_into(inner, value, &static_cast<Choice *>(choice.get())->value)) return nullptr;
+  return choice.release();
+}
+
+void *build_empty_list(quarn_asn1_type_id id) {
+  const Type &type = type_of(id);
+  quarn_asn1_list *list = quarn_asn1_list_new();
+  if (type.schema->keep == Keep::nothing || list == nullptr) return list;
+  void *record = new_record(*type.schema);
+  if (record == nullptr) {
+    quarn_asn1_list_free(list, type.schema->element());
+  } else {
+    components(record)[0] = list;
+  }
+  return record;
+}
+
+void *copy_of(quarn_asn1_type_id type, const void *value) {
+  void *copy = nullptr;
+  return value != nullptr && copy_into(type_of(type), value, &copy) ? copy : nullptr;
+}
+
+void *part_of(const void *value, std::size_t index) {
+  return component(value, index);
+}
+
+void *alternative_of(quarn_asn1_type_id type, const void *value, std::uint64_t number) {
+  return alternative(type_of(type), value, number);
+}
+
+std::uint32_t choice_number(quarn_asn1_type_id type, const void *value) {
+  return static_cast<std::uint32_t>(alternative_number(type_of(type), value));
+}
+
+std::uint64_t string_tag(quarn_asn1_type_id type, const void *value) {
+  return alternative_number(type_of(type), value);
+}
+
+quarn_asn1_octetstring *string_part(const void *value) {
+  if (value == nullptr) return nullptr;
+  return static_cast<quarn_asn1_octetstring *>(static_cast<const Choice *>(value)->value);
+}
+
+int body_octets(quarn_asn1_type_id type, void *value, std::uint8_t *buffer, std::uint64_t *length) {
+  if (value == nullptr || length == nullptr) return 0;
+  const Kept *body = body_of(type_of(type), value);
+  if (body == nullptr) return 0;
+  const std::uint64_t room = *length;
+  *length = body->count;
+  if (buffer == nullptr) return 1;
+  if (room < body->count) return 0;
+  std::memcpy(buffer, body->octets, body->count);
+  return 1;
+}
+
+}  // namespace quarn::asn1

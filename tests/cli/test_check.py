@@ -1,0 +1,384 @@
+#!/usr/bin/env python3
+"""`quarn check` and `quarn convert`: expected findings from the rules of X.690 worked out by hand, and
+from a judge of its own, written in Python, over what openssl makes and what was changed in it.
+
+Environment: as test_quarn.py.
+"""
+
+import base64
+import datetime
+import os
+import pty
+import random
+import re
+import shutil
+import subprocess
+import unittest
+
+from test_files import PUBLISHED, encode, parse, variants, wrap
+from test_quarn import ENVIRONMENT, NULL, QUARN, Case, Run
+
+
+def findings(octets, *arguments):
+    """[(offset, rule)] of one object."""
+    run = Run("check", "--json", "--in-form=der", *arguments, data=octets)
+    assert run.err == "" and run.code == (1 if run.out else 0), (run.code, run.err)
+    return [(record["finding"]["offset"], record["finding"]["rule"]) for record in run.records()]
+
+
+# A judge of its own: the rules as Python says them, over BER that is well-formed.
+
+def header(octets, at, limit):
+    first, start, at = octets[at], at, at + 1
+    number = first & 31
+    if number == 31:
+        number = 0
+        while True:
+            number, at = number << 7 | octets[at] & 127, at + 1
+            if octets[at - 1] < 128:
+                break
+        if number < 31 or number >= 1 << 64:
+            raise ValueError("not judged")
+    found = [(start + 1, "minimal-tag")] if first & 31 == 31 and octets[start + 1] == 0x80 else []
+    place, size, at = at, octets[at], at + 1
+    if size == 0xFF:
+        raise ValueError("reserved")
+    if size == 0x80:
+        found.append((place, "definite-length"))
+        size = None
+    elif size > 128:
+        count = size & 127
+        size, at = int.from_bytes(octets[at:at + count], "big"), at + count
+        if size < 128 or count != (size.bit_length() + 7) // 8:
+            found.append((place, "minimal-length"))
+    if at > limit or (size is not None and at + size > limit) or (size is None and not first & 32):
+        raise ValueError("too long")
+    return first >> 6, number, bool(first & 32), at, size, found
+
+
+TIMES = {23: r"\d{12}Z", 24: r"\d{14}(\.\d*[1-9])?Z"}
+
+
+def is_time(kind, text):
+    if not re.fullmatch(TIMES[kind], text, re.ASCII):
+        return False
+    digits = re.match(r"\d*", text)[0]
+    digits = digits if kind == 24 else ("19" if digits[0] >= "5" else "20") + digits
+    try:
+        datetime.datetime(int(digits[:4]) or 2000, *(int(digits[i:i + 2]) for i in (4, 6, 8, 10)))
+    except ValueError:
+        return False
+    return digits[12:14] <= "60"
+
+
+def bad_arcs(content):
+    ends = [i for i, octet in enumerate(content) if octet < 128]
+    starts = [0] + [i + 1 for i in ends]
+    return not ends or ends[-1] != len(content) - 1 or any(content[i] == 128 for i in starts[:-1])
+
+
+def content_rules(number, content):
+    """The names of rules that the content of a primitive element breaks."""
+    if number == 1 and content not in (b"\0", b"\xff"):
+        yield "boolean-length" if len(content) != 1 else "boolean-true"
+    if number in (2, 10):
+        if not content:
+            yield "integer-octets"
+        elif len(content) > 1 and (content[0], content[1] >> 7) in ((0, 0), (255, 1)):
+            yield "integer-minimal"
+    if number == 3:
+        if not content:
+            yield "bit-count-missing"
+        elif content[0] > 7:
+            yield "bit-count"
+        elif content[0] and len(content) == 1:
+            yield "bit-count-empty"
+        elif content[-1] % (1 << content[0]):
+            yield "bit-padding"
+    if number == 5 and content:
+        yield "null-content"
+    if number in (6, 13) and bad_arcs(content):
+        yield {6: "oid-arcs", 13: "relative-oid-arcs"}[number]
+    alphabets = {18: rb"[0-9 ]*", 19: rb"[A-Za-z0-9 '()+,./:=?-]*", 22: rb"[\0-\x7f]*", 26: rb"[ -~]*"}
+    if number in alphabets and not re.fullmatch(alphabets[number], content):
+        yield "alphabet"
+    codecs = {12: ("utf-8", 1, "utf8"), 28: ("utf-32-be", 4, "alphabet"), 30: ("utf-16-be", 2, "alphabet")}
+    if number in codecs:
+        codec, width, rule = codecs[number]
+        try:
+            surrogates = any(content[i] >> 3 == 0x1B for i in range(0, len(content), 2)) and number == 30
+            if len(content) % width or surrogates:
+                raise UnicodeError
+            content.decode(codec)
+        except UnicodeError:
+            yield "character-width" if len(content) % width else rule
+
+
+STRINGS = {3, 4, 7, 12, *range(18, 29), 30}
+PRIMITIVE = {1, 2, 5, 6, 10, 13, 14, *range(31, 37)}
+CONSTRUCTED = {8, 11, 16, 17, 29}
+
+
+def order_rule(octets, places):
+    """The first component of a SET at which neither order holds any more."""
+    tags = [header(octets, start, end)[:2] for start, end in places]
+    encodings = [octets[start:end] for start, end in places]
+    for i in range(1, len(places)):
+        by_tag = all(a < b for a, b in zip(tags[:i], tags[1:i + 1]))
+        if not by_tag and encodings[:i + 1] != sorted(encodings[:i + 1]):
+            return [(places[i][0], "set-of-order" if len(set(tags[:i + 1])) == 1 else "set-order")]
+    return []
+
+
+def judge(octets, at, limit):
+    """([(offset, rule)], end) of the element at an offset."""
+    start = at
+    tag_class, number, constructed, at, size, found = header(octets, at, limit)
+    kind = number if tag_class == 0 else None
+    if kind == 0 or kind == 9:
+        raise ValueError("not judged")
+    if constructed and kind in STRINGS:
+        found.append((start, "primitive-string"))
+    if kind in (CONSTRUCTED, PRIMITIVE)[constructed]:
+        found.append((start, "form"))
+    if not constructed:
+        content = octets[at:at + size]
+        text = content.decode("latin-1")
+        if kind in TIMES and not is_time(kind, text):
+            found.append((start, "time"))
+        return found + [(start, rule) for rule in content_rules(kind, content)], at + size
+    places, end = [], limit if size is None else at + size
+    while at < end and (size is not None or octets[at:at + 2] != b"\0\0"):
+        inner, after = judge(octets, at, end)
+        found, places = found + inner, places + [(at, after)]
+        segment = 3 if kind == 3 else 4
+        if kind in STRINGS and header(octets, at, end)[:2] != (0, segment):
+            found.append((at, "segment"))
+        at = after
+    if size is None and at + 2 > limit:
+        raise ValueError("no end")
+    found += order_rule(octets, places) if kind == 17 else []
+    return found, at if size is not None else at + 2
+
+
+def expected(octets):
+    """What the judge finds; None for octets that are no encoding or not for it to judge."""
+    try:
+        found, end = judge(octets, 0, len(octets))
+    except (ValueError, IndexError):
+        return None
+    return found if end == len(octets) else None
+
+
+def real(text):
+    return "09" + bytes([len(text)]).hex() + text.encode().hex()
+
+
+class Rules(unittest.TestCase):
+    def test_each_rule_is_found_where_it_is_broken(self):
+        for octets, *found in [
+                ("3080 0101ff 0000", (1, "definite-length")), ("308103 020105", (1, "minimal-length")),
+                ("308200030101ff", (1, "minimal-length")), ("3003 0201", (2, "length-fits")), ("02", (0, "whole-header")),
+                ("1f010100", (0, "short-tag")), ("3f811000",),
+                ("3f80811000", (1, "minimal-tag")), ("3f801000", (0, "short-tag")), ("2000", (0, "reserved-tag")),
+                ("9fffffffffffffffffff7f00", (0, "tag-limit")), ("0489ffffffffffffffffff", (1, "length-fits")),
+                ("2403 040141", (0, "primitive-string")), ("2c03 0c0141", (0, "primitive-string"), (2, "segment")),
+                ("2407 2405 2303 030100", (0, "primitive-string"), (2, "primitive-string"), (4, "segment"), (4, "primitive-string")),
+                ("2103 010100", (0, "form")), ("1000", (0, "form")), ("bf8f0200",), ("0e00",), ("2e00", (0, "form")),
+                ("0102 0000", (2, "boolean-length")), ("010101", (2, "boolean-true")), ("0200", (2, "integer-octets")),
+                ("02020080",), ("0202007f", (2, "integer-minimal")), ("0a02ff80", (2, "integer-minimal")), ("0202ff7f",),
+                ("030208ff", (2, "bit-count")), ("0300", (2, "bit-count-missing")), ("030101", (2, "bit-count-empty")),
+                ("0303040008", (4, "bit-padding")), ("030204f0",), ("050100", (2, "null-content")),
+                ("0600", (2, "oid-arcs")), ("06032a8001", (3, "oid-arcs")), ("06022a81", (3, "oid-arcs")), ("06032a8100",),
+                ("0d018f", (2, "relative-oid-arcs")), ("0d0180", (2, "relative-oid-arcs")),
+                ("0900",), ("0903800001",), ("0903800002", (2, "real-canonical")), ("0903900001", (2, "real-canonical")),
+                ("090481000101", (2, "real-canonical")), ("0902b000", (2, "real-form")), ("090140",), ("090144", (2, "real-form")),
+                (real("\x031.E+0"),), (real("\x03-15.E-2"),), (real("\x0310.E+0"), (2, "real-canonical")),
+                (real("\x031E+0"), (2, "real-canonical")), (real("\x031.E+1"), (2, "real-canonical")),
+                (real("\x0115"), (2, "real-canonical")), (real("\x04"), (2, "real-form")),
+                ("1303 61402a", (3, "alphabet")), ("160180", (2, "alphabet")), ("120161", (2, "alphabet")),
+                ("1a017f", (2, "alphabet")), ("0c03 61c380",), ("0c03 61c328", (3, "utf8")), ("0c03 eda080", (2, "utf8")),
+                ("300a 0603551d13 010100 0400", (7, "default-value")), ("300a 0603551d13 0101ff 0400",),
+                ("3009 06022a03 010100 0500",), ("1e0161", (2, "character-width")), ("1e04 0061dc00", (4, "alphabet")), ("1c04 00110000", (2, "alphabet"))]:
+            with self.subTest(octets):
+                self.assertEqual(findings(bytes.fromhex(octets)), found)
+
+    def test_times_have_one_form(self):
+        for tag, text, *rules in [
+                (0x17, "260131235959Z"), (0x17, "2601312359Z", "seconds"), (0x17, "260131235959+0100", "zone"),
+                (0x17, "2601312359-0100", "seconds", "zone"), (0x17, "260132000000Z", "form"), (0x17, "500229000000Z", "form"),
+                (0x17, "000229000000Z"), (0x17, "260131235959", "form"), (0x17, "260131235959+01", "form"), (0x17, "2601312359599Z", "form"),
+                (0x18, "20260131235959Z"), (0x18, "20260131235959.5Z"), (0x18, "20260131235959.50Z", "fraction"),
+                (0x18, "20260131235959,5Z", "point"), (0x18, "20260131235959.Z", "form"), (0x18, "2026013123Z", "seconds"),
+                (0x18, "20260131235959", "zone"), (0x18, "20260131235959+01", "zone"), (0x18, "20260131235959+2400", "form"),
+                (0x18, "20260131240000Z", "form"), (0x18, "00000229000000Z"), (0x18, "", "form")]:
+            with self.subTest(text):
+                found = [rule for _, rule in findings(bytes([tag, len(text)]) + text.encode())]
+                self.assertEqual([rule.split("-")[-1] for rule in found], rules)
+
+    def test_sets_may_be_ordered_by_tag_or_by_encoding(self):
+        for components, rule in [
+                ("020101 020102", None), ("020102 020101", "set-of-order"), ("020101 020101", None), ("0400 0400 020101", "set-order"),
+                ("3000 130141", None), ("130141 3000", None), ("130141 3000 0500", "set-order"), ("0201ff 02020080", None),
+                ("02020080 0201ff", "set-of-order"), ("8000 a100 4100", "set-order"), ("0500 c000 8000", "set-order")]:
+            content = bytes.fromhex(components)
+            found = findings(bytes([0x31, len(content)]) + content)
+            self.assertEqual([name for _, name in found], [rule] if rule else [], components)
+
+    def test_faults_end_the_search_in_the_element_around_only(self):
+        for octets, *found in [
+                ("300a 30030204ff 0101ff 0201", (4, "length-fits"), (10, "length-fits")),
+                ("300a 3004 30800500 02020001", (5, "definite-length"), (8, "end-of-contents"), (10, "integer-minimal")),
+                ("3009 30040000ff00 010101", (4, "no-end-of-contents"), (10, "boolean-true")),
+                ("3005 0280 010101", (2, "primitive-length")), ("3007 300204ff 010101", (5, "reserved-length"), (8, "boolean-true")),
+                ("3080 010101", (1, "definite-length"), (4, "boolean-true"), (5, "end-of-contents"))]:
+            with self.subTest(octets):
+                self.assertEqual(findings(bytes.fromhex(octets)), found)
+
+    def test_encodings_inside_strings_are_judged_unless_they_make_no_sense(self):
+        for octets, found in [("0405 3003010101", [(6, "boolean-true")]), ("0306 003003010101", [(7, "boolean-true")]),
+                              ("0405 3003010201", []), ("0403 010203", [])]:
+            self.assertEqual(findings(bytes.fromhex(octets)), found)
+            self.assertEqual(findings(bytes.fromhex(octets), "--no-dig"), [])
+
+
+def comparable(octets, *arguments):
+    """Findings as the judge has them: of headers with their offset, of content without, a time once."""
+    headers, contents, times = [], [], set()
+    run = Run("check", "--json", "--in-form=der", "--no-dig", *arguments, data=octets)
+    for finding in (record["finding"] for record in run.records()):
+        rule = finding["rule"]
+        if rule.startswith(("time", "utctime", "gentime")):
+            times.add(finding["path"])
+        elif rule.startswith(HEADER_RULES):
+            headers.append((finding["offset"], rule))
+        elif rule != "default-value":  # which the judge does not know
+            contents.append(rule)
+    return sorted(headers), sorted(contents + ["time"] * len(times))
+
+
+HEADER_RULES = ("minimal-", "definite", "primitive-", "form", "segment", "set-", "short")
+
+
+def as_judged(found):
+    return (sorted(each for each in found if each[1].startswith(HEADER_RULES)),
+            sorted(rule for _, rule in found if not rule.startswith(HEADER_RULES)))
+
+
+@unittest.skipUnless(shutil.which("openssl"), "needs the openssl command")
+class Judged(Case):
+    def setUp(self):
+        super().setUp()
+        def openssl(*arguments, data=None):
+            subprocess.run(["openssl", *arguments], check=True, capture_output=True, input=data, cwd=self.path)
+        openssl("req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:P-256", "-nodes", "-keyout", "key.pem",
+                "-out", "cert.pem", "-subj", "/CN=a b+O=c", "-multivalue-rdn", "-addext", "subjectAltName=DNS:example.com")
+        openssl("cms", "-sign", "-signer", "cert.pem", "-inkey", "key.pem", "-outform", "DER", "-out", "cms.der",
+                "-nodetach", "-binary", data=b"x" * 200)
+        openssl("req", "-new", "-key", "key.pem", "-subj", "/CN=r", "-out", "req.pem")
+        openssl("crl2pkcs7", "-nocrl", "-certfile", "cert.pem", "-out", "p7.pem")
+        openssl("pkcs8", "-topk8", "-in", "key.pem", "-passout", "pass:x", "-out", "encrypted.pem")
+        openssl("pkey", "-in", "key.pem", "-pubout", "-out", "public.pem")
+        openssl("ec", "-in", "key.pem", "-out", "ec.pem")
+        openssl("x509", "-in", "cert.pem", "-trustout", "-addtrust", "serverAuth", "-out", "trusted.pem")
+        openssl("x509", "-in", "cert.pem", "-outform", "DER", "-out", "cert.der")
+
+    def test_real_files_are_der_and_their_ber_forms_have_the_findings_of_another_judge(self):
+        for name in ("cert.der", "cms.der"):
+            octets = (self.path / name).read_bytes()
+            self.check(Run("check", str(self.path / name)), 0)
+            for form, changed in variants(octets).items():
+                self.assertEqual(comparable(changed), as_judged(expected(changed)), (name, form))
+            self.assertEqual(encode(parse(octets), lambda depth: False), octets)
+
+    @unittest.skipUnless(PUBLISHED.is_dir(), "no published certificates on this machine")
+    def test_published_certificates_break_no_rule_for_either_judge(self):
+        self.check(Run("check", "-r", str(PUBLISHED)), 0)
+        for path in PUBLISHED.glob("*.crt"):
+            self.assertEqual(expected(base64.b64decode(path.read_text().split("-----")[2])), [], path)
+
+    def test_changed_octets_are_judged_alike(self):
+        chance, judged = random.Random(2), 0
+        octets = (self.path / "cert.der").read_bytes()
+        for _ in range(int(os.environ.get("QUARN_FLIPS", "300"))):
+            changed = bytearray(octets)
+            changed[chance.randrange(len(octets))] ^= chance.choice([1 << chance.randrange(8), chance.randrange(1, 256)])
+            found = expected(bytes(changed))
+            if found is not None:
+                judged += 1
+                self.assertEqual(comparable(bytes(changed)), as_judged(found), changed.hex())
+        self.assertGreater(judged, 50)
+
+    def test_conversion_goes_through_every_form_and_guesses_labels(self):
+        for path in self.path.glob("*.pem"):
+            text = path.read_text().replace("BEGIN CMS", "BEGIN PKCS7")
+            der = Run("convert", "--to", "der", str(path)).raw
+            for form in ("pem", "hex", "base64"):
+                run = Run("convert", "--to", form, str(path))
+                self.check(run, 0)
+                self.assertEqual(Run("convert", "--to", "der", data=run.raw).raw, der)
+            self.assertEqual(Run("convert", "--to", "pem", str(path)).out, text[text.index("-----BEGIN"):], path)
+            if path.name != "trusted.pem":  # two encodings, of which the second has no look of its own
+                self.assertEqual(Run("convert", "--to", "pem", data=der).out, text[text.index("-----BEGIN"):], path)
+
+
+class Command(Case):
+    def test_findings_are_lines_for_people_and_for_programs(self):
+        path = self.file("a.der", bytes.fromhex("3003010101"))
+        run = Run("check", path)
+        self.check(run, 1)
+        self.assertEqual(run.out, f"{path}: offset 4, SEQUENCE[0].BOOLEAN: found 01; expected FF for TRUE, 00 for "
+                                  "FALSE (X.690 11.1, boolean-true)\n")
+        self.assertEqual(Run("check", "--json", path).records(), [
+            {"source": path, "index": 0, "offset": 0, "length": 5, "finding": {
+                "offset": 4, "path": "SEQUENCE[0].BOOLEAN", "rule": "boolean-true", "clause": "X.690 11.1",
+                "found": "01", "expected": "FF for TRUE, 00 for FALSE"}}])
+        self.check(Run("check", data=NULL), 0)
+        self.assertIn("object 1 at 2: offset 0: found 1 octet after an encoding", Run("check", data=NULL + b"\x30").out)
+
+    def test_exit_codes_tell_findings_from_files_that_cannot_be_read(self):
+        bad, none = self.file("bad", bytes.fromhex("010101")), str(self.path / "none")
+        for arguments, code in [([bad], 1), ([none], 3), ([bad, none], 5), ([self.file("text", "text, no more")], 1),
+                                (["--dep", bad], 2)]:
+            self.assertEqual(Run("check", *arguments).code, code, arguments)
+        self.assertEqual(Run("check", "--json", bad, none).records()[1]["error"]["exit"], 3)
+
+    def test_depth_and_number_of_findings_cost_linear_time_and_little_stack(self):
+        for octets, count in [(b"\x30\x80" * 50000 + b"\0\0" * 50000, 50000), (wrap(b"\x30", b"\1\1\1" * 50000), 50000)]:
+            done = subprocess.run(["sh", "-c", 'ulimit -s 256; exec "$0" check --in-form=der', QUARN], input=octets,
+                                  capture_output=True, timeout=120, env=ENVIRONMENT, check=False)
+            self.assertEqual((done.returncode, done.stdout.count(b"\n")), (1, count))
+
+    def test_conversion_says_what_it_needs(self):
+        self.assertEqual(Run("convert", "--to", "hex", data=NULL + b"\x02\x01\x05").out, "0500\n020105\n")
+        self.assertEqual(Run("convert", "--to", "pem", "--label", "X Y", data=NULL).out,
+                         "-----BEGIN X Y-----\nBQA=\n-----END X Y-----\n")
+        octets = b"\x04\x2d" + bytes(45)
+        text = base64.b64encode(octets * 3 + NULL).decode()
+        lines = "".join(text[i:i + 64] + "\n" for i in range(0, len(text), 64))
+        self.assertEqual(Run("convert", "--to", "base64", data=octets * 3 + NULL).out, lines)
+        target = self.path / "out"
+        for arguments, data, code, message in [
+                (["--to", "pem"], NULL, 2, "name it with --label"), ([], NULL, 2, "it needs --to der, pem"),
+                (["--to", "der", "--label", "A"], NULL, 2, "for --to pem only"),
+                (["--to", "pem", "--label", "A-B"], NULL, 2, "cannot be the label"),
+                (["--to", "hex", "-o", str(target)], b"\x30\x80\x05\0", 1, "offset 4"),
+                (["--to", "text"], NULL, 2, "one of der, pem, hex, base64")]:
+            self.check(Run("convert", *arguments, data=data), code, message)
+        self.assertFalse(target.exists())
+        self.check(Run("convert", "--to", "der", "-o", str(target), data=b"0500"), 0)
+        self.assertEqual(target.read_bytes(), NULL)
+
+    def test_octets_go_to_a_terminal_only_when_asked_to(self):
+        for arguments, code in [(["convert", "--to", "der"], 2), (["convert", "--to", "der", "-o", "-"], 0),
+                                (["convert", "--to", "hex"], 0), (["der"], 2)]:
+            master, slave = pty.openpty()
+            done = subprocess.run([QUARN, *arguments], input=b'{"type":"NULL"}' if arguments == ["der"] else NULL,
+                                  stdout=slave, stderr=subprocess.PIPE, env=ENVIRONMENT, check=False)
+            os.close(slave)
+            os.close(master)
+            self.assertEqual(done.returncode, code, (arguments, done.stderr))
+
+
+if __name__ == "__main__":
+    unittest.main()
