@@ -142,14 +142,18 @@ Status read_end(Reader &in) {
   return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_END, in.offset());
 }
 
+Status read_first(Reader &in, Identifier &out) {
+  const Status status = read_identifier(in, out);
+  if (status) return status;
+  return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_IDENTIFIER, in.offset());
+}
+
 // Reads the identifier of an element, which must be the expected one, and the length; or, where
 // there may be one, the end-of-contents.
 Status read_item(Reader &in, const ElementTag &expected, bool may_end, Item &out) {
   Identifier identifier{};
-  Status status = read_identifier(in, identifier);
-  if (!status) {
-    return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_IDENTIFIER, in.offset());
-  }
+  Status status = read_first(in, identifier);
+  if (!status) return status;
   out.primitive = identifier.primitive;
   if (!identifier.is(expected.tag_class, expected.number)) {
     if (!may_end || !identifier.is_end_of_contents()) {
@@ -168,49 +172,54 @@ Status read_item(Reader &in, const ElementTag &expected, bool may_end, Item &out
 
 // Elements are read by read(in, may_end, element, ended), which stores an element or finds the
 // end-of-contents, and freed by release(). position() counts the octets read.
-class TypedElements {
+class ElementsOfType {
  public:
-  TypedElements(const Type &type, const ElementTag &expected) : type_(type), expected_(expected) {}
+  explicit ElementsOfType(const Type &type) : type_(type) {}
 
-  Status read(Reader &in, bool may_end, void **element, bool &ended) const {
-    Item item{};
-    Status status = read_item(in, expected_, may_end, item);
-    ended = item.end_of_contents;
-    if (!status || ended) return status;
-    status = decode_content(type_, in, element, item.primitive, item.length);
-    if (status) return status;
-    return kUnit.pass_on(status, in.ctx(), type_.decode_error(), in.offset());
-  }
   void release(void *element) const { free_value(type_, element); }
   std::uint64_t position(const Reader &in) const { return in.count(); }
 
+ protected:
+  const Type &type() const { return type_; }
+  Status recorded(Status status, const Reader &in) const {
+    if (status) return status;
+    return kUnit.pass_on(status, in.ctx(), type_.decode_error(), in.offset());
+  }
+
  private:
   const Type &type_;
+};
+
+class TypedElements : public ElementsOfType {
+ public:
+  TypedElements(const Type &type, const ElementTag &expected)
+      : ElementsOfType(type), expected_(expected) {}
+
+  Status read(Reader &in, bool may_end, void **element, bool &ended) const {
+    Item item{};
+    const Status status = read_item(in, expected_, may_end, item);
+    ended = item.end_of_contents;
+    if (!status || ended) return status;
+    return recorded(decode_content(type(), in, element, item.primitive, item.length), in);
+  }
+
+ private:
   const ElementTag &expected_;
 };
 
 // Elements that begin with one of several tags.
-class ChoiceElements {
+class ChoiceElements : public ElementsOfType {
  public:
-  explicit ChoiceElements(const Type &type) : type_(type) {}
+  using ElementsOfType::ElementsOfType;
 
   Status read(Reader &in, bool may_end, void **element, bool &ended) const {
     Identifier identifier{};
-    Status status = read_identifier(in, identifier);
-    if (!status) {
-      return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_IDENTIFIER, in.offset());
-    }
+    const Status status = read_first(in, identifier);
+    if (!status) return status;
     ended = may_end && identifier.is_end_of_contents();
     if (ended) return read_end(in);
-    status = decode_rest(type_, in, identifier, element);
-    if (status) return status;
-    return kUnit.pass_on(status, in.ctx(), type_.decode_error(), in.offset());
+    return recorded(decode_rest(type(), in, identifier, element), in);
   }
-  void release(void *element) const { free_value(type_, element); }
-  std::uint64_t position(const Reader &in) const { return in.count(); }
-
- private:
-  const Type &type_;
 };
 
 class AnyElements {

@@ -7,21 +7,15 @@
 #include <string_view>
 #include <vector>
 
-#include "quarn_asn1.h"
 #include "tests/support/allocation.h"
+#include "tests/unit/values.h"
 #include "types/oid.h"
 
 namespace quarn::test {
 namespace {
 
-using Octets = std::vector<std::uint8_t>;
-
-template <std::int64_t kType>
-struct FreeOid {
-  void operator()(quarn_asn1_oid *v) const { quarn_asn1_value_free(kType, v); }
-};
-using Oid = std::unique_ptr<quarn_asn1_oid, FreeOid<QUARN_ASN1_OID>>;
-using RelativeOid = std::unique_ptr<quarn_asn1_oid, FreeOid<QUARN_ASN1_RELATIVE_OID>>;
+using Oid = Value<quarn_asn1_oid, QUARN_ASN1_OID>;
+using RelativeOid = Value<quarn_asn1_oid, QUARN_ASN1_RELATIVE_OID>;
 
 Octets content_of(const quarn_asn1_oid *v) {
   return v == nullptr ? Octets{} : Octets(v->octets(), v->octets() + v->length);
