@@ -159,6 +159,19 @@ Guess guess(Octets octets, const std::string &label) {
   return result;
 }
 
+Decoded recognise(Octets octets, const std::string &label) {
+  const bool told =
+      std::any_of(std::begin(kCandidates), std::end(kCandidates),
+                  [&](const auto &candidate) { return has_label(candidate.labels, label); });
+  for (const auto &candidate : kCandidates) {
+    const bool fits = told ? has_label(candidate.labels, label) : candidate.sure;
+    if (!fits || !supported(candidate.type_id)) continue;
+    Decoded value(candidate.type_id, octets);
+    if (value.get() != nullptr) return value;
+  }
+  return {};
+}
+
 Failure no_type(const Guess &guess, Octets octets) {
   if (guess.named >= 0) {
     return {kBadInput, "this version cannot decode the type " + notation_of(guess.named)};
