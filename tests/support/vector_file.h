@@ -35,7 +35,7 @@ struct Vector {
 // All vectors of a file. Throws std::runtime_error with file and line for a line it cannot read.
 std::vector<Vector> read_vectors(const std::string &path);
 
-// All vectors of a folder's .vec files, in the order of file names.
+// All vectors of the .vec files in a folder and below, in the order of file names.
 std::vector<Vector> read_vector_folder(const std::string &folder);
 
 }  // namespace quarn::test
