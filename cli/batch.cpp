@@ -160,6 +160,14 @@ int visit_inputs(const Arguments &arguments, Visitor &visitor) {
   return batch.run();
 }
 
+std::string object_heading(const Source &source, const Object &object) {
+  std::string text = source.name() + ": object " + std::to_string(object.index);
+  if (!object.label.empty()) text += " (" + printable(object.label) + ")";
+  text +=
+      " at offset " + std::to_string(object.offset) + ", " + counted(object.octets.size(), "octet");
+  return painted(Paint::tag, text) + "\n";
+}
+
 std::string json_head(const std::string &path, const Object *object) {
   std::string text = "{\"source\":" + json_string(path);
   if (object == nullptr) return text;

@@ -85,15 +85,6 @@ bool decodes(Octets octets, std::int64_t type_id, std::vector<Record> &records) 
   return result == 1;
 }
 
-Failure failure_of(Report report, Octets octets) {
-  cut_window(report, octets);
-  if (report.records.empty()) static_cast<void>(decodes(octets, QUARN_ASN1_ANY, report.records));
-  const std::string message = "offset " + std::to_string(report.offset) + " (" +
-                              hex_number(report.offset) + "): found " + report.found;
-  const Exit code = report.code;
-  return {code, message, std::make_shared<const Report>(std::move(report))};
-}
-
 // Whether a document can hold the element; fills the report when it cannot.
 bool acceptable(const Walk &walk, Octets octets, Report &report) {
   const Element &element = walk.element();
@@ -156,6 +147,19 @@ Report refused(Octets octets, const std::string &otherwise) {
 
 }  // namespace
 
+Failure failure_of(Report report, Octets octets, const std::string &message) {
+  cut_window(report, octets);
+  if (report.records.empty() && report.tried.empty()) {
+    static_cast<void>(decodes(octets, QUARN_ASN1_ANY, report.records));
+  }
+  const std::string text = !message.empty()
+                               ? message
+                               : "offset " + std::to_string(report.offset) + " (" +
+                                     hex_number(report.offset) + "): found " + report.found;
+  const Exit code = report.code;
+  return {code, text, std::make_shared<const Report>(std::move(report))};
+}
+
 std::vector<Record> records_of(const quarn_err_ctx *ctx) {
   std::vector<Record> records;
   for (std::size_t i = 0; i < quarn_err_ctx_count(ctx); i++) {
@@ -164,6 +168,17 @@ std::vector<Record> records_of(const quarn_err_ctx *ctx) {
         {record->code, record->message, record->file, record->line, quarn_err_ctx_offset(ctx, i)});
   }
   return records;
+}
+
+void place_at(Report &report, Octets octets, std::uint64_t offset) {
+  Walk walk(octets);
+  while (walk.next() == Walk::Step::element) {
+    // A decoder that fails at an element has read its identifier.
+    if (walk.element().offset >= offset && walk.element().offset != 0) return;
+    report.offset = walk.element().offset;
+    report.found = tag_name(walk.element().header);
+    report.path = walk.element_path();
+  }
 }
 
 Failure failure_at(const Walk &walk, Octets octets) {
@@ -200,6 +215,10 @@ std::string details(const Report &report) {
   }
   if (report.offset == report.window_offset + report.window.size()) window += " [end]";
   line("octets    ", hex_number(report.window_offset) + ":" + window);
+  for (const Tried &tried : report.tried) {
+    line("tried     ", tried.type + ": offset " + std::to_string(tried.offset) + ": " +
+                           (tried.path.empty() ? "" : tried.path + ": ") + tried.reason);
+  }
   for (const Record &record : report.records) {
     const std::string place = record.offset < 0 ? "" : ", offset " + std::to_string(record.offset);
     line("library   ", hex_number(static_cast<std::uint64_t>(record.code)) + " " +
@@ -223,6 +242,15 @@ std::string json_members(const Report &report) {
             ",\"unit\":" + json_string(record.unit) + ",\"line\":" + std::to_string(record.line);
     if (record.offset >= 0) text += ",\"offset\":" + std::to_string(record.offset);
     text += "}";
+  }
+  text += "]";
+  if (report.tried.empty()) return text;
+  text += ",\"tried\":[";
+  for (std::size_t i = 0; i < report.tried.size(); i++) {
+    const Tried &tried = report.tried[i];
+    text += std::string(i == 0 ? "" : ",") + "{\"type\":" + json_string(tried.type) +
+            ",\"offset\":" + std::to_string(tried.offset) + ",\"path\":" + json_string(tried.path) +
+            ",\"reason\":" + json_string(tried.reason) + "}";
   }
   return text + "]";
 }

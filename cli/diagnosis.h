@@ -24,6 +24,14 @@ struct Record {
   std::int64_t offset;  // -1 when unknown
 };
 
+// A type that an encoding was tried as, and is not of.
+struct Tried {
+  std::string type;
+  std::uint64_t offset;
+  std::string path;
+  std::string reason;
+};
+
 struct Report {
   Exit code = kBadInput;     // or kLimit: good, but more than the library takes
   std::uint64_t offset = 0;  // from the start of the object
@@ -33,6 +41,7 @@ struct Report {
   std::uint64_t window_offset = 0;
   std::vector<std::uint8_t> window;  // octets around the offset
   std::vector<Record> records;       // innermost failure first
+  std::vector<Tried> tried;          // the nearest first
 };
 
 std::vector<Record> records_of(const quarn_err_ctx *ctx);
@@ -42,6 +51,12 @@ std::vector<Record> records_of(const quarn_err_ctx *ctx);
 Failure diagnose(Octets octets, const std::string &otherwise);
 // The same for a walk that stands at a fault.
 Failure failure_at(const Walk &walk, Octets octets);
+
+// The same for a report that a caller has made; what it lacks of window and records is added.
+Failure failure_of(Report report, Octets octets, const std::string &message = "");
+// Puts the report at the element in which an offset of well-formed octets lies: its own offset and
+// path, and its tag as what was found.
+void place_at(Report &report, Octets octets, std::uint64_t offset);
 
 // Lines of text below the message, indented, without a last line end.
 std::string details(const Report &report);

@@ -41,7 +41,6 @@ class Dump : public Visitor {
   }
 
  private:
-  void heading(const Source &source, const Object &object);
   void line(Walk &walk);
   void write(const Walk &walk, bool encapsulates) const;
 
@@ -51,15 +50,6 @@ class Dump : public Visitor {
   bool first_ = true;
   bool titled_ = false;
 };
-
-void Dump::heading(const Source &source, const Object &object) {
-  std::string text = source.name() + ": object " + std::to_string(object.index);
-  if (!object.label.empty()) text += " (" + printable(object.label) + ")";
-  text +=
-      " at offset " + std::to_string(object.offset) + ", " + counted(object.octets.size(), "octet");
-  standard_output().write((first_ ? "" : "\n") + painted(Paint::tag, text) + "\n");
-  first_ = false;
-}
 
 void Dump::write(const Walk &walk, bool encapsulates) const {
   const Element &element = walk.element();
@@ -91,7 +81,8 @@ void Dump::line(Walk &walk) {
 }
 
 void Dump::object(const Source &source, const Object &object, bool several) {
-  if (several) heading(source, object);
+  if (several) standard_output().write((first_ ? "" : "\n") + object_heading(source, object));
+  first_ = false;
   if (!titled_) standard_output().write(painted(Paint::dim, kTitle) + "\n");
   titled_ = true;
   Walk walk(object.octets);

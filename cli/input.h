@@ -75,6 +75,8 @@ class Visitor {
 // Shows every object of the operands to the visitor, and returns the exit code.
 int visit_inputs(const Arguments &arguments, Visitor &visitor);
 
+// A line about an object, for people who look at several.
+std::string object_heading(const Source &source, const Object &object);
 // The JSON object of a line about an object, as far as it is the same whatever is said of it:
 // {"source":"a.der","index":0,"offset":0,"length":5 - without what follows and its closing brace.
 std::string json_head(const std::string &path, const Object *object);

@@ -26,7 +26,8 @@ int run(const Parsed &parsed) {
   }
   if (parsed.command == nullptr) {
     say("quarn shows and builds ASN.1 encodings, BER and DER.\n\n"
-        "  quarn dump FILE    the elements of a file\n"
+        "  quarn decode FILE  a certificate, CRL or other known type, part by part\n"
+        "  quarn dump FILE    the elements of any encoding\n"
         "  quarn json FILE    the same as a JSON document\n\n"
         "'quarn --help' lists all commands.");
     return kUsage;

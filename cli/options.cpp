@@ -40,6 +40,9 @@ constexpr Option kOptions[] = {
     {Opt::width, "--width", "N", nullptr,
      "Cut values after N characters; 0 shows them whole. The default is 72."},
     {Opt::json, "--json", nullptr, nullptr, "Write JSON."},
+    {Opt::type, "-t,--type", "TYPE", nullptr,
+     "The type of the input: a name of ASN.1, such as Certificate, or a name or id that `quarn "
+     "types` lists. Without it the type is found by the label of a PEM block, or by trying."},
 };
 
 constexpr const char *kInputText =
@@ -75,6 +78,24 @@ std::vector<Command> encoding_commands() {
        0,
        1,
        run_der},
+      {"decode",
+       "[FILE...]",
+       "Show certificates, CRLs and other known types with the names of their parts",
+       "Decodes each object as a value of its type and writes a line for each component: name, "
+       "type "
+       "and value. Components that are absent are left out; a default is shown and marked. "
+       "Extensions, attributes and other octets whose type an object identifier tells are shown as "
+       "values of that type. An encoding that is of no known type is shown as its elements, and "
+       "the "
+       "exit code is 1. With --json or --lines the same is written for programs.",
+       {Opt::type, Opt::json, Opt::lines, Opt::compact, Opt::in_form, Opt::recursive, Opt::width},
+       {{"quarn decode server.pem", "a certificate, or all of a file"},
+        {"quarn decode --json server.pem | jq '.tbsCertificate.extensions[].extnID'",
+         "the extensions that it has"},
+        {"quarn decode --type GeneralNames names.der", "a part that was cut out"}},
+       0,
+       SIZE_MAX,
+       run_decode},
       {"dump",
        "[FILE...]",
        "Show the elements of encodings for people",

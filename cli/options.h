@@ -27,7 +27,8 @@ enum class Opt {
   no_dig,
   depth,
   width,
-  json
+  json,
+  type
 };
 
 struct Option {

@@ -116,6 +116,16 @@ void append_json_escape(std::string &out, char32_t unit) {
   append_hex(out, unit, 4);
 }
 
+// Character strings of an octet a character, and UTF8String.
+std::optional<std::string> narrow_text(std::uint64_t tag_number, Octets content) {
+  constexpr std::uint64_t kTags[] = {18, 19, 20, 21, 22, 25, 26, 27};
+  const bool ascii = std::all_of(content.begin(), content.end(), [](auto c) { return c < 0x80; });
+  const bool known = std::find(std::begin(kTags), std::end(kTags), tag_number) != std::end(kTags);
+  if (tag_number == 12 ? utf8_prefix(as_text(content)) != content.size() : !known || !ascii)
+    return std::nullopt;
+  return std::string(as_text(content));
+}
+
 }  // namespace
 
 std::string printable(std::string_view text) {
@@ -176,6 +186,45 @@ std::string json_string(std::string_view text) {
     }
   }
   return out + "\"";
+}
+
+std::optional<std::string> utf8_text(std::uint64_t tag_number, Octets content) {
+  if (tag_number != 28 && tag_number != 30) return narrow_text(tag_number, content);
+  const std::size_t width = tag_number == 28 ? 4 : 2;
+  if (content.size() % width != 0) return std::nullopt;
+  std::string text;
+  for (std::size_t i = 0; i < content.size(); i += width) {
+    char32_t c = 0;
+    for (std::size_t k = 0; k < width; k++) c = c << 8 | content[i + k];
+    if (c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) return std::nullopt;
+    append_utf8(text, c);
+  }
+  return text;
+}
+
+std::string escaped_4514(std::string_view text) {
+  constexpr std::string_view kSpecial = "\"+,;<>\\";
+  std::string out;
+  const std::size_t size = text.size();
+  while (!text.empty()) {
+    const bool first = text.size() == size;
+    const std::string_view before = text;
+    const char32_t c = next_code_point(text);
+    const std::string_view octets = before.substr(0, before.size() - text.size());
+    if (c == kInvalid || hidden(c)) {
+      for (const char octet : octets) {
+        out.push_back('\\');
+        append_hex(out, static_cast<std::uint8_t>(octet), 2);
+      }
+      continue;
+    }
+    const bool edge = (c == ' ' && (first || text.empty())) || (c == '#' && first);
+    if (edge || (c < 0x80 && kSpecial.find(static_cast<char>(c)) != std::string_view::npos)) {
+      out.push_back('\\');
+    }
+    out += octets;
+  }
+  return out;
 }
 
 std::string hex_octets(Octets octets, std::size_t most) {

@@ -5,6 +5,7 @@
 #define QUARN_CLI_TEXT_H
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -35,6 +36,13 @@ std::size_t utf8_prefix(std::string_view text);
 // A JSON string with its quotation marks, all of ASCII control, bidirectional and non-UTF-8 content
 // escaped; octets that are no UTF-8 become U+FFFD.
 std::string json_string(std::string_view text);
+
+// The content of a character string with this universal tag as UTF-8; nothing when it is not valid,
+// and for the character sets of TeletexString and its like where they differ from ASCII.
+std::optional<std::string> utf8_text(std::uint64_t tag_number, Octets content);
+// The value of an attribute in the text of a Name (RFC 4514, 2.4): what is not plainly visible too
+// is escaped, as octets.
+std::string escaped_4514(std::string_view text);
 
 // Octets as "30 82 01", at most `most` of them.
 std::string hex_octets(Octets octets, std::size_t most = SIZE_MAX);

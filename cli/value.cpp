@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::size_t kShortInteger = 8;  // octets that are shown in decimal
 constexpr std::size_t kShortBits = 32;    // bits that are shown one by one
+constexpr std::size_t kLongestTime = 40;  // octets of text that may be a time
 
 // What is shown of octets that are no text.
 std::string excerpt(Octets content, std::size_t width) {
@@ -102,23 +103,15 @@ bool digits(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-// "2026-01-31 12:00:00 UTC" from YYYYMMDDHHMMSS and what follows: a fraction, Z or an offset.
+// "2026-01-31 12:00:00 UTC"
 std::string time_value(Octets content, std::size_t width, bool short_year) {
-  std::string text(as_text(content));
-  if (content.size() > 40) return string_value(content, width, 1);
-  if (short_year && text.size() >= 2) text.insert(0, text[0] >= '5' ? "19" : "20");
-  std::size_t count = 0;
-  while (count < text.size() && digits(text.substr(count, 1))) count++;
-  if (count != 10 && count != 12 && count != 14) {
-    return painted(Paint::fault, "(no time) ") + string_value(content, width, 1);
+  const std::optional<TimeText> time = read_time(content, short_year);
+  if (!time) {
+    const std::string why = content.size() > kLongestTime ? "" : "(no time) ";
+    return painted(Paint::fault, why) + string_value(content, width, 1);
   }
-  std::string shown = text.substr(0, 4) + "-" + text.substr(4, 2) + "-" + text.substr(6, 2) + " " +
-                      text.substr(8, 2);
-  for (std::size_t i = 10; i < count; i += 2) shown += ":" + text.substr(i, 2);
-  const std::string rest = text.substr(count);
-  return painted(Paint::text, shown + (!rest.empty() && rest.back() == 'Z'
-                                           ? printable(rest.substr(0, rest.size() - 1)) + " UTC"
-                                           : printable(rest)));
+  const std::string zone = time->zone == "Z" ? " UTC" : time->zone;
+  return painted(Paint::text, printable(time->date + " " + time->time + time->fraction + zone));
 }
 
 // Content under a tag of which only the schema knows the type: text when it is nothing but that.
@@ -180,22 +173,23 @@ bool plausible(const quarn_asn1_header &header, Octets content) {
   }
 }
 
-// Whether the octets are encodings that make sense: any octets may happen to be well-formed.
-bool sensible_encodings(Octets octets) {
-  if (octets.size() < 2) return false;
-  Walk walk(octets, Walk::Top::several);
-  Walk::Step step = walk.next();
-  for (; step == Walk::Step::element; step = walk.next()) {
-    const Element &found = walk.element();
-    if (found.depth > 0 || found.constructed()) continue;
-    if (found.header.tag_class != kUniversal || !plausible(found.header, walk.content())) {
-      return false;
-    }
-  }
-  return step == Walk::Step::end;
-}
-
 }  // namespace
+
+std::optional<TimeText> read_time(Octets content, bool short_year) {
+  std::string text(as_text(content));
+  if (text.size() > kLongestTime) return std::nullopt;
+  if (short_year && text.size() >= 2) text.insert(0, text[0] >= '5' ? "19" : "20");
+  const std::size_t count = std::min(text.find_first_not_of("0123456789"), text.size());
+  if (count != 10 && count != 12 && count != 14) return std::nullopt;
+  TimeText time;
+  time.date = text.substr(0, 4) + "-" + text.substr(4, 2) + "-" + text.substr(6, 2);
+  time.time = text.substr(8, 2);
+  for (std::size_t i = 10; i < count; i += 2) time.time += ":" + text.substr(i, 2);
+  const std::size_t zone = std::min(text.find_first_of("Z+-", count), text.size());
+  time.fraction = text.substr(count, zone - count);
+  time.zone = text.substr(zone);
+  return time;
+}
 
 std::string value_text(const quarn_asn1_header &header, Octets content, std::size_t width) {
   if (header.tag_class != kUniversal) return untyped_value(content, width);
@@ -234,6 +228,20 @@ std::string value_text(const quarn_asn1_header &header, Octets content, std::siz
     default:
       return octets_value(content, width);
   }
+}
+
+bool sensible_encodings(Octets octets) {
+  if (octets.size() < 2) return false;
+  Walk walk(octets, Walk::Top::several);
+  Walk::Step step = walk.next();
+  for (; step == Walk::Step::element; step = walk.next()) {
+    const Element &found = walk.element();
+    if (found.depth > 0 || found.constructed() || found.end_of_contents) continue;
+    if (found.header.tag_class != kUniversal || !plausible(found.header, walk.content())) {
+      return false;
+    }
+  }
+  return step == Walk::Step::end;
 }
 
 std::optional<std::uint64_t> encapsulated(const Walk &walk) {

@@ -22,7 +22,7 @@ function(quarn_add_test_program folder)
     ENVIRONMENT "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/thread_sanitizer.supp")
 endfunction()
 
-foreach(folder util unit vectors laws)
+foreach(folder util unit vectors laws corpus)
   quarn_add_test_program(${folder})
 endforeach()
 
@@ -38,8 +38,25 @@ if(TARGET quarn_cli AND Python3_FOUND)
   add_test(NAME cli COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_quarn.py)
   set_tests_properties(cli PROPERTIES ENVIRONMENT
     "QUARN=$<TARGET_FILE:quarn_cli>;QUARN_COMPLETION=${QUARN_COMPLETION_bash};QUARN_MAN=${QUARN_MAN_PAGE}")
+  add_test(NAME decode COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_decode.py)
+  set_tests_properties(decode PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
   add_test(NAME files COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_files.py)
   add_test(NAME check COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_check.py)
   set_tests_properties(check PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
   set_tests_properties(files PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
+endif()
+
+# Real files, made once for each build directory: for the program of that name and for the command.
+find_program(QUARN_OPENSSL openssl)
+if(Python3_FOUND AND QUARN_OPENSSL)
+  set(corpus ${PROJECT_BINARY_DIR}/corpus)
+  add_test(NAME corpus_files COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/corpus/make_corpus.py ${corpus}
+           /usr/share/ca-certificates/mozilla)
+  set_tests_properties(corpus_files PROPERTIES FIXTURES_SETUP corpus)
+  set_tests_properties(corpus PROPERTIES FIXTURES_REQUIRED corpus ENVIRONMENT "QUARN_CORPUS=${corpus}")
+  if(TARGET quarn_cli)
+    add_test(NAME corpus_fields COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/corpus/test_corpus.py)
+    set_tests_properties(corpus_fields PROPERTIES FIXTURES_REQUIRED corpus
+      ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>;QUARN_CORPUS=${corpus}")
+  endif()
 endif()

@@ -28,6 +28,7 @@
 #include "quarn_asn1/attribute.h"
 #include "quarn_asn1/core.h"
 #include "quarn_asn1/extension.h"
+#include "quarn_asn1/inspect.h"
 #include "quarn_asn1/json.h"
 #include "quarn_asn1/pkcs10.h"
 #include "quarn_asn1/types.h"

@@ -66,7 +66,7 @@ class CommandLine(Case):
         self.assertRegex(run.lines[0], r"^quarn \d+\.\d+\.\d+$")
         self.assertRegex(run.lines[2], r"^libquarn_util \d")
         self.assertEqual(Run("json", "--help").out, Run("help", "json").out)
-        for command in ("json", "der", "dump", "check", "convert", "types", "error", "help"):
+        for command in ("json", "der", "decode", "dump", "check", "convert", "types", "error", "help"):
             self.assertIn(f"  {command} ", Run("--help").out)
             self.check(Run(command, "-h"), 0)
 
@@ -105,7 +105,7 @@ class CommandLine(Case):
                       "_quarn; echo ${COMPREPLY[*]}")
             return subprocess.run(["bash", "-c", script], capture_output=True, check=True,
                                   text=True).stdout.split()
-        self.assertEqual(complete("quarn", "d"), ["der", "dump"])
+        self.assertEqual(complete("quarn", "d"), ["der", "decode", "dump"])
         self.assertEqual(complete("quarn", "json", "--co"), ["--compact", "--color"])
         self.assertEqual(complete("quarn", "json", "--in-form", "d"), ["der"])
         self.assertEqual(complete("quarn", "convert", "--to", "h"), ["hex"])

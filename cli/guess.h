@@ -1,0 +1,40 @@
+// Which type an encoding is of: named by the caller, told by a PEM label, or found by trying.
+#ifndef QUARN_CLI_GUESS_H
+#define QUARN_CLI_GUESS_H
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "cli/diagnosis.h"
+#include "cli/open.h"
+
+namespace quarn::cli {
+
+struct Guess {
+  Decoded value;                     // null when nothing fits
+  std::int64_t named = -1;           // type that the label tells and this version cannot decode
+  std::vector<std::int64_t> others;  // types that fit too
+  std::vector<Tried> failed;         // types that do not, the nearest first
+};
+
+// Tries the types that stand alone in files. `label` is that of the PEM block, or empty.
+Guess guess(Octets octets, const std::string &label);
+
+// The failure of octets that fit none of the types tried.
+Failure no_type(const Guess &guess, Octets octets);
+
+// The octets as a value of one type. Throws Failure with the place of the fault.
+Decoded decode_as(std::int64_t type_id, Octets octets);
+
+// The id that a user means: a number, a name of the registry, or a name in ASN.1. Throws
+// UsageError, with a near name when there is one.
+std::int64_t type_named(const std::string &command, const std::string &name);
+
+// "Certificate"
+std::string notation_of(std::int64_t type_id);
+
+}  // namespace quarn::cli
+
+#endif

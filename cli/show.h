@@ -1,0 +1,71 @@
+// Typed values on standard output: as indented lines for people, or as JSON.
+#ifndef QUARN_CLI_SHOW_H
+#define QUARN_CLI_SHOW_H
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/typed.h"
+#include "cli/walk.h"
+
+namespace quarn::cli {
+
+// One line for each component: its name, its type, its value. Names and sets of one element are
+// folded into fewer lines.
+class TextShow : public TypedVisitor {
+ public:
+  explicit TextShow(std::size_t width) : width_(width) {}
+
+  bool enter(const Node &node, std::int64_t count) override;
+  void leave() override { indents_.pop_back(); }
+  void leaf(const Node &node) override;
+  // An encoding of any type, as its elements.
+  void tree(Octets octets) const;
+
+ private:
+  std::size_t indent() const { return indents_.empty() ? 0 : indents_.back(); }
+  std::string head(const Node &node) const;
+  void line(const Node &node, const std::string &text) const;
+  bool fold(const Node &node) const;
+  void pair(const Node &node, const quarn_asn1_component &attribute) const;
+  void unopened(const Node &node) const;
+  void elements(Octets octets,
+                Walk::Top top,
+                const std::optional<std::string> &head,
+                const std::string &after) const;
+
+  std::size_t width_;
+  std::vector<std::size_t> indents_;  // of the components of each level that is open
+};
+
+// The value as JSON; docs/quarn.md describes it.
+class JsonShow : public TypedVisitor {
+ public:
+  // indent: blanks a level; 0 for one line.
+  explicit JsonShow(std::size_t indent) : indent_(indent) {}
+
+  bool enter(const Node &node, std::int64_t count) override;
+  void leave() override;
+  void leaf(const Node &node) override;
+
+ private:
+  struct Level {
+    bool object;
+    bool empty;
+    std::string end;  // what closes the objects around it
+  };
+  // Writes all that comes before the value itself, and gives what comes after it.
+  std::string begin(const Node &node);
+  void new_line() const;
+
+  std::size_t indent_;
+  std::vector<Level> levels_;
+};
+
+// Any encoding as a JSON value: the document that `quarn json` writes.
+std::string element_json(Octets octets);
+
+}  // namespace quarn::cli
+
+#endif

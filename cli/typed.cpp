@@ -1,0 +1,210 @@
+#include "cli/typed.h"
+
+#include <algorithm>
+#include <new>
+
+#include "cli/handles.h"
+
+namespace quarn::cli {
+
+namespace {
+
+// Strings opened inside one another: an attribute that holds extensions that hold attributes. Each
+// is decoded into memory of its own, so that their number must not be the input's to choose.
+constexpr int kMostOpenings = 8;
+
+struct Level {
+  Node node;
+  std::int64_t count = 0;
+  std::int64_t next = 0;
+  std::size_t label_width = 0;
+  int openings = 0;
+  // How the components, or the elements of the component that is a list, are to be opened.
+  const OpenRecord *record = nullptr;
+  bool elements = false;
+  std::string oid;
+  // Kept for as long as the level is walked.
+  Decoded opened;
+  std::vector<std::uint8_t> octets;
+};
+
+class Walker {
+ public:
+  explicit Walker(TypedVisitor &visitor) : visitor_(visitor) {}
+
+  void show(std::int64_t type_id, const void *value) {
+    Level top;
+    top.node.type_id = type_id;
+    top.node.value = value;
+    handle(std::move(top));
+    while (!levels_.empty()) step();
+  }
+
+ private:
+  void step();
+  void handle(Level level);
+  void push(Level level);
+  static void resolve(Node &node);
+  static void open(Level &level, const Level &parent);
+  static bool is_place(const Level &parent, std::int64_t index);
+
+  TypedVisitor &visitor_;
+  std::vector<Level> levels_;
+};
+
+// Goes behind a CHOICE. Time and the CHOICEs of strings show in the type of the alternative.
+void Walker::resolve(Node &node) {
+  for (;;) {
+    static_cast<void>(quarn_asn1_type_shape(node.type_id, &node.shape));
+    const bool strings = node.shape.kind == QUARN_ASN1_KIND_STRINGS;
+    if (!strings && node.shape.kind != QUARN_ASN1_KIND_CHOICE) return;
+    const quarn_asn1_component chosen = component_of(node, 0);
+    if (!strings && node.type_id != QUARN_ASN1_TIME) node.alternatives.push_back(chosen.name);
+    node.type_id = chosen.type_id;
+    node.value = chosen.value;
+  }
+}
+
+// Whether octets to be opened are component number index.
+bool Walker::is_place(const Level &parent, std::int64_t index) {
+  if (parent.record == nullptr || parent.openings >= kMostOpenings) return false;
+  return parent.elements || (parent.record->value == index && !parent.record->elements);
+}
+
+// Puts what the string or ANY of a level holds in its place.
+void Walker::open(Level &level, const Level &parent) {
+  Node &node = level.node;
+  const std::int64_t holder = node.shape.base;
+  if (holder != QUARN_ASN1_ANY && holder != QUARN_ASN1_OCTETSTRING &&
+      holder != QUARN_ASN1_BITSTRING) {
+    return;
+  }
+  node.place = true;
+  const Opening *opening = find_opening(parent.record->place, parent.oid);
+  if (opening == nullptr) return;
+  level.octets = octets_of(node.type_id, node.value);
+  Octets octets(level.octets);
+  if (holder == QUARN_ASN1_BITSTRING) {
+    if (octets.empty() || octets[0] != 0) return;
+    octets = octets.subspan(1);
+  }
+  Decoded decoded(opening->type_id, octets);
+  if (decoded.get() == nullptr) {
+    quarn_asn1_shape shape{};
+    static_cast<void>(quarn_asn1_type_shape(opening->type_id, &shape));
+    node.trouble = std::string("no ") + shape.name + ": " + decoded.reason();
+    return;
+  }
+  level.opened = std::move(decoded);
+  level.openings++;
+  node.holder = holder;
+  node.held = octets;
+  node.type_id = opening->type_id;
+  node.value = level.opened.get();
+  node.names = opening->names;
+  resolve(node);
+}
+
+void Walker::step() {
+  Level &parent = levels_.back();
+  if (parent.next == parent.count) {
+    visitor_.leave();
+    levels_.pop_back();
+    return;
+  }
+  const std::int64_t index = parent.next++;
+  const quarn_asn1_component component = component_of(parent.node, index);
+  if (component.value == nullptr) return;
+  Level level;
+  level.openings = parent.openings;
+  Node &node = level.node;
+  node.type_id = component.type_id;
+  node.value = component.value;
+  node.parent_type = parent.node.type_id;
+  node.label = parent.node.list() ? "[" + std::to_string(index) + "]" : std::string(component.name);
+  node.label_width = parent.label_width;
+  node.is_default = component.is_default == 1;
+  node.names = component_names(node.parent_type, component.name);
+  resolve(node);
+  if (is_place(parent, index)) open(level, parent);
+  if (parent.record != nullptr && parent.record->elements && !parent.elements &&
+      parent.record->value == index && node.list()) {
+    level.record = parent.record;
+    level.elements = true;
+    level.oid = parent.oid;
+  }
+  handle(std::move(level));
+}
+
+void Walker::handle(Level level) {
+  if (levels_.empty()) resolve(level.node);
+  const Node &node = level.node;
+  if (!node.composed()) return visitor_.leaf(node);
+  level.count = quarn_asn1_component_count(node.type_id, node.value);
+  if (visitor_.enter(node, level.count)) push(std::move(level));
+}
+
+// The identifier of a record, also where an AlgorithmIdentifier stands in its place.
+std::string identifier_of(const Node &node) {
+  const quarn_asn1_component first = component_of(node, 0);
+  if (first.value == nullptr || first.type_id == QUARN_ASN1_OID) return oid_text(first.value);
+  const quarn_asn1_component algorithm = component_of(first.type_id, first.value, 0);
+  return algorithm.type_id == QUARN_ASN1_OID ? oid_text(algorithm.value) : "";
+}
+
+void Walker::push(Level level) {
+  Node &node = level.node;
+  if (node.list()) {
+    level.label_width = std::to_string(std::max<std::int64_t>(level.count - 1, 0)).size() + 2;
+  } else {
+    for (std::int64_t i = 0; i < level.count; i++) {
+      const quarn_asn1_component component = component_of(node, i);
+      if (component.value == nullptr) continue;
+      level.label_width = std::max(level.label_width, std::string_view(component.name).size());
+    }
+    level.record = open_record(node.type_id);
+    if (level.record != nullptr) level.oid = identifier_of(node);
+  }
+  levels_.push_back(std::move(level));
+}
+
+}  // namespace
+
+void walk_value(std::int64_t type_id, const void *value, TypedVisitor &visitor) {
+  Walker(visitor).show(type_id, value);
+}
+
+quarn_asn1_component component_of(std::int64_t type_id, const void *value, std::int64_t index) {
+  quarn_asn1_component component{};
+  static_cast<void>(quarn_asn1_component_get(type_id, value, index, &component));
+  return component;
+}
+
+quarn_asn1_component component_of(const Node &node, std::int64_t index) {
+  return component_of(node.type_id, node.value, index);
+}
+
+std::vector<std::uint8_t> octets_of(std::int64_t type_id, const void *value) {
+  const Stream stream(quarn_stream_new_mem(0, nullptr));
+  if (stream == nullptr) throw std::bad_alloc();
+  // Encoding may move reading positions inside a value, which nobody else looks at here.
+  void *subject = const_cast<void *>(value);
+  const int result =
+      type_id == QUARN_ASN1_ANY
+          ? quarn_asn1_encode(stream.get(), type_id, subject, nullptr, nullptr)
+          : quarn_asn1_encode_content(stream.get(), type_id, subject,
+                                      quarn_asn1_content_length(type_id, value), nullptr, nullptr);
+  if (result != 1) throw std::bad_alloc();
+  const std::uint8_t *octets = nullptr;
+  std::uint64_t count = 0;
+  static_cast<void>(quarn_memstream_peek(stream.get(), &octets, &count));
+  return {octets, octets + count};
+}
+
+std::string oid_text(const void *value) {
+  if (value == nullptr) return "";
+  const char *text = quarn_asn1_oid_getstring(static_cast<const quarn_asn1_oid *>(value));
+  return text == nullptr ? "" : text;
+}
+
+}  // namespace quarn::cli

@@ -1,0 +1,78 @@
+// A walk over a value of any type, component by component, as the library's reflection shows it:
+// with an explicit stack, so that nesting costs no native one.
+//
+//     Certificate                         enter
+//       tbsCertificate  TBSCertificate      enter
+//         extensions    Extensions            enter
+//           [0]         Extension               enter
+//             extnID    OBJECT IDENTIFIER         leaf
+//             extnValue OCTET STRING              enter, or leaf: what it holds is opened
+//
+// Components that are absent are passed over. A CHOICE is no level of its own: the alternatives on
+// the way to a value go with it. Octets whose type an object identifier beside them tells are
+// decoded on the way and shown in their place.
+#ifndef QUARN_CLI_TYPED_H
+#define QUARN_CLI_TYPED_H
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "cli/open.h"
+#include "cli/text.h"
+#include "quarn_asn1.h"
+
+namespace quarn::cli {
+
+// One value on the way.
+struct Node {
+  std::int64_t type_id = 0;  // of the value, behind every CHOICE
+  const void *value = nullptr;
+  quarn_asn1_shape shape{};
+
+  std::string label;              // name of the component, or "[3]"; empty at the top
+  std::size_t label_width = 0;    // of the longest label beside it
+  std::int64_t parent_type = -1;  // what it is a component of
+  bool is_default = false;
+
+  // Names of the alternatives that lead to the value, outermost first.
+  std::vector<const char *> alternatives;
+  const char *names = nullptr;  // of its bits or numbers
+
+  // Where octets may be opened: what was found.
+  bool place = false;        // octets whose type an identifier tells stand here
+  std::int64_t holder = -1;  // type of the string or ANY that was opened to give the value
+  Octets held;               // its octets
+  std::string trouble;       // why it could not be opened although its type is known
+
+  bool composed() const {
+    return shape.kind == QUARN_ASN1_KIND_RECORD || shape.kind == QUARN_ASN1_KIND_LIST;
+  }
+  bool list() const { return shape.kind == QUARN_ASN1_KIND_LIST; }
+};
+
+class TypedVisitor {
+ public:
+  virtual ~TypedVisitor() = default;
+  // A record or a list. False passes over its components; leave() is then not called.
+  virtual bool enter(const Node &node, std::int64_t count) = 0;
+  virtual void leave() = 0;
+  // A value of a primitive type.
+  virtual void leaf(const Node &node) = 0;
+};
+
+// Shows the value and everything in it. Memory grows with the nesting of the value only.
+void walk_value(std::int64_t type_id, const void *value, TypedVisitor &visitor);
+
+// Component number index; its value is null when it is absent.
+quarn_asn1_component component_of(const Node &node, std::int64_t index);
+quarn_asn1_component component_of(std::int64_t type_id, const void *value, std::int64_t index);
+
+// Content octets of a primitive value, as they stand in its encoding; of an ANY the whole encoding.
+std::vector<std::uint8_t> octets_of(std::int64_t type_id, const void *value);
+// The dotted text of an OBJECT IDENTIFIER.
+std::string oid_text(const void *value);
+
+}  // namespace quarn::cli
+
+#endif

@@ -1,0 +1,226 @@
+#!/usr/bin/env python3
+"""`quarn decode`: typed values for people and for programs. Environment: as for test_quarn.py."""
+
+import json
+import shutil
+import subprocess
+import unittest
+
+from test_quarn import QUARN, Case, Run
+
+LEAVES = [  # type, octets, line for people, JSON
+    ("integer", "020105", "INTEGER 5", 5),
+    ("integer", "0201ff", "INTEGER -1", -1),
+    ("integer", "02071fffffffffffff", "INTEGER 9007199254740991", 9007199254740991),
+    ("integer", "020720000000000000", "INTEGER 9007199254740992", "0x20000000000000"),
+    ("integer", "02090080000000000000ff", "INTEGER 0x80000000000000ff (9 octets)", "0x80000000000000ff"),
+    ("integer", "0209ff0000000000000000", "INTEGER -0x10000000000000000 (9 octets)", "-0x10000000000000000"),
+    ("enumerated", "0a0101", "ENUMERATED 1", {"number": 1}),
+    ("boolean", "0101ff", "BOOLEAN TRUE", True),
+    ("null", "0500", "NULL", None),
+    ("oid", "0603550403", "OID 2.5.4.3 commonName", {"oid": "2.5.4.3", "name": "commonName"}),
+    ("oid", "060388370a", "OID 2.999.10", {"oid": "2.999.10"}),
+    ("octetstring", "04020a0b", "OCTET STRING (2 octets) 0A 0B", "0a0b"),
+    ("bitstring", "030205a0", "BIT STRING (3 bits) '101'B", {"bits": 3, "hex": "a0"}),
+    ("Time", "170d3439313233313233353935395a", "UTCTime 2049-12-31T23:59:59Z", "2049-12-31T23:59:59Z"),
+    ("Time", "18153230323630313031313230303030" + "2e352b30313030",
+     "GeneralizedTime 2026-01-01T12:00:00.5+01:00", "2026-01-01T12:00:00.5+01:00"),
+    ("DirectoryString", "1e0400e4202e", "BMPString 'ä\\u{202E}'", "ä\u202e"),
+    ("DirectoryString", "1401e4", "TeletexString '\\xE4'", {"hex": "e4"}),
+    ("utf8string", "0c02ff61", "UTF8String '\\xFFa'", {"hex": "ff61"}),
+    ("GeneralName", "8704c0000201", "iPAddress: OCTET STRING 192.0.2.1", {"iPAddress": "192.0.2.1"}),
+    ("GeneralName", "87080a000000ff000000", "iPAddress: OCTET STRING 10.0.0.0/255.0.0.0",
+     {"iPAddress": "10.0.0.0/255.0.0.0"}),
+    ("GeneralName", "8703c00002", "iPAddress: OCTET STRING (3 octets) C0 00 02", {"iPAddress": "c00002"}),
+    ("any", "30020500", "SEQUENCE", {"type": "SEQUENCE", "value": [{"type": "NULL"}]}),
+]
+
+CONFIG = """[req]
+distinguished_name=name
+x509_extensions=v3
+prompt=no
+utf8=yes
+string_mask=utf8only
+[name]
+C=DE
+O=Ex, <A>
+CN=a\x1b[31m\u202e
+[v3]
+keyUsage=critical,keyCertSign,cRLSign
+basicConstraints=CA:TRUE,pathlen:0
+subjectAltName=DNS:example.org,IP:2001:db8::1,otherName:1.3.6.1.4.1.311.20.2.3;UTF8:u
+certificatePolicies=@policy
+nameConstraints=permitted;IP:10.0.0.0/255.0.0.0
+crlDistributionPoints=point
+[policy]
+policyIdentifier=1.2.3
+CPS.1=http://cps
+userNotice.1=@notice
+[notice]
+explicitText=UTF8:notice
+[point]
+fullname=URI:http://crl
+reasons=keyCompromise
+"""
+CERTIFICATE_LINES = r"""version               INTEGER 2 (v3)
+serialNumber          INTEGER 0x123456789abcdef012 (9 octets)
+subject               Name CN=a\1B[31m\E2\80\AE,O=Ex\, \<A\>,C=DE
+[2]  2.5.4.3 commonName: UTF8String 'a\u{1B}[31m\u{202E}'
+extnValue  OCTET STRING holds BIT STRING keyCertSign, cRLSign (7 bits) '0000011'B
+critical   BOOLEAN FALSE (default)
+[1]  iPAddress: OCTET STRING 2001:db8::1
+value    UTF8String 'u'
+algorithm   OID 1.3.6.1.5.5.7.2.1 cps (policy qualifier: certification practice statement)
+parameters  IA5String 'http://cps'
+explicitText  UTF8String 'notice'
+base     iPAddress: OCTET STRING 10.0.0.0/255.0.0.0
+distributionPoint  fullName: GeneralNames, 1 element
+reasons            BIT STRING keyCompromise (2 bits) '01'B""".splitlines()
+
+
+def extension(value, oid="551d0f"):
+    body = bytes.fromhex("06") + bytes([len(oid) // 2]) + bytes.fromhex(oid)
+    body += b"\x04" + bytes([len(value)]) + value
+    return b"\x30" + bytes([len(body)]) + body
+
+
+class Values(Case):
+    def test_leaves_for_people_and_for_programs(self):
+        for name, octets, line, value in LEAVES:
+            with self.subTest(octets):
+                run = Run("decode", "-t", name, data=bytes.fromhex(octets))
+                self.check(run, 0)
+                self.assertEqual(run.lines[0], line)
+                run = Run("decode", "-t", name, "--json", data=bytes.fromhex(octets))
+                self.assertEqual(json.loads(run.out), value)
+
+    def test_components_have_names_and_defaults_are_marked(self):
+        octets = extension(bytes.fromhex("03020106"))
+        run = Run("decode", data=octets)
+        self.check(run, 0, "--type could also be AlgorithmIdentifier")
+        self.assertEqual(run.lines, [
+            "Extension", "  extnID     OID 2.5.29.15 keyUsage", "  critical   BOOLEAN FALSE (default)",
+            "  extnValue  OCTET STRING holds BIT STRING keyCertSign, cRLSign (7 bits) '0000011'B"])
+        for arguments in (["--json"], ["--compact"]):
+            value = json.loads(Run("decode", "-t", "36", *arguments, data=octets).out)
+            self.assertEqual(value, {
+                "extnID": {"oid": "2.5.29.15", "name": "keyUsage"}, "critical": False,
+                "extnValue": {"hex": "03020106", "type": "BIT STRING",
+                              "value": {"bits": 7, "hex": "06", "names": ["keyCertSign", "cRLSign"]}}})
+
+    def test_values_that_cannot_be_opened_are_shown_as_elements(self):
+        for octets, oid, line, value in [
+                ("0c0161", "2a03", "holds", {"hex": "0c0161", "element": {"type": "UTF8STRING", "value": "a"}}),
+                ("01", "2a03", "(1 octet) 01", {"hex": "01"}),
+                ("0c0161", "551d13", "holds (no BasicConstraints: offset 1: incorrect item)",
+                 {"hex": "0c0161", "error": "no BasicConstraints: offset 1: incorrect item",
+                  "element": {"type": "UTF8STRING", "value": "a"}}),
+                ("300005", "551d13", "(3 octets) 30 00 05 (no BasicConstraints: 1 octet after its end)",
+                 {"hex": "300005", "error": "no BasicConstraints: 1 octet after its end"})]:
+            with self.subTest(octets + oid):
+                data = extension(bytes.fromhex(octets), oid)
+                shown = Run("decode", "-t", "Extension", data=data).lines
+                self.assertEqual(shown[3].strip(), "extnValue  OCTET STRING " + line)
+                self.assertEqual(shown[4:], ["    UTF8String 'a'"] if "holds" in line else [])
+                found = json.loads(Run("decode", "-t", "Extension", "--json", data=data).out)
+                self.assertEqual(found["extnValue"], value)
+
+    def test_nothing_hidden_reaches_the_terminal(self):
+        text = "a\x1b[31m\u202eb\x7f".encode() + b"\xff"
+        data = b"\x30" + bytes([len(text) + 2]) + b"\x82" + bytes([len(text)]) + text
+        for arguments in ([], ["--json"], ["--lines"]):
+            out = Run("decode", "-t", "GeneralNames", *arguments, data=data).raw
+            self.assertNotIn("\u202e".encode(), out)
+            for octet in out:
+                self.assertTrue(octet == 10 or octet >= 32 and octet != 127, arguments)
+
+    def test_deep_values_end_well_on_a_small_stack(self):
+        depth = 100000
+        inner = b"\x30\x80" * depth + b"\0\0" * depth
+        length = len(inner).to_bytes(4, "big")
+        data = b"\x30\x80\x06\x02\x2a\x03\x04\x84" + length + inner + b"\0\0"
+        for arguments in ([], ["--json"]):
+            done = subprocess.run(["sh", "-c", 'ulimit -s 256; exec "$0" "$@"', QUARN,
+                                   "decode", "-t", "Extension", *arguments],
+                                  input=data, capture_output=True, timeout=300, check=False)
+            self.assertEqual((done.returncode, done.stderr), (0, b""))
+            self.assertGreater(len(done.stdout), depth)
+
+
+class Types(Case):
+    def test_types_are_named_in_every_way(self):
+        for name in ("Extensions", "extensions", "x509extensions", "37"):
+            self.check(Run("decode", "--type", name, data=b"\x30\0"), 0)
+        for name, text in [("Extensons", "did you mean 'Extensions'?"), ("421", "'quarn types' lists them"),
+                           ("ldapmessage", "cannot decode"), ("\x1b", "'\\u{1B}'")]:
+            self.check(Run("decode", "--type", name, data=b"\x30\0"), 2, text)
+
+    def test_what_fits_no_type_or_not_the_one_named_is_explained(self):
+        data = bytes.fromhex("300a0203010203" + "0c03616263")
+        run = Run("decode", data=data)
+        self.check(run, 1, "none of the", "tried     ", "offset 2", "found INTEGER")
+        self.assertEqual(run.lines, ["SEQUENCE", "  INTEGER 66051", "  UTF8String 'abc'"])
+        self.assertEqual(Run("decode", "--json", data=data).out, "")
+        error = Run("decode", "--lines", data=data).records()[0]["error"]
+        self.assertIn({"offset": 2}, [{"offset": each["offset"]} for each in error["tried"]])
+        run = Run("decode", "-t", "Extension", data=data)
+        self.check(run, 1, "offset 2 (0x2): found INTEGER", "path      extnID",
+                   "expected  OBJECT IDENTIFIER, in a value of Extension", "0x1020a")
+        self.check(Run("decode", data=b"\x30\x05\x02\x01"), 1, "expected  at most 0 octets")
+
+    def test_labels_tell_the_type(self):
+        pem = self.file("a.pem", "-----BEGIN PUBLIC KEY-----\nMAA=\n-----END PUBLIC KEY-----\n"
+                                 "-----BEGIN X-----\nMAA=\n-----END X-----\n")
+        records = Run("decode", "--lines", pem).records()
+        self.assertEqual(len(records[0]["error"]["tried"]), 1)
+        self.assertEqual((records[1]["type"], records[1]["value"]),
+                         ("Name", {"rfc4514": "", "rdnSequence": []}))
+
+    @unittest.skipUnless(shutil.which("openssl"), "no openssl to make certificates with")
+    def test_certificates_and_requests_of_openssl(self):
+        config = self.file("config", CONFIG)
+        for command in (f"req -x509 -newkey rsa:1024 -nodes -keyout key -config {config} -days 9 -out cert "
+                        "-set_serial 0x123456789abcdef012",
+                        f"req -new -key key -config {config} -reqexts v3 -out req"):
+            subprocess.run(["openssl", *command.split()], check=True, capture_output=True, cwd=self.path)
+        cert = str(self.path / "cert")
+        run = Run("decode", cert)
+        self.check(run, 0)
+        lines = [line.strip() for line in run.lines]
+        for line in CERTIFICATE_LINES:
+            self.assertIn(line, lines)
+        self.assertNotIn("(no ", run.out)
+        tbs = json.loads(Run("decode", "--json", cert).out)["tbsCertificate"]
+        self.assertEqual((tbs["version"], tbs["serialNumber"], tbs["subject"]["rfc4514"]),
+                         (2, "0x123456789abcdef012", r"CN=a\1B[31m\E2\80\AE,O=Ex\, \<A\>,C=DE"))
+        values = {each["extnID"]["name"]: each["extnValue"]["value"] for each in tbs["extensions"]}
+        self.assertEqual(values["subjectAltName"][:2], [{"dNSName": "example.org"}, {"iPAddress": "2001:db8::1"}])
+        self.assertEqual(values["keyUsage"]["names"], ["keyCertSign", "cRLSign"])
+        self.assertEqual(values["cRLDistributionPoints"][0]["reasons"]["names"], ["keyCompromise"])
+        request = json.loads(Run("decode", "--json", str(self.path / "req")).out)
+        opened = request["certificationRequestInfo"]["attributes"][0]["values"][0]
+        self.assertEqual((opened["type"], len(opened["value"])), ("Extensions", 6))
+
+        der = subprocess.run(["openssl", "x509", "-in", cert, "-outform", "DER"], check=True,
+                             capture_output=True).stdout
+        at = der.index(b"\x17\x0d")
+        run = Run("decode", data=der[:at] + b"\x16" + der[at + 1:])
+        self.check(run, 1, f"Certificate: offset {at}: tbsCertificate.validity.notBefore: found IA5String")
+        self.assertEqual(run.lines[0], "SEQUENCE")
+
+    @unittest.skipUnless(shutil.which("openssl"), "no openssl to make keys with")
+    def test_keys_of_openssl(self):
+        key = subprocess.run("openssl genpkey -algorithm RSA -pkeyopt rsa_keygen_bits:1024 | "
+                             "openssl pkey -pubout", shell=True, capture_output=True, check=True).stdout
+        run = Run("decode", data=key)
+        self.check(run, 0)
+        self.assertIn("    algorithm   OID 1.2.840.113549.1.1.1 rsaEncryption", run.lines)
+        value = json.loads(Run("decode", "--json", data=key).out)
+        self.assertEqual(value["algorithm"], {"algorithm": {"oid": "1.2.840.113549.1.1.1",
+                                                            "name": "rsaEncryption"},
+                                              "parameters": {"type": "NULL"}})
+        self.assertIn("hex", value["subjectPublicKey"])
+
+
+if __name__ == "__main__":
+    unittest.main()

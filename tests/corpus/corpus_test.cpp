@@ -1,0 +1,176 @@
+// Real files: whatever make_corpus.py made, and the certificates that this machine trusts. Each
+// comes back octet for octet, from what a value keeps and from its components alone.
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <string>
+
+#include "core/engine.h"
+#include "quarn_asn1.h"
+#include "tests/support/allocation.h"
+#include "tests/support/streams.h"
+
+namespace quarn::test {
+namespace {
+
+using Octets = std::vector<std::uint8_t>;
+
+struct FreeBlob {
+  void operator()(quarn_data_blob *blob) const { quarn_data_blob_free(blob); }
+};
+
+Octets encoding_of(std::int64_t type, void *value) {
+  const std::unique_ptr<quarn_data_blob, FreeBlob> blob(quarn_asn1_mem_encode(type, value));
+  return blob == nullptr ? Octets() : Octets(blob->data, blob->data + blob->length);
+}
+
+// The value encodes to the octets, as it is and once it keeps none of them.
+void check_encoding(std::int64_t type, void *value, const Octets &octets) {
+  EXPECT_EQ(quarn_asn1_length(type, value), static_cast<std::int64_t>(octets.size()));
+  EXPECT_EQ(encoding_of(type, value), octets) << "with what it keeps";
+  asn1::drop_kept(*asn1::find_type(type), value);
+  EXPECT_EQ(quarn_asn1_length(type, value), static_cast<std::int64_t>(octets.size()));
+  EXPECT_EQ(encoding_of(type, value), octets) << "with nothing kept";
+}
+
+void check_from_stream(std::int64_t type, const Stream &stream, const Octets &octets) {
+  void *value = nullptr;
+  std::uint64_t consumed = 0;
+  ASSERT_EQ(quarn_asn1_decode(stream.get(), type, &value, &consumed, nullptr), 1);
+  EXPECT_EQ(consumed, octets.size());
+  void *copy = quarn_asn1_dupobject(type, value, nullptr);
+  ASSERT_NE(copy, nullptr);
+  check_encoding(type, value, octets);
+  quarn_asn1_value_free(type, value);
+  check_encoding(type, copy, octets);
+  quarn_asn1_value_free(type, copy);
+}
+
+void check_file(std::int64_t type, const Octets &octets) {
+  check_from_stream(type, memory_stream(octets), octets);
+  SlowSource slow(octets);
+  check_from_stream(type, slow.stream(), octets);
+}
+
+// The types of what extensions hold (RFC 5280, RFC 3739, RFC 5755).
+const std::map<std::string, std::int64_t> kHeldTypes = {
+    {"2.5.29.9", QUARN_ASN1_X509SUBJECTDIRATTRS},
+    {"2.5.29.14", QUARN_ASN1_OCTETSTRING},
+    {"2.5.29.15", QUARN_ASN1_BITSTRING},
+    {"2.5.29.16", QUARN_ASN1_X509PRIVKEYUSAGEPERIOD},
+    {"2.5.29.17", QUARN_ASN1_X509GENERALNAMES},
+    {"2.5.29.18", QUARN_ASN1_X509GENERALNAMES},
+    {"2.5.29.19", QUARN_ASN1_X509BASICCONSTRAINTS},
+    {"2.5.29.20", QUARN_ASN1_INTEGER},
+    {"2.5.29.21", QUARN_ASN1_ENUMERATED},
+    {"2.5.29.23", QUARN_ASN1_OID},
+    {"2.5.29.24", QUARN_ASN1_GENTIME},
+    {"2.5.29.27", QUARN_ASN1_INTEGER},
+    {"2.5.29.28", QUARN_ASN1_PKIXIDP},
+    {"2.5.29.29", QUARN_ASN1_X509GENERALNAMES},
+    {"2.5.29.30", QUARN_ASN1_PKIXNAMECONSTAINTS},
+    {"2.5.29.31", QUARN_ASN1_X509CRLDP},
+    {"2.5.29.32", QUARN_ASN1_X509CERTPOLICIES},
+    {"2.5.29.33", QUARN_ASN1_X509POLICYMAPPINGS},
+    {"2.5.29.35", QUARN_ASN1_X509AKID},
+    {"2.5.29.36", QUARN_ASN1_X509POLICYCONSTAINTS},
+    {"2.5.29.37", QUARN_ASN1_X509EXKEYUSAGE},
+    {"2.5.29.46", QUARN_ASN1_X509CRLDP},
+    {"2.5.29.54", QUARN_ASN1_INTEGER},
+    {"2.5.29.55", QUARN_ASN1_AC_SEQOFTARGETS},
+    {"2.5.29.56", QUARN_ASN1_NULL},
+    {"1.3.6.1.5.5.7.1.1", QUARN_ASN1_PKIXAIA},
+    {"1.3.6.1.5.5.7.1.3", QUARN_ASN1_QCSTATEMENTS},
+    {"1.3.6.1.5.5.7.1.11", QUARN_ASN1_PKIXAIA},
+};
+
+// Calls visit(oid, octets held) for every extension anywhere in a value.
+template <typename Visit>
+void for_each_extension(std::int64_t type, const void *value, Visit visit) {
+  if (type == QUARN_ASN1_X509EXTENSION) {
+    quarn_asn1_component oid{};
+    quarn_asn1_component held{};
+    ASSERT_EQ(quarn_asn1_component_get(type, value, 0, &oid), 1);
+    ASSERT_EQ(quarn_asn1_component_get(type, value, 2, &held), 1);
+    const Octets whole = encoding_of(held.type_id, held.value);
+    quarn_asn1_header header{};
+    ASSERT_EQ(quarn_asn1_mem_header(whole.data(), static_cast<std::int64_t>(whole.size()), &header),
+              1);
+    visit(quarn_asn1_oid_getstring(static_cast<quarn_asn1_oid *>(oid.value)),
+          Octets(whole.begin() + static_cast<std::ptrdiff_t>(header.header_length), whole.end()));
+    return;
+  }
+  const std::int64_t count = quarn_asn1_component_count(type, value);
+  for (std::int64_t i = 0; i < count; i++) {
+    quarn_asn1_component part{};
+    if (quarn_asn1_component_get(type, value, i, &part) != 1 || part.value == nullptr) continue;
+    for_each_extension(part.type_id, part.value, visit);
+  }
+}
+
+// Counts what was checked, and says so.
+class Corpus : public ::testing::Test {
+ protected:
+  ~Corpus() override {
+    const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start_;
+    std::printf("corpus: %d objects and %d extensions came back in %.1f s\n", objects_, extensions_,
+                passed.count());
+    EXPECT_EQ(allocation_.live_blocks(), 0);
+  }
+
+  void check(std::int64_t type, const Octets &octets) {
+    check_file(type, octets);
+    void *value = nullptr;
+    const auto size = static_cast<std::int64_t>(octets.size());
+    ASSERT_EQ(quarn_asn1_mem_decode(octets.data(), size, type, &value), size);
+    for_each_extension(type, value, [this](const std::string &oid, const Octets &held) {
+      const auto known = kHeldTypes.find(oid);
+      if (known == kHeldTypes.end()) return;
+      SCOPED_TRACE("extension " + oid);
+      check_file(known->second, held);
+      extensions_++;
+    });
+    quarn_asn1_value_free(type, value);
+    objects_++;
+  }
+
+  int objects() const { return objects_; }
+
+ private:
+  Allocation allocation_;
+  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+  int objects_ = 0;
+  int extensions_ = 0;
+};
+
+Octets read_file(const std::filesystem::path &path) {
+  std::ifstream file(path, std::ios::binary);
+  return Octets(std::istreambuf_iterator<char>(file), {});
+}
+
+TEST_F(Corpus, every_file_comes_back_octet_for_octet) {
+  const char *folder = std::getenv("QUARN_CORPUS");
+  if (folder == nullptr) GTEST_SKIP() << "QUARN_CORPUS names no corpus";
+  for (const std::int64_t type : {QUARN_ASN1_X509PUBKEYCERT, QUARN_ASN1_X509CRL,
+                                  QUARN_ASN1_PKCS10CERTREQ, QUARN_ASN1_ATTRIBUTECERTIFICATE}) {
+    quarn_asn1_type_description description{};
+    ASSERT_EQ(quarn_asn1_type_describe(type, &description), 1);
+    int files = 0;
+    for (const auto &entry :
+         std::filesystem::directory_iterator(std::filesystem::path(folder) / description.name)) {
+      SCOPED_TRACE(entry.path().string());
+      check(type, read_file(entry.path()));
+      files++;
+    }
+    EXPECT_GE(files, type == QUARN_ASN1_X509PUBKEYCERT ? 300 : 20) << description.name;
+  }
+}
+
+}  // namespace
+}  // namespace quarn::test

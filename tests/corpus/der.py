@@ -1,0 +1,102 @@
+"""A small builder and reader of DER, so that the corpus needs no word of the library it tests."""
+
+import subprocess
+
+
+def wrap(identifier, *parts):
+    """One element: identifier octet (or octets), then the parts as its content."""
+    content = b"".join(parts)
+    size = len(content)
+    long = size.to_bytes((size.bit_length() + 7) // 8, "big")
+    length = bytes([size]) if size < 128 else bytes([0x80 | len(long)]) + long
+    return (bytes([identifier]) if isinstance(identifier, int) else identifier) + length + content
+
+
+def sequence(*parts):
+    return wrap(0x30, *parts)
+
+
+def set_of(*parts):
+    return wrap(0x31, *sorted(parts))
+
+
+def context(number, *parts, primitive=False):
+    return wrap((0x80 if primitive else 0xA0) | number, *parts)
+
+
+def integer(value, identifier=2):
+    return wrap(identifier, value.to_bytes((value + (value < 0)).bit_length() // 8 + 1, "big", signed=True))
+
+
+def oid(text):
+    first, second, *rest = map(int, text.split("."))
+    content = b""
+    for arc in [first * 40 + second, *rest]:
+        groups = [arc & 0x7F]
+        while arc := arc >> 7:
+            groups.insert(0, 0x80 | arc & 0x7F)
+        content += bytes(groups)
+    return wrap(6, content)
+
+
+def octet_string(octets):
+    return wrap(4, octets)
+
+
+def bit_string(octets, unused=0, identifier=3):
+    return wrap(identifier, bytes([unused]), octets)
+
+
+def text(words, identifier=0x0C):
+    """A character string; the identifier chooses the type: UTF8String if none is given."""
+    codings = {0x1E: "utf-16-be", 0x1C: "utf-32-be", 0x0C: "utf-8"}
+    return wrap(identifier, words.encode(codings.get(identifier, "latin-1")))
+
+
+def time(digits):
+    """UTCTime or GeneralizedTime, by the number of digits."""
+    return wrap(0x17 if len(digits) == 13 else 0x18, digits.encode())
+
+
+def boolean(value):
+    return wrap(1, b"\xff" if value else b"\0")
+
+
+def rdn(*values):
+    return set_of(*[sequence(oid(kind), value) for kind, value in values])
+
+
+def name(*rdns):
+    return sequence(*rdns)
+
+
+def extension(kind, value, critical=False):
+    return sequence(oid(kind), boolean(True) if critical else b"", octet_string(value))
+
+
+class Element:
+    """One element that is read: identifier octet, content, all octets of it."""
+
+    def __init__(self, octets, at=0):
+        self.identifier = octets[at]
+        size, start = octets[at + 1], at + 2
+        if size & 0x80:
+            start += size & 0x7F
+            size = int.from_bytes(octets[at + 2:start], "big")
+        self.content, self.octets = octets[start:start + size], octets[at:start + size]
+
+    def parts(self):
+        at, found = 0, []
+        while at < len(self.content):
+            found.append(Element(self.content, at))
+            at += len(found[-1].octets)
+        return found
+
+
+def openssl(*arguments, cwd=None, data=b""):
+    """Runs the command; its output, or an error that shows what it says."""
+    done = subprocess.run(["openssl", *map(str, arguments)], input=data, capture_output=True, cwd=cwd,
+                          timeout=60, check=False)
+    if done.returncode != 0:
+        raise RuntimeError(f"openssl {' '.join(map(str, arguments))}: {done.stderr.decode()}")
+    return done.stdout

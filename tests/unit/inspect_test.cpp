@@ -1,0 +1,117 @@
+// Reflection: types and values as callers see them who know no type.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "quarn_asn1.h"
+#include "tests/laws/samples.h"
+
+namespace quarn::asn1 {
+namespace {
+
+using Octets = std::vector<std::uint8_t>;
+
+// The value as one line: "{extnID=OBJECT IDENTIFIER critical~BOOLEAN extnValue=OCTET STRING}", with
+// ~ before defaults, - for absent components, [] for lists, and name:type for a CHOICE.
+std::string outline(std::int64_t type_id, const void *value) {
+  quarn_asn1_shape shape{};
+  if (quarn_asn1_type_shape(type_id, &shape) != 1) return "?";
+  if (shape.kind == QUARN_ASN1_KIND_PRIMITIVE) return shape.name;
+  const std::int64_t count = quarn_asn1_component_count(type_id, value);
+  std::string text;
+  for (std::int64_t i = 0; i < count; i++) {
+    quarn_asn1_component part{};
+    EXPECT_EQ(quarn_asn1_component_get(type_id, value, i, &part), 1);
+    const std::string inner = part.value == nullptr ? "" : outline(part.type_id, part.value);
+    if (shape.kind == QUARN_ASN1_KIND_LIST) {
+      text += " " + inner;
+    } else if (shape.kind == QUARN_ASN1_KIND_RECORD) {
+      text += std::string(" ") + part.name;
+      text += part.value == nullptr ? "-" : (part.is_default == 1 ? "~" : "=") + inner;
+      EXPECT_TRUE(part.value != nullptr || part.optional == 1);
+    } else {
+      return std::string(part.name) + ":" + inner;
+    }
+  }
+  return shape.kind == QUARN_ASN1_KIND_LIST ? "[" + text + " ]" : "{" + text + " }";
+}
+
+std::string outline(std::int64_t type_id, const Octets &octets) {
+  void *value = nullptr;
+  const auto count = static_cast<std::int64_t>(octets.size());
+  EXPECT_EQ(quarn_asn1_mem_decode(octets.data(), count, type_id, &value), count);
+  std::string text = outline(type_id, value);
+  quarn_asn1_value_free(type_id, value);
+  return text;
+}
+
+TEST(Inspect, every_kind_of_value_shows_its_components) {
+  const struct {
+    std::int64_t id;
+    Octets octets;
+    const char *expected;
+  } rows[] = {
+      {QUARN_ASN1_X509BASICCONSTRAINTS, {0x30, 0x00}, "{ cA~BOOLEAN pathLenConstraint- }"},
+      {QUARN_ASN1_X509BASICCONSTRAINTS,
+       {0x30, 0x06, 0x01, 0x01, 0xFF, 0x02, 0x01, 0x00},
+       "{ cA=BOOLEAN pathLenConstraint=INTEGER }"},
+      {QUARN_ASN1_X509ALGORITHMID,
+       {0x30, 0x06, 0x06, 0x02, 0x2A, 0x03, 0x05, 0x00},
+       "{ algorithm=OBJECT IDENTIFIER parameters=ANY }"},
+      {QUARN_ASN1_X509GENERALNAMES,
+       {0x30, 0x06, 0x82, 0x01, 'a', 0x88, 0x01, 0x2A},
+       "[ dNSName:IA5String registeredID:OBJECT IDENTIFIER ]"},
+      {QUARN_ASN1_X500DIRSTRING, {0x13, 0x01, 'a'}, "printableString:PrintableString"},
+      {QUARN_ASN1_ANYLIST, {0x30, 0x04, 0x05, 0x00, 0x30, 0x00}, "[ ANY ANY ]"},
+      {QUARN_ASN1_ANYLIST, {0x30, 0x00}, "[ ]"},
+      {QUARN_ASN1_LDAPABANDONREQUEST, {0x50, 0x01, 0x05}, "INTEGER"},
+      {QUARN_ASN1_RELATIVE_OID, {0x0D, 0x01, 0x05}, "RELATIVE-OID"},
+  };
+  for (const auto &[id, octets, expected] : rows) EXPECT_EQ(outline(id, octets), expected);
+
+  const std::string utc =
+      "\x17\x0D"
+      "260101000000Z";
+  EXPECT_EQ(outline(QUARN_ASN1_TIME, Octets(utc.begin(), utc.end())), "utcTime:UTCTime");
+  const std::string general =
+      "\x18\x0F"
+      "20260101000000Z";
+  EXPECT_EQ(outline(QUARN_ASN1_TIME, Octets(general.begin(), general.end())),
+            "generalTime:GeneralizedTime");
+}
+
+TEST(Inspect, every_sample_can_be_walked_to_its_leaves) {
+  for (const test::Vector &sample : test::samples(4096)) {
+    void *value = nullptr;
+    const auto count = static_cast<std::int64_t>(sample.in.size());
+    if (quarn_asn1_mem_decode(sample.in.data(), count, sample.type, &value) < 0) continue;
+    EXPECT_EQ(outline(sample.type, value).find('?'), std::string::npos) << sample.name;
+    quarn_asn1_value_free(sample.type, value);
+  }
+}
+
+TEST(Inspect, every_type_has_a_name_and_what_it_cannot_show_is_nothing) {
+  quarn_asn1_shape shape{};
+  for (std::int64_t id = 0; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    quarn_asn1_type_description type{};
+    ASSERT_EQ(quarn_asn1_type_describe(id, &type), 1);
+    ASSERT_EQ(quarn_asn1_type_shape(id, &shape), 1);
+    EXPECT_STRNE(shape.name, "");
+    EXPECT_EQ(shape.kind != QUARN_ASN1_KIND_UNKNOWN, type.supported == 1) << type.name;
+    EXPECT_EQ(quarn_asn1_component_count(id, nullptr), 0);
+  }
+  EXPECT_EQ(quarn_asn1_type_shape(-1, &shape), 0);
+  EXPECT_EQ(quarn_asn1_type_shape(QUARN_ASN1_TYPE_COUNT, &shape), 0);
+  EXPECT_EQ(quarn_asn1_type_shape(QUARN_ASN1_TIME, nullptr), 0);
+
+  quarn_asn1_list *list = quarn_asn1_list_new();
+  quarn_asn1_component part{};
+  EXPECT_EQ(quarn_asn1_component_get(QUARN_ASN1_ANYLIST, list, 0, &part), 0);
+  EXPECT_EQ(quarn_asn1_component_get(QUARN_ASN1_ANYLIST, list, -1, &part), 0);
+  EXPECT_EQ(quarn_asn1_component_get(-1, list, 0, &part), 0);
+  quarn_asn1_anylist_free(list);
+}
+
+}  // namespace
+}  // namespace quarn::asn1
