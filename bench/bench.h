@@ -33,6 +33,18 @@ struct Case {
   double allocations =
       -1;  // allocations that an operation must make, no more and no fewer; -1: any
   std::string reference = "";  // the case to compare with; the first of the question when empty
+  std::size_t operations = 0;  // that the work does; 0: those of the question
+};
+
+enum class Measure { kTime, kAllocations, kPeak };
+
+// A demand that the table of a question has no column for. Times and allocations are those of an
+// operation, the peak is that of the whole work.
+struct Comparison {
+  std::string of;
+  std::string reference = "";  // to compare with a figure instead of a case when empty
+  double at_most;
+  Measure measure = Measure::kTime;
 };
 
 struct Question {
@@ -40,6 +52,8 @@ struct Question {
   std::string operation;  // what times and allocations are counted for: "certificate"
   std::size_t operations;
   std::vector<Case> cases;
+  std::vector<Comparison> comparisons = {};
+  std::vector<std::string> notes = {};  // what the reader of the figures must know
 };
 
 Question element_walk();
@@ -48,6 +62,7 @@ Question text_of_certificates();
 Question json_printing();
 Question json_to_der();
 Question small_values();
+std::vector<Question> typed_values();
 
 // Time and memory on hostile input of doubling sizes and memory on real input, printed. False when
 // a limit is passed.
@@ -56,6 +71,8 @@ bool growth(bool quick);
 // The certificates of Debian's ca-certificates as DER.
 const std::vector<Octets> &certificates();
 std::size_t octets_of_certificates();
+// What certificates.sh has made: all DER of a kind, which is the end of the file names.
+std::vector<Octets> generated(const std::string &kind);
 
 // What was allocated between the start of a count and now. One count runs at a time.
 struct Memory {

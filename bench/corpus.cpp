@@ -1,4 +1,4 @@
-// The certificates that are measured: those that every Debian system has.
+// The certificates that are measured: those that every Debian system has, and generated ones.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -13,30 +13,41 @@ namespace {
 
 constexpr const char *kFolder = "/usr/share/ca-certificates/mozilla";
 
-Octets certificate(const std::string &path) {
+Octets contents(const std::string &path) {
   quarn_data_blob *file = quarn_data_blob_fromfile(path.c_str(), nullptr);
   require(file != nullptr, "read " + path);
+  Octets all(file->data, file->data + file->length);
+  quarn_data_blob_free(file);
+  return all;
+}
+
+Octets certificate(const std::string &path) {
+  const Octets file = contents(path);
   std::uint8_t *octets = nullptr;
   std::int64_t count = 0;
-  const int result = quarn_pemdecode("CERTIFICATE", reinterpret_cast<const char *>(file->data),
-                                     file->length, &octets, &count);
-  quarn_data_blob_free(file);
+  const int result = quarn_pemdecode("CERTIFICATE", reinterpret_cast<const char *>(file.data()),
+                                     static_cast<std::int64_t>(file.size()), &octets, &count);
   require(result == 1, "find a certificate in " + path);
   Octets der(octets, octets + count);
   quarn_free(octets);
   return der;
 }
 
-std::vector<Octets> read_certificates() {
+// The files of a folder whose names end in so, in the order of their names.
+std::vector<std::string> files(const std::string &folder, const std::string &ending) {
   std::vector<std::string> paths;
   std::error_code error;
-  for (const auto &entry : std::filesystem::directory_iterator(kFolder, error)) {
-    if (entry.path().extension() == ".crt") paths.push_back(entry.path());
+  for (const auto &entry : std::filesystem::directory_iterator(folder, error)) {
+    if (entry.path().extension() == ending) paths.push_back(entry.path());
   }
-  require(!paths.empty(), std::string("find certificates in ") + kFolder);
+  require(!paths.empty(), "find " + ending + " files in " + folder);
   std::sort(paths.begin(), paths.end());
+  return paths;
+}
+
+std::vector<Octets> read_certificates() {
   std::vector<Octets> all;
-  for (const std::string &path : paths) all.push_back(certificate(path));
+  for (const std::string &path : files(kFolder, ".crt")) all.push_back(certificate(path));
   return all;
 }
 
@@ -51,6 +62,14 @@ std::size_t octets_of_certificates() {
   std::size_t sum = 0;
   for (const Octets &der : certificates()) sum += der.size();
   return sum;
+}
+
+std::vector<Octets> generated(const std::string &kind) {
+  std::vector<Octets> all;
+  for (const std::string &path : files(QUARN_BENCH_CORPUS, "." + kind)) {
+    all.push_back(contents(path));
+  }
+  return all;
 }
 
 Octets element(std::uint8_t identifier, const Octets &content) {

@@ -1,4 +1,4 @@
-// 6. Growth: do time and memory stay in proportion when hostile input doubles, and how much memory
+// 7. Growth: do time and memory stay in proportion when hostile input doubles, and how much memory
 // does real input take?
 #include <malloc.h>
 
@@ -241,7 +241,7 @@ bool growth(bool quick) {
   mallopt(M_MMAP_THRESHOLD, 128 << 10);
   mallopt(M_TRIM_THRESHOLD, 128 << 10);
   std::printf(
-      "\n6. Growth on hostile input: milliseconds at %s octets, ratio of a "
+      "\n7. Growth on hostile input: milliseconds at %s octets, ratio of a "
       "doubling on average and at most (demanded: %.1f), octets held for one of input\n",
       quick ? "128, 256, 512 and 1024 Ki" : "1, 2, 4 and 8 Mi", kMostGrowth);
   bool good = true;

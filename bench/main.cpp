@@ -43,6 +43,11 @@ class Fastest : public benchmark::BenchmarkReporter {
   std::map<std::string, double> times_;
 };
 
+struct Results {
+  Fastest fastest;
+  std::map<std::string, Memory> memory;  // by full name
+};
+
 // Runs every case twice, the second time with its memory counted, and sees that all cases of a
 // question did the same.
 std::map<std::string, Memory> count_memory(const std::vector<Question> &questions) {
@@ -87,33 +92,76 @@ std::string verdict(double ratio, double at_most) {
   return text;
 }
 
-bool print_case(const Question &question, const Case &one, const Fastest &fastest, Memory memory) {
-  const auto operations = static_cast<double>(question.operations);
-  const double time = fastest.of(question, one);
+double operations_of(const Question &question, const Case &one) {
+  return static_cast<double>(one.operations == 0 ? question.operations : one.operations);
+}
+
+// What there is to say of a case. Times are not numbers when it was filtered out.
+double figure(const Results &results, const Question &question, const Case &one, Measure measure) {
+  const Memory &memory = results.memory.at(full_name(question, one));
+  switch (measure) {
+    case Measure::kTime:
+      return results.fastest.of(question, one) / operations_of(question, one);
+    case Measure::kAllocations:
+      return static_cast<double>(memory.allocations) / operations_of(question, one);
+    case Measure::kPeak:
+      return static_cast<double>(memory.peak);
+  }
+  return NAN;
+}
+
+bool print_case(const Results &results, const Question &question, const Case &one) {
+  const double time = figure(results, question, one, Measure::kTime);
   if (std::isnan(time)) return true;
-  const double ratio = time / fastest.of(question, reference_of(question, one));
-  const double allocations = static_cast<double>(memory.allocations) / operations;
+  const double ratio =
+      time / figure(results, question, reference_of(question, one), Measure::kTime);
+  const double allocations = figure(results, question, one, Measure::kAllocations);
   const bool wrong_count = one.allocations >= 0 && allocations != one.allocations;
-  std::printf("   %-46s %12.1f %9.3f  %-14s %10.1f%s %10.0f\n", one.name.c_str(), time / operations,
+  const Memory &memory = results.memory.at(full_name(question, one));
+  std::printf("   %-46s %12.1f %9.3f  %-14s %10.1f%s %10.0f %10lld\n", one.name.c_str(), time,
               ratio, verdict(ratio, one.at_most).c_str(), allocations, wrong_count ? " MISSED" : "",
-              static_cast<double>(memory.octets) / operations);
+              static_cast<double>(memory.octets) / operations_of(question, one),
+              static_cast<long long>(memory.peak));
   return !wrong_count && (one.at_most <= 0 || !(ratio > one.at_most));
 }
 
-bool print_table(const Question &question,
-                 const Fastest &fastest,
-                 const std::map<std::string, Memory> &memory) {
-  if (std::all_of(question.cases.begin(), question.cases.end(),
-                  [&](const Case &one) { return std::isnan(fastest.of(question, one)); })) {
-    return true;
+// False too when a case of it could not be measured: the demand is not shown to be met.
+bool print_comparison(const Results &results,
+                      const Question &question,
+                      const Comparison &comparison) {
+  const auto value = [&](const std::string &name) {
+    const auto at = std::find_if(question.cases.begin(), question.cases.end(),
+                                 [&](const Case &c) { return c.name == name; });
+    return at == question.cases.end() ? NAN : figure(results, question, *at, comparison.measure);
+  };
+  constexpr const char *kMeasures[] = {"time", "allocations", "peak"};
+  std::string text = comparison.of + ": " + kMeasures[static_cast<int>(comparison.measure)];
+  if (!comparison.reference.empty()) text += " to that of " + comparison.reference;
+  const double against = comparison.reference.empty() ? 1 : value(comparison.reference);
+  const double ratio = value(comparison.of) / against;
+  if (std::isnan(ratio)) {
+    std::printf("   %-68s  not measured\n", text.c_str());
+    return false;
   }
-  std::printf("\n%s\n   %-46s %12s %9s  %-14s %10s %10s\n", question.title.c_str(),
+  std::printf("   %-68s %.3f  %s\n", text.c_str(), ratio,
+              verdict(ratio, comparison.at_most).c_str());
+  return ratio <= comparison.at_most;
+}
+
+bool print_table(const Results &results, const Question &question) {
+  const bool filtered_out =
+      std::all_of(question.cases.begin(), question.cases.end(),
+                  [&](const Case &one) { return std::isnan(results.fastest.of(question, one)); });
+  if (filtered_out) return true;
+  std::printf("\n%s\n   %-46s %12s %9s  %-14s %10s %10s %10s\n", question.title.c_str(),
               ("for one " + question.operation).c_str(), "ns", "ratio", "demanded", "allocations",
-              "octets");
+              "octets", "most held");
   bool good = true;
-  for (const Case &one : question.cases) {
-    good = print_case(question, one, fastest, memory.at(full_name(question, one))) && good;
+  for (const Case &one : question.cases) good = print_case(results, question, one) && good;
+  for (const Comparison &comparison : question.comparisons) {
+    good = print_comparison(results, question, comparison) && good;
   }
+  for (const std::string &note : question.notes) std::printf("   %s\n", note.c_str());
   return good;
 }
 
@@ -138,20 +186,20 @@ int run(std::vector<std::string> arguments) {
   const bool quick = quick_flag != arguments.end();
   if (quick) arguments.erase(quick_flag);
   initialize(arguments, quick);
+  setvbuf(stdout, nullptr, _IOLBF, 0);
 
-  const std::vector<Question> questions = {element_walk(),  generic_tree(), text_of_certificates(),
-                                           json_printing(), json_to_der(),  small_values()};
   std::printf("%zu certificates of %zu octets on average\n", certificates().size(),
               octets_of_certificates() / certificates().size());
-  const std::map<std::string, Memory> memory = count_memory(questions);
+  std::vector<Question> questions = {element_walk(),  generic_tree(), text_of_certificates(),
+                                     json_printing(), json_to_der(),  small_values()};
+  for (Question &question : typed_values()) questions.push_back(std::move(question));
+  Results results;
+  results.memory = count_memory(questions);
   register_all(questions);
-  Fastest fastest;
   const std::string filter = benchmark::GetBenchmarkFilter();
-  if (filter != "growth") benchmark::RunSpecifiedBenchmarks(&fastest);
+  if (filter != "growth") benchmark::RunSpecifiedBenchmarks(&results.fastest);
   bool good = true;
-  for (const Question &question : questions) {
-    good = print_table(question, fastest, memory) && good;
-  }
+  for (const Question &question : questions) good = print_table(results, question) && good;
   if (filter.empty() || filter == "growth") good = growth(quick) && good;
   std::printf("\n%s\n", good ? "every demand is met" : "a demand is MISSED");
   return good ? 0 : 1;

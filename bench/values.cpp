@@ -71,9 +71,11 @@ Question small_values() {
       element(0x02, serial));
   add(cases, "ENUMERATED", QUARN_ASN1_ENUMERATED, d2i_ASN1_ENUMERATED, ASN1_ENUMERATED_free,
       element(0x0A, {0x04}));
-  // sha256WithRSAEncryption, which OpenSSL looks up in its table of objects.
+  // sha256WithRSAEncryption, which both find among those they know, and 1.3.6.1.4.1.55555.1.
+  add(cases, "OBJECT IDENTIFIER, known", QUARN_ASN1_OID, d2i_ASN1_OBJECT, ASN1_OBJECT_free,
+      element(0x06, {0x2A, 0x86, 0x48, 0x86, 0xF7, 0x0D, 0x01, 0x01, 0x0B}), 0);
   add(cases, "OBJECT IDENTIFIER", QUARN_ASN1_OID, d2i_ASN1_OBJECT, ASN1_OBJECT_free,
-      element(0x06, {0x2A, 0x86, 0x48, 0x86, 0xF7, 0x0D, 0x01, 0x01, 0x0B}));
+      element(0x06, {0x2B, 0x06, 0x01, 0x04, 0x01, 0x83, 0xB2, 0x03, 0x01}));
   add(cases, "UTF8String", QUARN_ASN1_UTF8STRING, d2i_ASN1_UTF8STRING, ASN1_UTF8STRING_free,
       text(0x0C, "Example Root Certification Authority"));
   add(cases, "OCTET STRING", QUARN_ASN1_OCTETSTRING, d2i_ASN1_OCTET_STRING, ASN1_OCTET_STRING_free,
@@ -85,7 +87,8 @@ Question small_values() {
   add(cases, "GeneralizedTime", QUARN_ASN1_GENTIME, d2i_ASN1_GENERALIZEDTIME,
       ASN1_GENERALIZEDTIME_free, text(0x18, "20500101000000Z"));
   // OpenSSL has no BOOLEAN objects; as an ANY it makes one.
-  add(cases, "BOOLEAN", QUARN_ASN1_BOOLEAN, d2i_ASN1_TYPE, ASN1_TYPE_free, element(0x01, {0xFF}));
+  add(cases, "BOOLEAN", QUARN_ASN1_BOOLEAN, d2i_ASN1_TYPE, ASN1_TYPE_free, element(0x01, {0xFF}),
+      0);
   add(cases, "NULL", QUARN_ASN1_NULL, d2i_ASN1_NULL, ASN1_NULL_free, element(0x05, {}), 0);
   return {"5. Small values, decoded and freed", "value", kTimes, std::move(cases)};
 }

@@ -9,18 +9,43 @@ pkg_check_modules(BOTAN REQUIRED IMPORTED_TARGET botan-2)
 find_library(MBEDCRYPTO_LIBRARY mbedcrypto REQUIRED)
 find_library(HEIMDAL_ASN1_LIBRARY asn1 PATH_SUFFIXES heimdal REQUIRED)
 find_path(HEIMDAL_INCLUDE_DIR heimdal/rfc2459_asn1.h REQUIRED)
+# These are compared with in the questions on typed values alone, and left out when they are missing.
+pkg_check_modules(GNUTLS IMPORTED_TARGET gnutls)
+find_library(MBEDX509_LIBRARY mbedx509)
+find_program(OPENSSL_COMMAND openssl REQUIRED)
 
-add_library(quarn_bench_inside SHARED ${PROJECT_SOURCE_DIR}/bench/walk_inside.cpp)
+set(inside ${PROJECT_SOURCE_DIR}/bench/walk_inside.cpp ${PROJECT_SOURCE_DIR}/bench/typed/drop_inside.cpp)
+add_library(quarn_bench_inside SHARED ${inside})
 target_include_directories(quarn_bench_inside PRIVATE ${PROJECT_SOURCE_DIR})
 target_link_libraries(quarn_bench_inside PRIVATE quarn_container_flags quarn_asn1_static quarn_util_static)
 target_link_options(quarn_bench_inside PRIVATE -Wl,--exclude-libs,ALL)
 
-file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/bench/*.cpp)
-list(REMOVE_ITEM sources ${PROJECT_SOURCE_DIR}/bench/walk_inside.cpp)
-add_executable(quarn_bench ${sources})
+# Made once: certificates and requests.
+set(corpus ${CMAKE_CURRENT_BINARY_DIR}/bench-corpus)
+set(corpus_script ${PROJECT_SOURCE_DIR}/bench/typed/certificates.sh)
+add_custom_command(OUTPUT ${corpus}/199.crt
+  COMMAND ${corpus_script} ${corpus} DEPENDS ${corpus_script} VERBATIM)
+
+file(GLOB sources CONFIGURE_DEPENDS
+  ${PROJECT_SOURCE_DIR}/bench/*.cpp ${PROJECT_SOURCE_DIR}/bench/typed/*.cpp)
+list(REMOVE_ITEM sources ${inside})
+set(optional_peers)
+if(GNUTLS_FOUND)
+  list(APPEND optional_peers PkgConfig::GNUTLS)
+else()
+  list(REMOVE_ITEM sources ${PROJECT_SOURCE_DIR}/bench/typed/gnutls.cpp)
+endif()
+if(MBEDX509_LIBRARY)
+  list(APPEND optional_peers ${MBEDX509_LIBRARY})
+else()
+  list(REMOVE_ITEM sources ${PROJECT_SOURCE_DIR}/bench/typed/mbedtls.cpp)
+endif()
+add_executable(quarn_bench ${sources} ${corpus}/199.crt)
+target_compile_definitions(quarn_bench PRIVATE QUARN_BENCH_CORPUS="${corpus}")
 target_include_directories(quarn_bench PRIVATE ${PROJECT_SOURCE_DIR})
 target_include_directories(quarn_bench SYSTEM PRIVATE
   ${HEIMDAL_INCLUDE_DIR} ${HEIMDAL_INCLUDE_DIR}/heimdal)
 target_link_libraries(quarn_bench PRIVATE quarn_container_flags quarn_bench_inside quarn_asn1 quarn_util
-  benchmark::benchmark OpenSSL::Crypto PkgConfig::TASN1 PkgConfig::BOTAN ${MBEDCRYPTO_LIBRARY}
+  benchmark::benchmark OpenSSL::Crypto PkgConfig::TASN1 PkgConfig::BOTAN
+  ${optional_peers} ${MBEDCRYPTO_LIBRARY}
   ${HEIMDAL_ASN1_LIBRARY})

@@ -99,7 +99,7 @@ bool take_default(const Field &field, void **component) {
   if (field.presence == Presence::default_integer) {
     *component = quarn_asn1_integer_value(field.default_value);
   } else if (field.presence == Presence::default_boolean) {
-    *component = default_boolean(field.default_value != 0);
+    *component = boolean_value(field.default_value != 0);
   } else {
     Reader in(field.default_octets, static_cast<std::size_t>(field.default_value), nullptr);
     return decode(type_of(field.type()), in, component).ok();

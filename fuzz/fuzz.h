@@ -8,6 +8,7 @@
 #include <cstring>
 #include <memory>
 
+#include "cli/handles.h"
 #include "quarn_asn1.h"
 
 namespace quarn::fuzz {
@@ -17,21 +18,12 @@ inline void must(bool holds) {
   if (!holds) std::abort();
 }
 
-template <auto Free>
-struct Freer {
-  template <typename T>
-  void operator()(T *p) const {
-    Free(p);
-  }
-};
-
-using Json = std::unique_ptr<quarn_json, Freer<quarn_json_free>>;
-using Blob = std::unique_ptr<quarn_data_blob, Freer<quarn_data_blob_free>>;
-using Stream = std::unique_ptr<quarn_stream, Freer<quarn_stream_free>>;
-using Context = std::unique_ptr<quarn_err_ctx, Freer<quarn_err_ctx_free>>;
-
+using cli::Blob;
+using cli::Json;
+using cli::Stream;
+using Context = cli::Records;
 template <typename T>
-using Buffer = std::unique_ptr<T, Freer<quarn_free>>;
+using Buffer = std::unique_ptr<T, cli::FreedBy<quarn_free>>;
 
 // A copy exactly as large as its content, so that the sanitizer sees reads past the end.
 class Exact {

@@ -34,6 +34,17 @@ cmake -S examples/consumer -B "$work/cmake" -DCMAKE_PREFIX_PATH="$work/usr" >/de
 cmake --build "$work/cmake" >/dev/null
 ran "the CMake package" "$work/cmake/to_json"
 
+cc -std=c99 -Wall -Wextra -Wpedantic -Werror examples/consumer/certificate.c -o "$work/certificate" \
+  $(pkg-config --cflags --libs quarn-asn1)
+root=$(find /usr/share/ca-certificates -name '*.crt' | sort | head -n 1)
+expected=$(openssl x509 -in "$root" -noout -serial | cut -d= -f2 | tr A-F a-f)
+printed=$(LD_LIBRARY_PATH="$libdir" "$work/certificate" "$root" | sed -n 's/^serial number \(00\)*//p')
+if [ "$printed" != "$expected" ]; then
+  echo "the example printed serial number $printed of $root, not $expected" >&2
+  exit 1
+fi
+echo "typed example: good"
+
 for standard in "cc -x c -std=c99" "cc -x c -std=c11" "c++ -x c++ -std=c++11" "c++ -x c++ -std=c++20"; do
   for header in $(cd "$work/usr/include" && find . -name '*.h'); do
     echo "#include \"$header\"" |

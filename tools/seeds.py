@@ -18,7 +18,8 @@ TEXTS = ["\x001.2.840.113549.1.1.11", "\x012.999.3", "\x02240229120000Z", "\x022
 
 
 def octets(text):
-    """Octets of a vector's text, with groups repeated: (30 80)*3."""
+    """Octets of a vector's text, with groups repeated: (30 80)*3 "text"."""
+    text = re.sub('"([^"]*)"', lambda m: m[1].encode().hex(), text)
     while "(" in text:
         text = re.sub(r"\(([^()]*)\)(?:\*(\d+))?", lambda m: " ".join([m[1]] * int(m[2] or 1)), text)
     return bytes.fromhex(text)
@@ -36,7 +37,10 @@ def vectors():
     for path in sorted((ROOT / "tests/vectors").rglob("*.vec")):
         type_id = 0
         for line in path.read_text(encoding="utf-8").splitlines():
-            key, _, value = (part.strip() for part in line.split("#")[0].partition("="))
+            row = line.split("#")[0].split("|")
+            key, _, value = (part.strip() for part in row[0].partition("="))
+            if len(row) > 1:
+                key, value = "in", row[0]
             if key == "type":
                 type_id = int(value) if value.isdigit() else ids[value]
             elif key == "in" and len(content := octets(value)) <= 4096:

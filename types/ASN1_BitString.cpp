@@ -47,10 +47,6 @@ std::int64_t content_length(const Type & /*type*/, const void *value) {
   return length < 0 ? length : length + 1;
 }
 
-void free_string(const Type & /*type*/, void *value) {
-  quarn_free(value);
-}
-
 Status encode_bits(const Type & /*type*/, Writer &out, void *value, std::int64_t length) {
   if (out.is_null() || value == nullptr) return kUnit.fail(out.ctx(), QUARN_ERROR_ARGUMENT);
   auto &string = *static_cast<StringValue *>(value);
@@ -175,9 +171,7 @@ int64_t quarn_asn1_bitstring_getlength(const quarn_asn1_bitstring *v) {
 }
 
 int quarn_asn1_bitstring_getall(quarn_asn1_bitstring *v, uint8_t *buffer) {
-  const std::int64_t length = data_length(v);
-  if (length < 0 || (buffer == nullptr && length > 0)) return 0;
-  return copy_string(*v, static_cast<std::uint64_t>(length), buffer, kUnit).raw();
+  return copy_string(v, data_length(v), buffer, kUnit).raw();
 }
 
 int quarn_asn1_bitstring_get(quarn_asn1_bitstring *v,

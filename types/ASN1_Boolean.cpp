@@ -2,7 +2,12 @@
 //
 //     01 01 FF      TRUE, the only octet that DER knows for it
 //     01 01 01      TRUE as well: read, kept for whoever asks, and written as FF
+//
+// There are as many values as octets, which all exist already: structures are full of them, most
+// being defaults.
 #include "types/boolean.h"
+
+#include <array>
 
 #include "core/adapter.h"
 #include "types/codecs.h"
@@ -14,17 +19,15 @@ namespace {
 
 constexpr Unit kUnit{"QUARN_ASN1_Boolean.cpp"};
 
-quarn_asn1_boolean *new_boolean(std::uint32_t cell) {
-  auto *value = util::allocate<quarn_asn1_boolean>();
-  if (value != nullptr) value->cell = cell;
-  return value;
-}
+constexpr std::array<quarn_asn1_boolean, 256> kValues = [] {
+  std::array<quarn_asn1_boolean, 256> values{};
+  for (std::uint32_t cell = 0; cell < values.size(); cell++) values[cell].cell = cell;
+  return values;
+}();
 
-// Most values of many records are defaults. Nothing writes to these.
-quarn_asn1_boolean kDefaults[] = {{0}, {0xFF}};
-
-void free_boolean(const Type & /*type*/, void *value) {
-  if (value != &kDefaults[0] && value != &kDefaults[1]) quarn_free(value);
+// Values are not changed once they are made.
+quarn_asn1_boolean *value_of(std::uint8_t cell) {
+  return const_cast<quarn_asn1_boolean *>(&kValues[cell]);
 }
 
 // Whatever the value, null included.
@@ -50,29 +53,28 @@ Status decode_boolean_content(
   std::uint8_t octet = 0;
   status = in.octet(octet);
   if (!status) return status;
-  *value = new_boolean(octet);
-  if (*value == nullptr) return kUnit.fail(in.ctx(), QUARN_ERROR_NO_MEMORY, in.offset());
+  *value = value_of(octet);
   return status;
 }
 
 }  // namespace
 
-quarn_asn1_boolean *default_boolean(bool value) {
-  return &kDefaults[value ? 1 : 0];
+quarn_asn1_boolean *boolean_value(bool value) {
+  return value_of(value ? 0xFF : 0);
 }
 
 const Codec kBooleanCodec = {
-    free_boolean,           boolean_length, nullptr, encode_boolean_content,
+    free_nothing,           boolean_length, nullptr, encode_boolean_content,
     decode_boolean_content, nullptr,        nullptr};
 
 }  // namespace quarn::asn1
 
 quarn_asn1_boolean *quarn_asn1_boolean_true(void) {
-  return quarn::asn1::new_boolean(0xFF);
+  return quarn::asn1::boolean_value(true);
 }
 
 quarn_asn1_boolean *quarn_asn1_boolean_false(void) {
-  return quarn::asn1::new_boolean(0);
+  return quarn::asn1::boolean_value(false);
 }
 
 int quarn_asn1_boolean_istrue(const quarn_asn1_boolean *v) {

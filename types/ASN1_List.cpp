@@ -6,6 +6,7 @@
 // cursor counted.
 #include "types/list.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "core/adapter.h"
@@ -19,13 +20,17 @@ namespace {
 
 constexpr Unit kUnit{"QUARN_ASN1_List"};
 
-// Elements for which there is room in the list itself: fills a block of 56 octets.
-constexpr std::int32_t kMostNear = 4;
-// Elements for which there is room in the first block of their own.
+// Elements for which there is room in the list itself when nothing is known of them: fills a block
+// of 56 octets.
+constexpr std::int32_t kNear = 4;
+// The same for a list whose content is long enough. Names and extensions seldom have more.
+constexpr std::int32_t kMostNear = 12;
+// Octets of content that call for room for an element.
+constexpr std::int64_t kElementOctets = 8;
+// Elements for which there is room in the first block of their own, at least.
 constexpr std::int32_t kFirstBlock = 8;
 
-// An empty list with room for so many elements, at most kMostNear, in its own block; null when
-// memory is short.
+// An empty list with room for so many elements in its own block; null when memory is short.
 quarn_asn1_list *new_list(std::int32_t room) {
   auto *list = util::allocate<quarn_asn1_list>(static_cast<std::size_t>(room) * sizeof(void *));
   if (list == nullptr) return nullptr;
@@ -34,10 +39,12 @@ quarn_asn1_list *new_list(std::int32_t room) {
   return list;
 }
 
-// The room that content of a length, no element of which is shorter than two octets, calls for.
+// The room that content of a length calls for. No element is shorter than two octets.
 std::int32_t room_for(std::int64_t length) {
-  if (length < 0 || length >= std::int64_t{2} * kMostNear) return kMostNear;
-  return static_cast<std::int32_t>((length + 1) / 2);
+  if (length < 0) return kNear;
+  const std::int64_t few = std::min<std::int64_t>((length + 1) / 2, kNear);
+  return static_cast<std::int32_t>(
+      std::clamp<std::int64_t>(length / kElementOctets, few, kMostNear));
 }
 
 void free_items(quarn_asn1_list &list) {
@@ -45,7 +52,7 @@ void free_items(quarn_asn1_list &list) {
 }
 
 bool grow(quarn_asn1_list &list) {
-  std::int32_t capacity = list.capacity <= kMostNear ? kFirstBlock / 2 : list.capacity;
+  std::int32_t capacity = std::max(list.capacity, kFirstBlock / 2);
   if (!multiply_by<std::int32_t>(capacity, 2)) return false;
   auto **items = util::allocate_array<void *>(static_cast<std::size_t>(capacity));
   if (items == nullptr) return false;
@@ -135,14 +142,18 @@ Status read_end(Reader &in) {
   return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_END, in.offset());
 }
 
+Status read_first(Reader &in, Identifier &out) {
+  const Status status = read_identifier(in, out);
+  if (status) return status;
+  return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_IDENTIFIER, in.offset());
+}
+
 // Reads the identifier of an element, which must be the expected one, and the length; or, where
 // there may be one, the end-of-contents.
 Status read_item(Reader &in, const ElementTag &expected, bool may_end, Item &out) {
   Identifier identifier{};
-  Status status = read_identifier(in, identifier);
-  if (!status) {
-    return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_IDENTIFIER, in.offset());
-  }
+  Status status = read_first(in, identifier);
+  if (!status) return status;
   out.primitive = identifier.primitive;
   if (!identifier.is(expected.tag_class, expected.number)) {
     if (!may_end || !identifier.is_end_of_contents()) {
@@ -161,49 +172,54 @@ Status read_item(Reader &in, const ElementTag &expected, bool may_end, Item &out
 
 // Elements are read by read(in, may_end, element, ended), which stores an element or finds the
 // end-of-contents, and freed by release(). position() counts the octets read.
-class TypedElements {
+class ElementsOfType {
  public:
-  TypedElements(const Type &type, const ElementTag &expected) : type_(type), expected_(expected) {}
+  explicit ElementsOfType(const Type &type) : type_(type) {}
 
-  Status read(Reader &in, bool may_end, void **element, bool &ended) const {
-    Item item{};
-    Status status = read_item(in, expected_, may_end, item);
-    ended = item.end_of_contents;
-    if (!status || ended) return status;
-    status = decode_content(type_, in, element, item.primitive, item.length);
-    if (status) return status;
-    return kUnit.pass_on(status, in.ctx(), type_.decode_error(), in.offset());
-  }
   void release(void *element) const { free_value(type_, element); }
   std::uint64_t position(const Reader &in) const { return in.count(); }
 
+ protected:
+  const Type &type() const { return type_; }
+  Status recorded(Status status, const Reader &in) const {
+    if (status) return status;
+    return kUnit.pass_on(status, in.ctx(), type_.decode_error(), in.offset());
+  }
+
  private:
   const Type &type_;
+};
+
+class TypedElements : public ElementsOfType {
+ public:
+  TypedElements(const Type &type, const ElementTag &expected)
+      : ElementsOfType(type), expected_(expected) {}
+
+  Status read(Reader &in, bool may_end, void **element, bool &ended) const {
+    Item item{};
+    const Status status = read_item(in, expected_, may_end, item);
+    ended = item.end_of_contents;
+    if (!status || ended) return status;
+    return recorded(decode_content(type(), in, element, item.primitive, item.length), in);
+  }
+
+ private:
   const ElementTag &expected_;
 };
 
 // Elements that begin with one of several tags.
-class ChoiceElements {
+class ChoiceElements : public ElementsOfType {
  public:
-  explicit ChoiceElements(const Type &type) : type_(type) {}
+  using ElementsOfType::ElementsOfType;
 
   Status read(Reader &in, bool may_end, void **element, bool &ended) const {
     Identifier identifier{};
-    Status status = read_identifier(in, identifier);
-    if (!status) {
-      return kUnit.pass_on(status, in.ctx(), QUARN_ASN1_ERROR_READ_IDENTIFIER, in.offset());
-    }
+    const Status status = read_first(in, identifier);
+    if (!status) return status;
     ended = may_end && identifier.is_end_of_contents();
     if (ended) return read_end(in);
-    status = decode_rest(type_, in, identifier, element);
-    if (status) return status;
-    return kUnit.pass_on(status, in.ctx(), type_.decode_error(), in.offset());
+    return recorded(decode_rest(type(), in, identifier, element), in);
   }
-  void release(void *element) const { free_value(type_, element); }
-  std::uint64_t position(const Reader &in) const { return in.count(); }
-
- private:
-  const Type &type_;
 };
 
 class AnyElements {
@@ -416,7 +432,7 @@ const Codec kAnylist1Codec = {free_anylist,   anylist_content_length, nullptr,
 using namespace quarn::asn1;
 
 quarn_asn1_list *quarn_asn1_list_new(void) {
-  return new_list(kMostNear);
+  return new_list(kNear);
 }
 
 int quarn_asn1_list_put(quarn_asn1_list *l, void *element) {

@@ -164,7 +164,7 @@ quarn_asn1_oid *new_from_text(const char *text, bool relative) {
 }
 
 void free_oid(const Type & /*type*/, void *value) {
-  quarn_free(value);
+  if (!is_known_oid(value)) quarn_free(value);
 }
 
 std::int64_t oid_length(const Type & /*type*/, const void *value) {
@@ -209,6 +209,11 @@ Status decode_oid_content(
   Content content;
   status = content.read(in, static_cast<std::uint64_t>(length), kUnit);
   if (!status) return status;
+  if constexpr (!kRelative) {
+    // Values of identifiers are not changed once they are made.
+    *value = const_cast<quarn_asn1_oid *>(known_oid(content.data(), content.size()));
+    if (*value != nullptr) return status;
+  }
   return new_decoded(in, content, kRelative, value);
 }
 

@@ -13,9 +13,8 @@ struct quarn_asn1_boolean {
 
 namespace quarn::asn1 {
 
-// The value that records hold for a component whose default it is. Freed like any other, which does
-// nothing; nobody but the record is to own it.
-quarn_asn1_boolean *default_boolean(bool value);
+// The value of DER, which exists already. Freed like any other, which does nothing.
+quarn_asn1_boolean *boolean_value(bool value);
 
 }  // namespace quarn::asn1
 

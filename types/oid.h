@@ -31,6 +31,11 @@ bool append_oid_text(const std::uint8_t *octets, std::size_t count, bool relativ
 // it may be. False, with out as it was, when the text is no identifier or memory is short.
 bool append_oid_octets(const char *text, std::size_t length, bool relative, Buffer &out);
 
+// The one value of an identifier that is met often, which is never freed and never changed; null
+// for others. known_oids.cpp has the list.
+const quarn_asn1_oid *known_oid(const std::uint8_t *octets, std::size_t count);
+bool is_known_oid(const void *value);
+
 }  // namespace quarn::asn1
 
 #endif

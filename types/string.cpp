@@ -17,6 +17,10 @@ StringValue *new_string(const std::uint8_t *octets, std::size_t count) {
   return value;
 }
 
+void free_string(const Type & /*type*/, void *value) {
+  quarn_free(value);
+}
+
 bool measure_string(const StringValue &value, std::uint64_t &count) {
   count = value.length;
   if (value.stream == nullptr) return true;
@@ -43,15 +47,15 @@ bool Source::at_end() const {
   return quarn_stream_ctrl(stream(), QUARN_STREAM_ATEND, nullptr, nullptr) == 1;
 }
 
-Status copy_string(StringValue &value, std::uint64_t count, std::uint8_t *out, const Unit &unit) {
-  if (value.stream == nullptr) {
-    if (count > 0) std::memcpy(out, value.octets(), count);
+Status copy_string(StringValue *value, std::int64_t count, std::uint8_t *out, const Unit &unit) {
+  if (count < 0 || (out == nullptr && count > 0)) return Status::failure();
+  if (value->stream == nullptr) {
+    if (count > 0) std::memcpy(out, value->octets(), static_cast<std::size_t>(count));
     return Status::success();
   }
   Source source;
-  if (const Status status = source.open(value, unit, nullptr); !status) return status;
-  return Status::from(
-      quarn_stream_readn(source.stream(), out, static_cast<std::int64_t>(count), nullptr));
+  if (const Status status = source.open(*value, unit, nullptr); !status) return status;
+  return Status::from(quarn_stream_readn(source.stream(), out, count, nullptr));
 }
 
 Status view_string(StringValue &value,

@@ -29,6 +29,7 @@ struct StringValue {
 // A value with room for count octets, which are not set; null when memory is short.
 StringValue *new_string(std::size_t count);
 StringValue *new_string(const std::uint8_t *octets, std::size_t count);
+void free_string(const Type &type, void *value);
 
 // Number of octets. False when a stream cannot tell; kUnknown when it says that nobody knows.
 constexpr std::uint64_t kUnknown = UINT64_MAX;
@@ -52,8 +53,9 @@ class Source {
   quarn_stream *lent_ = nullptr;
 };
 
-// Copies the first count octets to a buffer of the caller's that has room for them.
-Status copy_string(StringValue &value, std::uint64_t count, std::uint8_t *out, const Unit &unit);
+// Copies the first count octets to a buffer of the caller's that has room for them. A negative count
+// is a failure without a record.
+Status copy_string(StringValue *value, std::int64_t count, std::uint8_t *out, const Unit &unit);
 // Shows the first count octets: in place, or in storage when they have to be read first.
 Status view_string(StringValue &value,
                    std::uint64_t count,

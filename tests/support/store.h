@@ -18,11 +18,14 @@ class Store {
  public:
   static constexpr std::int64_t kUnknownLength = -1;
 
+  enum class Kind { all, read_only };
+
   explicit Store(std::vector<std::uint8_t> content = {})
       : octets(std::move(content)), size(octets.size()) {}
 
-  Stream stream() {
-    const quarn_stream_callbacks callbacks{read, write, length, seek, nullptr};
+  Stream stream(Kind kind = Kind::all) {
+    quarn_stream_callbacks callbacks{read, write, length, seek, close};
+    if (kind == Kind::read_only) callbacks = {read, nullptr, nullptr, nullptr, nullptr};
     return Stream(quarn_stream_new_callback(&callbacks, this, nullptr));
   }
 
@@ -31,6 +34,9 @@ class Store {
   bool knows_length = true;
   std::int64_t claimed = kUnknownLength;  // a length that is not the true one
   bool seekable = true;
+  std::uint64_t piece = UINT64_MAX;  // most octets given at once
+  std::int64_t wrong_result = -1;    // of a read that fails
+  int closed = 0;
   std::uint64_t calls = 0;
   std::uint64_t fail_at = UINT64_MAX;  // the call that fails, counted from 0
 
@@ -40,8 +46,8 @@ class Store {
 
   static std::int64_t read(void *user, void *buffer, std::int64_t count) {
     Store &s = self(user);
-    if (s.fails()) return -1;
-    const auto got = std::min(static_cast<std::uint64_t>(count), s.size - s.at_);
+    if (s.fails()) return s.wrong_result;
+    const auto got = std::min({static_cast<std::uint64_t>(count), s.piece, s.size - s.at_});
     std::memset(buffer, 0, got);
     if (s.at_ < s.octets.size()) {
       std::memcpy(buffer, s.octets.data() + s.at_, std::min(got, s.octets.size() - s.at_));
@@ -62,6 +68,7 @@ class Store {
     if (s.claimed != kUnknownLength) return s.claimed;
     return s.knows_length ? static_cast<std::int64_t>(s.size) : kUnknownLength;
   }
+  static void close(void *user) { self(user).closed++; }
   static int seek(void *user, std::uint64_t position) {
     Store &s = self(user);
     if (s.fails() || !s.seekable || position > s.size) return 0;

@@ -4,6 +4,7 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
 
 #include "quarn_asn1.h"
@@ -18,7 +19,7 @@ std::string trim(const std::string &text) {
   return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
 }
 
-// Reads octets of the form 30 80 (04 01 41)*3.
+// Reads octets of the form 30 80 (04 01 41)*3 "text".
 class OctetText {
  public:
   explicit OctetText(const std::string &text) : text_(text) {}
@@ -38,6 +39,13 @@ class OctetText {
   Octets group() {
     Octets octets;
     while (peek() != ')') {
+      if (text_[at_] == '"') {
+        const std::size_t end = text_.find('"', ++at_);
+        if (end == std::string::npos) throw std::runtime_error("unbalanced quote");
+        octets.insert(octets.end(), &text_[at_], &text_[end]);
+        at_ = end + 1;
+        continue;
+      }
       if (text_[at_] != '(') {
         octets.push_back(octet());
         continue;
@@ -108,6 +116,29 @@ void set(Vector &vector, const std::string &key, const std::string &value) {
   }
 }
 
+// A row: octets in | octets out, or a key and its value, or both | name.
+void set_row(Vector &vector, const std::string &row) {
+  std::istringstream cells(row);
+  std::string cell;
+  std::getline(cells, cell, '|');
+  set(vector, "in", trim(cell));
+  std::getline(cells, cell, '|');
+  std::getline(cells, vector.name);
+  vector.name = trim(vector.name);
+  std::string value;
+  std::string key = "out";
+  std::istringstream words(cell + " end");
+  for (std::string word; words >> word;) {
+    if (word != "end" && word != "code" && word != "result" && word != "consumed") {
+      value += word + " ";
+      continue;
+    }
+    if (!value.empty()) set(vector, key, trim(value));
+    value.clear();
+    key = word;
+  }
+}
+
 void check(const Vector &vector) {
   if (vector.type < 0) throw std::runtime_error("a case before any type");
   if (!vector.out && vector.codes.empty() && vector.result == 0) {
@@ -127,16 +158,17 @@ std::vector<Vector> read_vectors(const std::string &path) {
     while (std::getline(file, text)) {
       number++;
       const std::string line = trim(text.substr(0, text.find('#')));
-      if (line.empty()) continue;
       const std::string key = trim(line.substr(0, line.find('=')));
       const std::string value = trim(line.substr(line.find('=') + 1));
+      const bool row = line.find('|') != std::string::npos;
+      if (line.empty()) continue;
       if (key == "type") {
         type = type_named(value);
-      } else if (key == "case") {
-        vectors.push_back(Vector{path, number, type, value, {}, {}, {}, 0, {}});
-      } else if (!vectors.empty()) {
-        set(vectors.back(), key, value);
+        continue;
       }
+      if (row || key == "case") vectors.push_back({path, number, type, value, {}, {}, {}, 0, {}});
+      if (row) set_row(vectors.back(), line);
+      if (!row && key != "case" && !vectors.empty()) set(vectors.back(), key, value);
     }
     for (const Vector &vector : vectors) {
       number = vector.line;

@@ -1,13 +1,16 @@
-// Reads .vec files: groups of `key = value` lines, `#` comments.
+// Reads .vec files, in which a case is a row, or lines of `key = value` when it is too long for one:
 //
-//     type = 33
+//     type = boolean
+//     01 01 FF | same       | true
+//     01 01 01 | 01 01 FF   | any octet but zero is true and is written as FF
+//     01 00    | code 10203 | empty content
 //
-//     case = indefinite length is read, definite length is written
-//     in   = 30 80  06 02 2A 03  00 00
-//     out  = 30 04  06 02 2A 03
+//     case = any octet but zero is true and is written as FF
+//     in   = 01 01 01
+//     out  = 01 01 FF
 //
-// type holds until the next type line; a case line begins a case. Octets are hexadecimal; a group
-// in parentheses can be repeated: (30 80)*3.
+// type holds until the next type line; `#` begins a comment. Octets are hexadecimal or "text"; a
+// group in parentheses can be repeated: (30 80)*3.
 #ifndef QUARN_TESTS_SUPPORT_VECTOR_FILE_H
 #define QUARN_TESTS_SUPPORT_VECTOR_FILE_H
 

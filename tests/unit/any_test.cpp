@@ -10,10 +10,7 @@
 namespace quarn::test {
 namespace {
 
-struct FreeAny {
-  void operator()(quarn_asn1_any *v) const { quarn_asn1_any_free(v); }
-};
-using Any = std::unique_ptr<quarn_asn1_any, FreeAny>;
+using Any = Value<quarn_asn1_any, QUARN_ASN1_ANY>;
 
 Any any_of(const Octets &octets) {
   quarn_asn1_any *v = nullptr;

@@ -9,10 +9,7 @@
 namespace quarn::test {
 namespace {
 
-struct FreeBits {
-  void operator()(quarn_asn1_bitstring *v) const { quarn_asn1_value_free(3, v); }
-};
-using Bits = std::unique_ptr<quarn_asn1_bitstring, FreeBits>;
+using Bits = Value<quarn_asn1_bitstring, QUARN_ASN1_BITSTRING>;
 
 Octets encoding_of(const Bits &value) {
   return test::encoding_of(3, value.get());
@@ -129,6 +126,29 @@ TEST(BitString, lengths_that_do_not_fit_are_refused) {
   EXPECT_EQ(quarn_asn1_length(3, value.get()), QUARN_ASN1_NO_LENGTH) << "one octet more is written";
   EXPECT_EQ(quarn_asn1_encode(stream.get(), 3, value.get(), nullptr, ctx.get()), 0);
   EXPECT_EQ(codes_in(ctx.get()).back(), 0x10203);
+}
+
+// Everything that calls a stream; true when all of it succeeded.
+bool exercise(Store &from, Store &content) {
+  const Stream source = from.stream();
+  const Stream held = content.stream();
+  const Stream out = Stream(quarn_stream_new_mem(0, nullptr));
+  if (source == nullptr || held == nullptr || out == nullptr) return false;
+  quarn_asn1_bitstring *over = nullptr;
+  quarn_asn1_decode_bitstring_ex(source.get(), held.get(), &over, nullptr, nullptr);
+  const Bits value(over);
+  if (value == nullptr) return false;
+  if (content.knows_length && quarn_asn1_bitstring_getbit(over, 15) != 1) return false;
+  if (quarn_asn1_encode(out.get(), 3, over, nullptr, nullptr) != 1) return false;
+  void *object = nullptr;
+  const int got = quarn_asn1_bitstring_getobject(over, 4, &object, nullptr);
+  quarn_asn1_value_free(4, object);
+  return got == 1;
+}
+
+TEST(BitString, every_failing_call_is_a_failure_and_leaves_nothing) {
+  const Octets octets{0x23, 0x80, 0x03, 3, 0, 0x04, 1, 0x03, 2, 4, 0xF0, 0, 0};
+  for (const bool knows_length : {true, false}) fail_each_call(octets, knows_length, exercise);
 }
 
 TEST(BitString, constructors_fail_when_memory_is_short) {

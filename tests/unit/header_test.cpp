@@ -2,15 +2,10 @@
 // quarn_asn1_mem_header() makes of the same octets.
 #include <gtest/gtest.h>
 
-#include <initializer_list>
-
-#include "quarn_asn1.h"
-#include "tests/support/streams.h"
+#include "tests/unit/values.h"
 
 namespace quarn::test {
 namespace {
-
-using Octets = std::vector<std::uint8_t>;
 
 Octets written_by(std::initializer_list<int> codes, auto write) {
   const Stream stream(quarn_stream_new_mem(0, nullptr));
@@ -19,13 +14,9 @@ Octets written_by(std::initializer_list<int> codes, auto write) {
   const int result = write(stream.get(), &count, ctx.get());
   EXPECT_EQ(codes_in(ctx.get()), std::vector<int>(codes));
   EXPECT_EQ(result, codes.size() == 0 ? 1 : 0);
-  std::uint8_t *octets = nullptr;
-  std::uint64_t length = 0;
-  EXPECT_EQ(quarn_memstreamdeatch(stream.get(), &octets, &length), 1);
-  EXPECT_EQ(count, codes.size() == 0 ? length : 99) << "the count is stored on success only";
-  Octets out(octets, octets + length);
-  quarn_free(octets);
-  return out;
+  const Octets octets = held_by(stream);
+  EXPECT_EQ(count, codes.size() == 0 ? octets.size() : 99) << "the count is stored on success only";
+  return octets;
 }
 
 Octets identifier(std::uint32_t tag_class,
@@ -72,33 +63,18 @@ TEST(Header, headers_are_read_alike_from_streams_and_memory) {
     std::size_t identifier_size;
     std::uint64_t number;
     std::int64_t length;
-    std::vector<int> codes;
+    Codes codes;
   } cases[] = {
-      {"indefinite", {0xA5, 0x80}, 1, 5, -1, {}},
-      {"leading zero groups, zero octets", {0x1F, 0x80, 0x1F, 0x82, 0x00, 0x05}, 3, 31, 5, {}},
-      {"greatest number",
-       {0x5F, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x7F, 0x00},
-       10,
-       INT64_MAX,
-       0,
-       {}},
-      {"greatest length",
-       {0x30, 0x88, 0x7F, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF},
-       1,
-       16,
-       INT64_MAX,
-       {}},
-      {"long form not needed", {0x1F, 0x1E}, 0, 0, 0, {0x10201}},
-      {"large number",
-       {0x1F, 0x82, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x00},
-       0,
-       0,
-       0,
-       {0x10202}},
-      {"number cut off", {0x1F, 0x81}, 0, 0, 0, {0x10103}},
-      {"large length", {0x30, 0x88, 0x80, 0, 0, 0, 0, 0, 0, 0}, 1, 16, 0, {0x10202}},
-      {"reserved", {0x30, 0xFF}, 1, 16, 0, {0x10203}},
-      {"length cut off", {0x30, 0x82, 0x01}, 1, 16, 0, {0x10103}},
+      {"indefinite", hex("A5 80"), 1, 5, -1, {}},
+      {"leading zero groups, zero octets", hex("1F 80 1F 82 00 05"), 3, 31, 5, {}},
+      {"greatest number", hex("5F FF FF FF FF FF FF FF FF 7F 00"), 10, INT64_MAX, 0, {}},
+      {"greatest length", hex("30 88 7F FF FF FF FF FF FF FF"), 1, 16, INT64_MAX, {}},
+      {"long form not needed", hex("1F 1E"), 0, 0, 0, {0x10201}},
+      {"large number", hex("1F 82 80 80 80 80 80 80 80 80 00"), 0, 0, 0, {0x10202}},
+      {"number cut off", hex("1F 81"), 0, 0, 0, {0x10103}},
+      {"large length", hex("30 88 80 00 00 00 00 00 00 00"), 1, 16, 0, {0x10202}},
+      {"reserved", hex("30 FF"), 1, 16, 0, {0x10203}},
+      {"length cut off", hex("30 82 01"), 1, 16, 0, {0x10103}},
   };
   for (const auto &c : cases) {
     SCOPED_TRACE(c.name);

@@ -4,18 +4,13 @@
 #include <memory>
 #include <vector>
 
-#include "quarn_asn1.h"
 #include "tests/support/allocation.h"
+#include "tests/unit/values.h"
 
 namespace quarn::test {
 namespace {
 
-using Octets = std::vector<std::uint8_t>;
-
-struct FreeInteger {
-  void operator()(quarn_asn1_integer *v) const { quarn_asn1_value_free(QUARN_ASN1_INTEGER, v); }
-};
-using Integer = std::unique_ptr<quarn_asn1_integer, FreeInteger>;
+using Integer = Value<quarn_asn1_integer, QUARN_ASN1_INTEGER>;
 
 Octets octets_of(const Integer &v) {
   Octets octets(static_cast<std::size_t>(quarn_asn1_integer_getlength(v.get())));

@@ -10,10 +10,7 @@
 namespace quarn::test {
 namespace {
 
-struct FreeAnylist {
-  void operator()(quarn_asn1_list *l) const { quarn_asn1_anylist_free(l); }
-};
-using AnyList = std::unique_ptr<quarn_asn1_list, FreeAnylist>;
+using AnyList = Value<quarn_asn1_list, QUARN_ASN1_ANYLIST>;
 
 // An OCTET STRING of some octets, as ANY.
 quarn_asn1_any *element(const Octets &content) {
@@ -44,15 +41,6 @@ std::vector<void *> elements_of(const AnyList &list) {
   std::vector<void *> elements;
   for (int i = 0; i < quarn_asn1_list_getsize(list.get()); i++) elements.push_back(at(list, i));
   return elements;
-}
-
-TEST(List, keeps_its_order_as_it_grows) {
-  const AnyList list = list_of(33);
-  for (int i = 0; i < 33; i++) {
-    EXPECT_EQ(encoding_of(QUARN_ASN1_ANY, at(list, i)),
-              (Octets{0x04, 0x02, 0x00, static_cast<std::uint8_t>(i)}));
-  }
-  EXPECT_EQ(quarn_asn1_anylist_length(list.get()), 33 * 4);
 }
 
 TEST(List, refuses_what_is_not_there) {
@@ -158,7 +146,8 @@ int encode_element(quarn_stream *s, void *value, std::uint64_t *written, quarn_e
 
 TEST(List, elements_are_encoded_in_order) {
   const AnyList list = list_of(2);
-  const Stream s(quarn_stream_new_mem(0, nullptr));
+  EXPECT_EQ(quarn_asn1_anylist_length(list.get()), 8);
+  const Stream s = growable();
   std::uint64_t written = 0;
   EXPECT_EQ(
       quarn_asn1_encode_list_content_ex(s.get(), list.get(), encode_element, -1, &written, nullptr),
@@ -200,22 +189,13 @@ bool padded_less(Octets a, Octets b) {
   return a < b;
 }
 
-TEST(SetOf, every_permutation_sorts_to_the_same_order) {
-  const std::vector<Octets> ordered{{0x02, 0x7F}, {0x04, 0x01, 0x00}, {0x04, 0x01, 0x01},
-                                    {0x04, 0x02}, {0x04, 0x80},       {0x04, 0x80, 0x00, 0x01}};
-  std::vector<Octets> encodings = ordered;
-  do {
-    ASSERT_EQ(sorted(encodings), ordered);
-  } while (std::next_permutation(encodings.begin(), encodings.end()));
-}
-
 TEST(SetOf, any_octets_sort_as_if_padded_with_zeros) {
   std::vector<Octets> encodings;
   std::uint32_t random = 1;
   for (int i = 0; i < 200; i++) {
     Octets octets;
     for (random = random * 1103515245 + 12345; octets.size() < random >> 29;) {
-      octets.push_back(static_cast<std::uint8_t>((random >> (16 + octets.size())) % 3));
+      octets.push_back(static_cast<std::uint8_t>((random >> (16 + octets.size())) % 3 * 127));
     }
     encodings.push_back(octets);
   }

@@ -11,10 +11,7 @@
 namespace quarn::test {
 namespace {
 
-struct FreeString {
-  void operator()(quarn_asn1_octetstring *v) const { quarn_asn1_value_free(4, v); }
-};
-using String = std::unique_ptr<quarn_asn1_octetstring, FreeString>;
+using String = Value<quarn_asn1_octetstring, QUARN_ASN1_OCTETSTRING>;
 
 String string_of(const Octets &octets) {
   return String(

@@ -7,21 +7,15 @@
 #include <string_view>
 #include <vector>
 
-#include "quarn_asn1.h"
 #include "tests/support/allocation.h"
+#include "tests/unit/values.h"
 #include "types/oid.h"
 
 namespace quarn::test {
 namespace {
 
-using Octets = std::vector<std::uint8_t>;
-
-template <std::int64_t kType>
-struct FreeOid {
-  void operator()(quarn_asn1_oid *v) const { quarn_asn1_value_free(kType, v); }
-};
-using Oid = std::unique_ptr<quarn_asn1_oid, FreeOid<QUARN_ASN1_OID>>;
-using RelativeOid = std::unique_ptr<quarn_asn1_oid, FreeOid<QUARN_ASN1_RELATIVE_OID>>;
+using Oid = Value<quarn_asn1_oid, QUARN_ASN1_OID>;
+using RelativeOid = Value<quarn_asn1_oid, QUARN_ASN1_RELATIVE_OID>;
 
 Octets content_of(const quarn_asn1_oid *v) {
   return v == nullptr ? Octets{} : Octets(v->octets(), v->octets() + v->length);
@@ -113,6 +107,32 @@ TEST(Oid, constructors_fail_when_memory_is_short) {
     const RelativeOid relative(quarn_asn1_relative_oid_new("5"));
     EXPECT_EQ(v != nullptr && relative != nullptr, !allocation.failed());
   });
+}
+
+TEST(Oid, values_that_exist_already_are_what_their_octets_say) {
+  int found = 0;
+  for (const char *parent : {"2.5.4.", "2.5.29.", "1.2.840.113549.1.1.", "1.2.840.113549.1.9.",
+                             "1.3.6.1.5.5.7.3.", "1.3.132.0.", "0.9.2342.19200300.100.1.",
+                             "2.16.840.1.101.3.4.2.", "1.3.6.1.4.1.311.60.2.1."}) {
+    for (int last = 0; last < 128; last++) {
+      const std::string text = parent + std::to_string(last);
+      const Octets octets = octets_of(text);
+      const quarn_asn1_oid *known = asn1::known_oid(octets.data(), octets.size());
+      if (known == nullptr) continue;
+      found++;
+      EXPECT_EQ(content_of(known), octets) << text;
+      EXPECT_EQ(text, quarn_asn1_oid_getstring(known));
+    }
+  }
+  EXPECT_GT(found, 60);
+}
+
+TEST(Oid, relative_identifiers_are_not_among_those_that_exist_already) {
+  const std::uint8_t octets[] = {0x0D, 0x03, 0x55, 0x1D, 0x13};
+  void *value = nullptr;
+  EXPECT_EQ(quarn_asn1_mem_decode(octets, 5, QUARN_ASN1_RELATIVE_OID, &value), 5);
+  const RelativeOid v(static_cast<quarn_asn1_oid *>(value));
+  EXPECT_STREQ(quarn_asn1_relative_oid_getstring(v.get()), "85.29.19");
 }
 
 }  // namespace

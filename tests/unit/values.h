@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <vector>
 
 #include "quarn_asn1.h"
@@ -13,6 +14,22 @@ namespace quarn::test {
 
 using Octets = std::vector<std::uint8_t>;
 using Codes = std::vector<int>;
+
+template <std::int64_t kType>
+struct FreeValue {
+  void operator()(void *value) const { quarn_asn1_value_free(kType, value); }
+};
+template <typename T, std::int64_t kType>
+using Value = std::unique_ptr<T, FreeValue<kType>>;
+
+// Octets of hexadecimal digits with blanks between octets.
+inline Octets hex(const char *text) {
+  Octets octets;
+  for (char *end = nullptr; *text != '\0'; text = *end == ' ' ? end + 1 : end) {
+    octets.push_back(static_cast<std::uint8_t>(std::strtoul(text, &end, 16)));
+  }
+  return octets;
+}
 
 // A stream in memory that already holds some octets.
 inline Stream growable(const Octets &octets = {}) {
