@@ -369,17 +369,16 @@ TEST(Getters, tell_what_the_encoding_leaves_out) {
 }
 
 TEST(Names, forget_their_octets_when_they_change) {
-  const char *kStep = "31 07 30 05 06 01 2A 05 00";
+  const std::string step = "31 07 30 05 06 01 2A 05 00";
   Given g;
-  quarn_x500name *name = g(QUARN_ASN1_X500NAME, "30 81 09 " + std::string(kStep));
-  EXPECT_EQ(encoding_of(QUARN_ASN1_X500NAME, name), hex("30 81 09 " + std::string(kStep)));
+  quarn_x500name *name = g(QUARN_ASN1_X500NAME, "30 81 09 " + step);
+  EXPECT_EQ(encoding_of(QUARN_ASN1_X500NAME, name), hex("30 81 09 " + step));
   EXPECT_EQ(quarn_x500name_addrdn(name, g(QUARN_ASN1_X500RDN, "31 00"), 1), 1);
-  EXPECT_EQ(encoding_of(QUARN_ASN1_X500NAME, name), hex("30 0B " + std::string(kStep) + "31 00"));
+  EXPECT_EQ(encoding_of(QUARN_ASN1_X500NAME, name), hex("30 0B " + step + "31 00"));
   void *rdn = nullptr;
   ASSERT_GT(quarn_asn1_mem_decode(octets_of("\x31"), 2, QUARN_ASN1_X500RDN, &rdn), 0);
   EXPECT_EQ(quarn_x500name_addrdn(name, Lent{rdn}, 0), 1) << "the name takes it over";
-  EXPECT_EQ(encoding_of(QUARN_ASN1_X500NAME, name),
-            hex("30 0D " + std::string(kStep) + "31 00 31 00"));
+  EXPECT_EQ(encoding_of(QUARN_ASN1_X500NAME, name), hex("30 0D " + step + "31 00 31 00"));
   EXPECT_EQ(quarn_x500name_addrdn(name, nullptr, 1), 0);
   EXPECT_EQ(quarn_x500name_addrdn(nullptr, g(QUARN_ASN1_X500RDN, "31 00"), 1), 0);
 }
@@ -399,32 +398,32 @@ TEST(Names, are_taken_over_or_left_to_the_caller) {
 }
 
 TEST(Sorting, goes_through_contexts_and_leaves_steps_where_they_are) {
-  const std::string kA = "30 05 06 01 2A 05 00 ";
-  const std::string kB = "30 05 06 01 2B 05 00 ";
-  const std::string kContexts = "30 07 06 01 2B 31 02 05 00 30 07 06 01 2A 31 02 05 00 ";
-  const std::string kSorted = "30 07 06 01 2A 31 02 05 00 30 07 06 01 2B 31 02 05 00 ";
+  const std::string a = "30 05 06 01 2A 05 00 ";
+  const std::string b = "30 05 06 01 2B 05 00 ";
+  const std::string contexts_as_given = "30 07 06 01 2B 31 02 05 00 30 07 06 01 2A 31 02 05 00 ";
+  const std::string contexts_sorted = "30 07 06 01 2A 31 02 05 00 30 07 06 01 2B 31 02 05 00 ";
   Given g;
-  quarn_x500name *name = g(QUARN_ASN1_X500NAME, "30 19 31 0E " + kB + kA + "31 07 " + kA);
+  quarn_x500name *name = g(QUARN_ASN1_X500NAME, "30 19 31 0E " + b + a + "31 07 " + a);
   EXPECT_EQ(quarn_x500name_sort(name), 1);
-  EXPECT_EQ(encoding_of(QUARN_ASN1_X500NAME, name), hex("30 19 31 0E " + kA + kB + "31 07 " + kA));
+  EXPECT_EQ(encoding_of(QUARN_ASN1_X500NAME, name), hex("30 19 31 0E " + a + b + "31 07 " + a));
   EXPECT_EQ(quarn_x500name_sort(g.name()), 1);
   EXPECT_NE(quarn_x500name_sort(nullptr), 1);
 
   const auto rdn = [&](const std::string &contexts) {
     return "31 1F 30 1D 06 01 2A 05 00 31 16 30 14 31 12 " + contexts;
   };
-  quarn_asn1_list *step = g(QUARN_ASN1_X500RDN, rdn(kContexts));
-  EXPECT_EQ(quarn_x500RDN_sort(step), 1);
-  EXPECT_EQ(encoding_of(QUARN_ASN1_X500RDN, step), hex(rdn(kSorted)));
+  quarn_asn1_list *sorted = g(QUARN_ASN1_X500RDN, rdn(contexts_as_given));
+  EXPECT_EQ(quarn_x500RDN_sort(sorted), 1);
+  EXPECT_EQ(encoding_of(QUARN_ASN1_X500RDN, sorted), hex(rdn(contexts_sorted)));
 
   const auto attribute = [&](const std::string &values, const std::string &contexts) {
     return "30 24 06 01 2A 31 05 " + values + "31 18 30 16 05 00 31 12 " + contexts;
   };
   quarn_x500attribute *values =
-      g(QUARN_ASN1_X500ATTRIBUTE, attribute("05 00 01 01 FF ", kContexts));
+      g(QUARN_ASN1_X500ATTRIBUTE, attribute("05 00 01 01 FF ", contexts_as_given));
   EXPECT_EQ(quarn_x500attribute_sort(values), 1);
   EXPECT_EQ(encoding_of(QUARN_ASN1_X500ATTRIBUTE, values),
-            hex(attribute("01 01 FF 05 00 ", kSorted)));
+            hex(attribute("01 01 FF 05 00 ", contexts_sorted)));
 }
 
 // How a kind of signed object is loaded and asked for what was signed.
@@ -506,7 +505,14 @@ TEST(Loading, takes_octets_base64_and_pem_that_hold_one_object) {
     const Context ctx(quarn_err_ctx_new());
     EXPECT_EQ(kind.load(octets.substr(0, 9), ctx.get()), nullptr);
     EXPECT_FALSE(codes_in(ctx.get()).empty());
-    for (const std::string &file : good) {
+  }
+}
+
+TEST(Loading, survives_every_failed_allocation) {
+  for (const Signed &kind : signed_kinds()) {
+    const std::string octets = from_hex(kind.octets);
+    for (const std::string &file :
+         {octets, as_text(nullptr, octets), as_text(kind.labels.back(), octets)}) {
       fail_each_allocation([&](Allocation &allocation) {
         void *loaded = kind.load(file, nullptr);
         EXPECT_TRUE(loaded != nullptr || allocation.failed());
