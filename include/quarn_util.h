@@ -40,7 +40,7 @@ enum quarn_general_error {
   QUARN_ERROR_ARGUMENT = 0x10002,  /**< an argument is null or otherwise bad */
   QUARN_ERROR_FORMAT = 0x10003,    /**< text or octets do not have the form asked for */
   QUARN_ERROR_COUNT = 0x10004,     /**< the octets written differ from the declared length */
-  QUARN_ERROR_RECURSION = 0x10008  /**< nesting passes the limit; a result, never recorded */
+  QUARN_ERROR_RECURSION = 0x10008  /**< deeper than quarn_get_recursive_level(); never recorded */
 };
 
 /** Stream error codes; quarn_igetStreamError() has their texts. */
