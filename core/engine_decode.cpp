@@ -32,7 +32,11 @@ bool is_end_of_contents(const Field &field, const void *value) {
 }
 
 bool field_matches(const Field &field, const Identifier &identifier) {
-  if (field.tagging == Tagging::plain) return matches(type_of(field.type()), identifier);
+  if (field.tagging == Tagging::plain) {
+    const Type &type = type_of(field.type());
+    const bool exact = field.presence == Presence::optional_exact;
+    return matches(type, identifier) && (!exact || identifier.primitive == (type.form != 0));
+  }
   if (!identifier.is(kContext, field.tag)) return false;
   return field.tagging != Tagging::explicitly || !identifier.primitive;
 }

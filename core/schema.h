@@ -33,6 +33,7 @@ enum class Tagging : std::uint8_t {
 enum class Presence : std::uint8_t {
   mandatory,
   optional,
+  optional_exact,  // in another form than its type's, what comes is another component
   default_boolean,
   default_integer,
   default_encoding
@@ -50,7 +51,7 @@ struct Field {
 
   constexpr quarn_asn1_type_id type() const { return static_cast<quarn_asn1_type_id>(type_id); }
   constexpr bool mandatory() const { return presence == Presence::mandatory; }
-  constexpr bool has_default() const { return presence > Presence::optional; }
+  constexpr bool has_default() const { return presence >= Presence::default_boolean; }
 };
 
 enum class Kind : std::uint8_t {
@@ -172,6 +173,11 @@ constexpr notation::PrimitiveForm primitive_form() {
 }
 constexpr notation::Occurrence optional() {
   return {Presence::optional, 0};
+}
+// An optional component that is recognised by class, tag and form: others go by class and tag, and
+// another form is a failure of theirs.
+constexpr notation::Occurrence optional_exact() {
+  return {Presence::optional_exact, 0};
 }
 constexpr notation::Occurrence defaults_to(bool value) {
   return {Presence::default_boolean, value};

@@ -13,7 +13,7 @@ import pathlib
 import re
 import sys
 
-from notation import api, functions, model, parser, resolve, rows
+from notation import api, functions, model, parser, resolve, rows, samples
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 CLASS_BITS = {"universal": 0x00, "application": 0x40}
@@ -218,6 +218,7 @@ def outputs():
     yield "cli/gen/oid_names.inc", oid_names()
     yield "cli/gen/error_uses.inc", error_uses()
     yield "docs/types.md", types_page()
+    yield "tests/vectors/gen/samples.vec", (made_from("modules/*.asn1", "#") + samples.vectors(registry(), described()))
     yield "docs/errors.md", errors_page()
 
 

@@ -4,6 +4,7 @@
     tools/seeds.py TARGET FOLDER
 """
 
+import base64
 import hashlib
 import pathlib
 import re
@@ -33,7 +34,7 @@ def type_ids():
 
 def vectors():
     ids = dict(type_ids())
-    for path in sorted((ROOT / "tests/vectors").glob("*.vec")):
+    for path in sorted((ROOT / "tests/vectors").rglob("*.vec")):
         type_id = 0
         for line in path.read_text(encoding="utf-8").splitlines():
             row = line.split("#")[0].split("|")
@@ -52,8 +53,25 @@ def certificates():
                              check=True, capture_output=True).stdout
 
 
+def text_forms(content, label):
+    text = base64.encodebytes(content)
+    return content, text, b"-----BEGIN %s-----\n%s-----END %s-----\n" % (label, text, label)
+
+
+def loadable():
+    """The kind of a signed object, and its octets or text."""
+    labels = {39: b"CERTIFICATE", 41: b"X509 CRL", 46: b"CERTIFICATE REQUEST"}
+    whole = [*vectors(), *((39, content) for content in certificates())]
+    for type_id, content in whole:
+        if type_id in labels:
+            yield from ((list(labels).index(type_id), form) for form in text_forms(content, labels[type_id]))
+
+
 def seeds(target):
-    if target == "typed":
+    if target == "loaders":
+        for kind, content in loadable():
+            yield bytes([kind]) + content
+    elif target == "typed":
         for type_id, content in vectors():
             yield type_id.to_bytes(2, "big") + content
     elif target == "value_text":

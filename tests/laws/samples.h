@@ -3,7 +3,7 @@
 #define QUARN_TESTS_LAWS_SAMPLES_H
 
 #include <algorithm>
-#include <set>
+#include <string>
 #include <vector>
 
 #include "quarn_asn1.h"
@@ -19,6 +19,12 @@ inline std::vector<Vector> samples(std::size_t most) {
     return !vector.out || vector.type == QUARN_ASN1_EOC || vector.in.size() > most;
   });
   return all;
+}
+
+// The DER encodings that tools/notation/samples.py makes of every structured type, by an encoder of
+// its own.
+inline std::vector<Vector> structured_samples() {
+  return read_vectors(QUARN_SOURCE_DIR "/tests/vectors/gen/samples.vec");
 }
 
 }  // namespace quarn::test

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "quarn_asn1/json.h"
+#include "tests/support/streams.h"
 
 namespace quarn::test {
 
@@ -14,11 +15,6 @@ struct FreeJson {
   void operator()(quarn_json *j) const { quarn_json_free(j); }
 };
 using Json = std::unique_ptr<quarn_json, FreeJson>;
-
-struct FreeBlob {
-  void operator()(quarn_data_blob *b) const { quarn_data_blob_free(b); }
-};
-using Blob = std::unique_ptr<quarn_data_blob, FreeBlob>;
 
 // Octets of hex with blanks anywhere.
 inline std::string from_hex(const std::string &hex) {

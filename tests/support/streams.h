@@ -23,6 +23,11 @@ struct FreeContext {
 };
 using Context = std::unique_ptr<quarn_err_ctx, FreeContext>;
 
+struct FreeBlob {
+  void operator()(quarn_data_blob *b) const { quarn_data_blob_free(b); }
+};
+using Blob = std::unique_ptr<quarn_data_blob, FreeBlob>;
+
 struct FreeMemory {
   void operator()(void *p) const { quarn_free(p); }
 };

@@ -182,7 +182,7 @@ std::vector<Vector> read_vectors(const std::string &path) {
 
 std::vector<Vector> read_vector_folder(const std::string &folder) {
   std::vector<std::string> paths;
-  for (const auto &entry : std::filesystem::directory_iterator(folder)) {
+  for (const auto &entry : std::filesystem::recursive_directory_iterator(folder)) {
     if (entry.path().extension() == ".vec") paths.push_back(entry.path());
   }
   std::sort(paths.begin(), paths.end());

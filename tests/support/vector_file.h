@@ -1,4 +1,5 @@
-// Reads .vec files, in which a case is a row, or lines of `key = value` when it is too long for one:
+// Reads .vec files, in which a case is a row, or lines of `key = value` when it is too long for
+// one:
 //
 //     type = boolean
 //     01 01 FF | same       | true
@@ -38,7 +39,7 @@ struct Vector {
 // All vectors of a file. Throws std::runtime_error with file and line for a line it cannot read.
 std::vector<Vector> read_vectors(const std::string &path);
 
-// All vectors of a folder's .vec files, in the order of file names.
+// All vectors of the .vec files in a folder and below, in the order of file names.
 std::vector<Vector> read_vector_folder(const std::string &folder);
 
 }  // namespace quarn::test

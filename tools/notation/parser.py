@@ -11,7 +11,7 @@ TYPE_NOTES = {"id": NUMBER, "prefix": WORD, "new": "none|own", "accessors": "own
               "keep": "encoding|body", "codec": CONSTANT, "value": WORD, "wire": "sequence", "first": NUMBER,
               "tail": "open", "strings": None}
 ALSO_NOTES = {word: TYPE_NOTES[word] for word in ("id", "prefix", "new", "accessors", "check")}
-COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive",
+COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive|exact",
                    "through": None}
 
 TWO_WORDS = {"BIT": "STRING", "OCTET": "STRING", "OBJECT": "IDENTIFIER"}

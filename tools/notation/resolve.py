@@ -170,6 +170,8 @@ class Resolver:
                                ("through", "record")):
                 if word in component.notes and definition.kind != kind:
                     definition.fail(f"{word} is for components of a {KINDS[kind]}", component.line)
+            if component.notes.get("form") == "exact" and (component.presence != "optional" or component.tag):
+                definition.fail("form=exact is for OPTIONAL components without a tag", component.line)
             if definition.is_strings and component.row.id not in CHARACTER_STRINGS:
                 definition.fail(f"{component.name} is no character string", component.line)
         if definition.kind == "choice":

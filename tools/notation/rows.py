@@ -29,14 +29,14 @@ def field(definition, component):
     if component.tag is not None:
         notes.append(f"{component.tag[1]}_tag({component.tag[0]})")
     if component.presence == "optional":
-        notes.append("optional()")
+        notes.append("optional_exact()" if component.notes.get("form") == "exact" else "optional()")
     elif isinstance(component.default, bytes):
         notes.append(f"default_encoding({default_constant(definition, component)})")
     elif component.presence == "default":
         notes.append(f"defaults_to({str(component.default).lower()})")
     if "written" in component.notes:
         notes.append(f"written_tag({component.notes['written']})")
-    if "form" in component.notes:
+    if component.notes.get("form") == "primitive":
         notes.append("primitive_form()")
     return call("    field(", notes, "),") + "\n"
 

@@ -1,0 +1,133 @@
+// What holds for every structured type, tried on the samples made from the notation.
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "core/build.h"
+#include "tests/laws/use.h"
+#include "tests/support/allocation.h"
+#include "tests/support/elements.h"
+
+namespace quarn::test {
+namespace {
+
+// Ids of types that this version has, from and to; a type whose notation were lost would otherwise
+// go unnoticed.
+constexpr std::int64_t kStructured[][2] = {
+    {28, 53},   {55, 55},   {57, 57},   {61, 89},   {91, 92},   {135, 143}, {198, 198},
+    {217, 217}, {219, 224}, {245, 246}, {250, 250}, {252, 260}, {277, 291}, {299, 300},
+};
+
+TEST(Structure, every_row_has_two_samples) {
+  std::map<std::int64_t, int> count;
+  for (const Vector &sample : structured_samples()) count[sample.type]++;
+  for (const auto &[from, to] : kStructured) {
+    for (std::int64_t id = from; id <= to; id++) EXPECT_GE(count[id], 2) << "type " << id;
+  }
+  for (std::int64_t id = 0; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    if (asn1::find_type(id)->schema != nullptr) {
+      EXPECT_GE(count[id], 2) << "type " << id;
+    }
+  }
+}
+
+TEST(Structure, der_is_written_anew_as_it_was_read) {
+  for_each(structured_samples(), [](const Vector &sample) {
+    const Decoded decoded(sample.type, sample.in);
+    EXPECT_TRUE(is_whole(sample.type, decoded.value()));
+    EXPECT_EQ(fresh_encoding_of(sample.type, decoded.value()), *sample.out);
+  });
+}
+
+TEST(Structure, indefinite_lengths_are_kept_with_the_octets_and_are_definite_anew) {
+  for_each(structured_samples(), [](const Vector &sample) {
+    const Octets indefinite = written(*elements_of(sample.in), Lengths::indefinite);
+    use(sample.type, indefinite);
+    const Decoded decoded(sample.type, indefinite);
+    ASSERT_EQ(decoded.consumed(), static_cast<std::int64_t>(indefinite.size()));
+    if (asn1::find_type(sample.type)->schema->keep != asn1::Keep::nothing) {
+      EXPECT_EQ(encoding_of(sample.type, decoded.value()), indefinite);
+    }
+    EXPECT_EQ(fresh_encoding_of(sample.type, decoded.value()), *sample.out);
+  });
+}
+
+TEST(Structure, parts_missing_doubled_swapped_or_emptied_give_an_error_or_a_sound_value) {
+  Allocation allocation;
+  for_each_sample(600, [](const Vector &sample) {
+    auto whole = elements_of(sample.in);
+    if (!whole) return;
+    for_each_parts(*whole, [&](std::vector<Element> &parts) {
+      const std::vector<Element> original = parts;
+      const auto use_changed = [&] {
+        use(sample.type, written(*whole, Lengths::definite));
+        parts = original;
+      };
+      for (std::size_t i = 0; i < original.size(); i++) {
+        const auto at = static_cast<std::ptrdiff_t>(i);
+        parts.erase(parts.begin() + at);
+        use_changed();
+        parts.insert(parts.begin() + at, original[i]);
+        use_changed();
+        std::swap(parts[i], parts[(i + 1) % parts.size()]);
+        use_changed();
+        parts[i].content.clear();
+        parts[i].parts.clear();
+        use_changed();
+      }
+    });
+  });
+  EXPECT_EQ(allocation.live_blocks(), 0);
+}
+
+// The components of a record, as its constructor is given them.
+std::vector<const void *> parts_of(quarn_asn1_type_id id, void *value) {
+  void **parts = asn1::components(value);
+  return std::vector<const void *>(parts, parts + asn1::type_of(id).schema->fields.size());
+}
+
+// A value made of the components of another, as its constructor makes it. Lists have none.
+void *build_from(quarn_asn1_type_id id, void *value) {
+  if (!asn1::type_of(id).schema->is_choice()) return asn1::build_record(id, parts_of(id, value));
+  const std::uint64_t number = asn1::alternative_number(asn1::type_of(id), value);
+  return asn1::build_alternative(id, number, asn1::alternative_of(id, value, number));
+}
+
+TEST(Structure, values_are_built_from_components_or_not_at_all) {
+  for_each(structured_samples(), [](const Vector &sample) {
+    const auto id = static_cast<quarn_asn1_type_id>(sample.type);
+    if (asn1::type_of(id).schema->is_list()) return;
+    fail_each_allocation([&](Allocation &allocation) {
+      const Decoded decoded(sample.type, sample.in);
+      if (decoded.value() == nullptr) return;
+      void *built = build_from(id, decoded.value());
+      EXPECT_TRUE(built != nullptr || allocation.failed());
+      allocation.never_fail();
+      if (built != nullptr) {
+        EXPECT_EQ(encoding_of(sample.type, built), *sample.out);
+      }
+      EXPECT_EQ(fresh_encoding_of(sample.type, decoded.value()), *sample.out) << "unharmed";
+      quarn_asn1_value_free(sample.type, built);
+    });
+  });
+}
+
+TEST(Structure, what_is_mandatory_must_be_given_and_nothing_else) {
+  for_each(structured_samples(), [](const Vector &sample) {
+    const auto id = static_cast<quarn_asn1_type_id>(sample.type);
+    const asn1::Schema &schema = *asn1::type_of(id).schema;
+    if (schema.is_list() || schema.is_choice()) return;
+    const Decoded decoded(sample.type, sample.in);
+    for (std::size_t i = 0; i < schema.fields.size(); i++) {
+      std::vector<const void *> parts = parts_of(id, decoded.value());
+      parts[i] = nullptr;
+      void *built = asn1::build_record(id, parts);
+      EXPECT_EQ(built == nullptr, schema.fields[i].mandatory()) << schema.fields[i].name;
+      EXPECT_TRUE(is_whole(id, built));
+      quarn_asn1_value_free(id, built);
+    }
+  });
+}
+
+}  // namespace
+}  // namespace quarn::test
