@@ -152,6 +152,7 @@ class Types(Case):
         for name in ("Extensions", "extensions", "x509extensions", "37"):
             self.check(Run("decode", "--type", name, data=b"\x30\0"), 0)
         for name, text in [("Extensons", "did you mean 'Extensions'?"), ("421", "'quarn types' lists them"),
+                           ("x509NameConstraints", "did you mean 'x509nameconstaints'?"),
                            ("ldapmessage", "cannot decode"), ("\x1b", "'\\u{1B}'")]:
             self.check(Run("decode", "--type", name, data=b"\x30\0"), 2, text)
 
@@ -167,6 +168,8 @@ class Types(Case):
         self.check(run, 1, "offset 2 (0x2): found INTEGER", "path      extnID",
                    "expected  OBJECT IDENTIFIER, in a value of Extension", "0x1020a")
         self.check(Run("decode", data=b"\x30\x05\x02\x01"), 1, "expected  at most 0 octets")
+        run = Run("decode", "-t", "pkixnameconstaints", data=bytes.fromhex("3006a204800200aa"))
+        self.check(run, 1, "offset 4 (0x4): found [0]", "a value of NameConstraints (pkixnameconstaints)", "0x102ce")
 
     def test_labels_tell_the_type(self):
         pem = self.file("a.pem", "-----BEGIN PUBLIC KEY-----\nMAA=\n-----END PUBLIC KEY-----\n"
