@@ -133,6 +133,9 @@ class Values(Case):
             self.assertNotIn("\u202e".encode(), out)
             for octet in out:
                 self.assertTrue(octet == 10 or octet >= 32 and octet != 127, arguments)
+        name = bytes.fromhex("3010 310e 300c 0603550403 0c05 61 e280ae 62")
+        found = Run("decode", "-t", "Name", "--json", data=name)
+        self.assertIn(r'"a\u202Eb"', found.out)
 
     def test_deep_values_end_well_on_a_small_stack(self):
         depth = 100000
