@@ -65,10 +65,23 @@ bool has_label(const char *labels, const std::string &label) {
   return !label.empty() && std::find(all.begin(), all.end(), label) != all.end();
 }
 
+std::string registered_name(std::int64_t type_id) {
+  quarn_asn1_type_description type{};
+  return quarn_asn1_type_describe(type_id, &type) == 1 ? type.name : "";
+}
+
+// The name of a type, with the registered one where several types have the same.
+std::string full_name(std::int64_t type_id) {
+  const std::string name = notation_of(type_id);
+  std::int64_t first = 1;
+  while (first < type_id && notation_of(first) != name) first++;
+  return first == type_id ? name : name + " (" + registered_name(type_id) + ")";
+}
+
 // The type that should have stood where a decoder failed: that of the first record which is about a
 // type, for which layers leave the code of the component that failed.
 std::string expected_of(const Decoded &tried) {
-  const std::string whole = notation_of(tried.type_id());
+  const std::string whole = full_name(tried.type_id());
   for (const Record &record : tried.records()) {
     for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
       quarn_asn1_type_description type{};
@@ -115,11 +128,6 @@ bool try_type(Guess &result, std::int64_t type_id, Octets octets) {
     result.others.push_back(type_id);
   }
   return true;
-}
-
-std::string registered_name(std::int64_t type_id) {
-  quarn_asn1_type_description type{};
-  return quarn_asn1_type_describe(type_id, &type) == 1 ? type.name : "";
 }
 
 bool same_word(const std::string &a, const std::string &b) {
