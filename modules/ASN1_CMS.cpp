@@ -1,7 +1,7 @@
 // Messages: what their notation cannot say.
 #include "core/build.h"
-#include "core/engine.h"
 #include "modules/own.h"
+#include "modules/signed_data.h"
 #include "quarn_asn1/cms.h"
 #include "types/any.h"
 
@@ -9,25 +9,12 @@ namespace quarn::asn1 {
 
 namespace {
 
-// Where the components of a signed message stand in its value, and what stands behind them.
-enum SignedDataPosition : std::uint8_t {
-  kContentInfo = 2,
-  kContentInfoEnd = 3,
-  kSignerInfos = 5,
-  kContentEnd = 6,
-  kForm = 7
-};
 constexpr std::size_t kContent = 1;        // of a ContentInfo
 constexpr std::int32_t kStandsAlone = 1;   // the form of a message that no decoder has told
 constexpr std::uint64_t kOctetString = 4;  // universal tag
 
-std::int64_t *positions_of(const quarn_pkcs7signeddata *message) {
-  const Schema &schema = *type_of(QUARN_ASN1_PKCS7SIGNEDDATA).schema;
-  return positions_in(schema, const_cast<quarn_pkcs7signeddata *>(message));
-}
-
 std::int64_t position_of(const quarn_pkcs7signeddata *message, SignedDataPosition position) {
-  return message == nullptr ? -1 : positions_of(message)[position];
+  return message == nullptr ? -1 : positions_in_message(message)[position];
 }
 
 // PKCS #7 signs content of any type, CMS the octets of an OCTET STRING.
@@ -41,7 +28,7 @@ bool signs_octets(const void *value) {
 // Of a message of size octets: its positions, which count from the content on, count from its first
 // octet. Callers go back to their stream with them.
 void count_from_identifier(void *value, std::uint64_t size) {
-  std::int64_t *positions = positions_of(static_cast<quarn_pkcs7signeddata *>(value));
+  std::int64_t *positions = positions_in_message(value);
   const std::int64_t header = static_cast<std::int64_t>(size) - positions[kContentEnd];
   for (const auto position : {kContentInfo, kContentInfoEnd, kSignerInfos}) {
     positions[position] += header;
@@ -90,7 +77,7 @@ quarn_pkcs7signeddata *quarn_pkcs7signeddata_new0(quarn_asn1_integer *version,
       signer_infos == nullptr) {
     return nullptr;
   }
-  void *message = new_record(*type_of(QUARN_ASN1_PKCS7SIGNEDDATA).schema);
+  void *message = new_record(signed_data_schema());
   if (message == nullptr) return nullptr;
   void **component = components(message);
   for (void *part : std::initializer_list<void *>{version, digest_algorithms, content_info,
@@ -102,7 +89,7 @@ quarn_pkcs7signeddata *quarn_pkcs7signeddata_new0(quarn_asn1_integer *version,
 
 int32_t quarn_pkcs7signeddata_gettype(const quarn_pkcs7signeddata *message) {
   if (message == nullptr) return -1;
-  const std::int64_t form = positions_of(message)[kForm];
+  const std::int64_t form = positions_in_message(message)[kForm];
   return form < 0 ? kStandsAlone : static_cast<std::int32_t>(form);
 }
 

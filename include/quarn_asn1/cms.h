@@ -421,6 +421,21 @@ QUARN_ASN1_API quarn_pkcs7signeddata *quarn_pkcs7signeddata_new0(
     quarn_asn1_list *crls,
     quarn_asn1_list *signer_infos);
 /**
+ * Decodes a signed message in one pass, from any stream, and notes what it stood in and, counted
+ * from where the stream was, where its parts are. The message is a ContentInfo of the type signed
+ * data, or signed data of SM2, or a SignedData alone; what follows it is not read.
+ *
+ * The result is 1 with a null message for what begins otherwise: with anything but a SEQUENCE,
+ * which is not recorded, or with a SEQUENCE that holds no signed message. A ContentInfo of another
+ * type is a failure.
+ *
+ * @param consumed  receives the number of octets read when there is a message; may be null
+ */
+QUARN_ASN1_API int quarn_asn1_decode_pkcs7signeddata(quarn_stream *stream,
+                                                     quarn_pkcs7signeddata **message,
+                                                     uint64_t *consumed,
+                                                     quarn_err_ctx *ctx);
+/**
  * What it stood in: 0 a ContentInfo, 1 nothing, 2 a ContentInfo of the type signed data of SM2.
  * Always 1 but for a value from quarn_asn1_decode_pkcs7signeddata(); -1 for null.
  */
