@@ -25,7 +25,7 @@ void PushMachine::start(Accepts accepts, Level *levels, int deepest) {
   accepts_ = accepts;
   levels_ = levels;
   deepest_ = deepest;
-  levels_[0] = {kNoEnd, accepts == Accepts::any_element};
+  levels_[0] = {kNoEnd, kNoEnd, accepts == Accepts::any_element};
 }
 
 bool PushMachine::start_in_content(bool primitive, std::int64_t length) {
@@ -79,7 +79,7 @@ inline std::uint8_t PushMachine::octet(Slice &slice) {
 
 bool PushMachine::take_tag(Slice &slice) {
   const Level &level = levels_[depth_];
-  if (position_ >= level.end) return false;
+  if (position_ >= level.limit) return false;
   const std::uint8_t first = octet(slice);
   header_ = {first & 0xC0u, (first & kConstructed) == 0, first & 0x1Fu, 0};
   if (first == 0 && level.until_eoc) {
@@ -132,7 +132,7 @@ bool PushMachine::take_more_length(Slice &slice) {
 }
 
 bool PushMachine::take_end_of_contents(Slice &slice) {
-  if (position_ >= levels_[depth_].end || octet(slice) != 0) return false;
+  if (position_ >= levels_[depth_].limit || octet(slice) != 0) return false;
   end_level();
   return true;
 }
@@ -143,6 +143,7 @@ bool PushMachine::take_content(Slice &slice, quarn_stream *out) {
     return true;
   }
   const std::uint64_t count = std::min(remaining_, slice.left);
+  if (count > levels_[depth_].limit - position_) return false;
   if (accepts_ == Accepts::octet_strings &&
       quarn_stream_writen(out, slice.next, static_cast<std::int64_t>(count), nullptr) != 1) {
     return false;
@@ -153,10 +154,12 @@ bool PushMachine::take_content(Slice &slice, quarn_stream *out) {
   return true;
 }
 
-// The header is complete. Content that is empty waits for an octet behind it.
+// The header is complete. What it claims must fit into the level, and what comes into all levels
+// around: within indefinite length an item may end early after all. Empty content waits for an
+// octet behind it.
 bool PushMachine::enter_content(std::int64_t length) {
   const Level level = levels_[depth_];
-  if (position_ > level.end || (!header_.primitive && depth_ == deepest_)) return false;
+  if (position_ > level.limit || (!header_.primitive && depth_ == deepest_)) return false;
   const bool until_eoc = length == kIndefinite;
   const std::uint64_t count = until_eoc ? 0 : static_cast<std::uint64_t>(length);
   if (count > level.end - position_) return false;
@@ -164,14 +167,15 @@ bool PushMachine::enter_content(std::int64_t length) {
   remaining_ = count;
   state_ = State::content;
   if (!header_.primitive && length != 0) {
-    levels_[++depth_] = {until_eoc ? level.end : position_ + count, until_eoc};
+    const std::uint64_t end = until_eoc ? kNoEnd : position_ + count;
+    levels_[++depth_] = {end, std::min(end, level.limit), until_eoc};
     state_ = State::tag;
   }
   return true;
 }
 
 void PushMachine::end_item() {
-  while (depth_ > 0 && !levels_[depth_].until_eoc && position_ == levels_[depth_].end) depth_--;
+  while (depth_ > 0 && position_ == levels_[depth_].end) depth_--;
   state_ = depth_ == 0 ? State::end : State::tag;
 }
 

@@ -32,8 +32,9 @@ class PushMachine {
  public:
   // Constructed content, and what is around the element (level 0).
   struct Level {
-    std::uint64_t end;  // position at which the innermost definite length around an item ends
-    bool until_eoc;     // an end-of-contents may stand in place of an item
+    std::uint64_t end;    // position at which its length ends; none when indefinite
+    std::uint64_t limit;  // the nearest end of all levels around, itself included
+    bool until_eoc;       // an end-of-contents may stand in place of an item
   };
 
   enum class Accepts : std::uint8_t { any_element, octet_strings };

@@ -138,6 +138,7 @@ TEST(Push, slices_make_no_difference_to_an_element) {
       {hex("30 04 00 00 01 00 FF"), 4, false},          // no end-of-contents, but an empty item
       {hex("30 80 30 80 05 00 05 00 00 00"), 8, false},
       {hex("30 04 30 80 05 00 FF"), 6, true},  // complete with its last octet all the same
+      {hex("30 0B 30 80 30 09 05 00 02 01 07 00 00"), 13, true},  // 30 09 ends in time
       {hex("9F 1F 81 02 41 42 FF"), 6, true},
       {hex("BF 7F 7F 80 1F 00 20 81 01 41 00 00 FF"), 12, false},
       {nested(128, hex("02 01 05")), 515, false},  // X.690 sets no limit, but the value has one
@@ -219,7 +220,7 @@ TEST(Push, what_cannot_become_an_element_fails_at_once) {
        {"04 80", "30 FF", "00 01", "9F 81", "9F 1E 81", "9F 01 00 00 00 00 00 00 00 00",
         "04 88 80 00 00 00 00 00 00 00", "04 89 01 00 00 00 00 00 00 00 00", "30 80 00 01",
         "30 80 04 80", "30 05 02 04", "30 01 30 80", "30 02 02 82 01 00", "30 02 30 80 00",
-        "30 04 30 80 02 01", "30 05 30 80 02 01 07 00", "30 06 30 80 02 01 07 00 00",
+        "30 04 30 80 02 01 07", "30 05 30 80 02 01 07 00", "30 06 30 80 02 01 07 00 00",
         "30 08 30 03 02 01 07 02 02"}) {
     expect_failure<Any>(hex(row));
   }
