@@ -58,8 +58,9 @@ Slice slice_of(const std::uint8_t *data, std::int64_t length) {
   return {data, static_cast<std::uint64_t>(length)};
 }
 
-// Keeps what the machine took of the slice, in one copy.
+// Keeps what the machine took of the slice, in one copy. An empty slice may be null.
 bool keep(AnyContext &c, const std::uint8_t *begin, const Slice &rest) {
+  if (begin == nullptr) return true;
   if (c.octets.append(begin, static_cast<std::size_t>(rest.next - begin))) return true;
   c.machine.fail();
   return false;

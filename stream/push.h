@@ -15,7 +15,6 @@
 #ifndef QUARN_STREAM_PUSH_H
 #define QUARN_STREAM_PUSH_H
 
-#include <cstddef>
 #include <cstdint>
 
 #include "quarn_util.h"
