@@ -5,9 +5,11 @@
 //
 // One walk judges identifiers and lengths, content (content.h), strings in pieces and the order of
 // sets. A fault that hides where elements start ends the search in the element around it only, when
-// the end of that one is known. Nothing but the open sets and strings is remembered.
+// the end of that one is known. Nothing but the open sets and strings is remembered. What only the
+// type tells is judged besides, where it is known (typed_check.h).
 #include <algorithm>
 #include <cstring>
+#include <map>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -15,23 +17,17 @@
 #include "cli/commands.h"
 #include "cli/content.h"
 #include "cli/failure.h"
+#include "cli/finding.h"
+#include "cli/guess.h"
 #include "cli/input.h"
 #include "cli/output.h"
+#include "cli/typed_check.h"
 #include "cli/value.h"
 #include "cli/walk.h"
 
 namespace quarn::cli {
 
 namespace {
-
-struct Finding {
-  Rule rule;
-  std::uint64_t offset;
-  std::string path;
-  std::string found;
-  std::string expected = text_of(rule).text;
-  std::string clause = text_of(rule).clause;
-};
 
 class Findings {
  public:
@@ -97,9 +93,13 @@ UniversalType type_of(const Element &element) {
 // One object, judged from its first octet to its last.
 class Judge {
  public:
-  Judge(Octets octets, bool dig, Findings &findings)
+  // Strings in `opened` are known to hold encodings; see cli/typed_check.h.
+  using Opened = std::map<std::uint64_t, std::uint64_t>;
+
+  Judge(Octets octets, bool dig, const Opened &opened, Findings &findings)
       : octets_(octets),
         dig_(dig),
+        opened_(opened),
         walk_(octets, Walk::Top::one, Walk::Tags::lenient),
         findings_(findings) {}
 
@@ -122,21 +122,21 @@ class Judge {
   }
   void fault();
   void element();
+  // Where the encodings inside a primitive element start in its content, if it holds any.
+  std::optional<std::uint64_t> inside() const;
   void check_identifier();
   void check_length();
   void check_form();
   void check_component();
   void check_segment(const Open &string);
   void check_order(Open &set);
-  void check_default();
 
   Octets octets_;
   bool dig_;
+  const Opened &opened_;
   Walk walk_;
   Findings &findings_;
   std::vector<Open> open_;  // outermost first
-  Element before_last_;     // the elements before the current one
-  Element last_;
 };
 
 void Judge::run() {
@@ -165,8 +165,6 @@ void Judge::element() {
   check_length();
   check_component();
   check_form();
-  check_default();
-  before_last_ = std::exchange(last_, element);
   if (element.constructed()) return;
   if (element.header.tag_class == kUniversal) {
     check_content(element.header.tag_number, walk_.content(),
@@ -175,8 +173,14 @@ void Judge::element() {
                     add(rule, start + at, found);
                   });
   }
-  const std::optional<std::uint64_t> inside = dig_ ? encapsulated(walk_) : std::nullopt;
-  if (inside) walk_.descend(*inside);
+  const std::optional<std::uint64_t> encodings = inside();
+  if (encodings) walk_.descend(*encodings);
+}
+
+std::optional<std::uint64_t> Judge::inside() const {
+  if (!dig_) return std::nullopt;
+  const auto known = opened_.find(walk_.element().offset);
+  return known == opened_.end() ? encapsulated(walk_) : std::optional(known->second);
 }
 
 void Judge::check_identifier() {
@@ -276,28 +280,13 @@ void Judge::check_order(Open &set) {
       "a component that should stand before that at offset " + std::to_string(last->offset));
 }
 
-// The one DEFAULT that shows without a schema, and is often written in vain: SEQUENCE { OID,
-// BOOLEAN FALSE, OCTET STRING } is an extension that says that it is not critical.
-void Judge::check_default() {
-  const Element &element = walk_.element();
-  if (!element.universal(1) || element.constructed() || element.content_length() != 1) return;
-  const bool shape = before_last_.universal(16) && before_last_.constructed() &&
-                     before_last_.depth + 1 == element.depth && last_.universal(6) &&
-                     last_.offset == before_last_.content_offset();
-  if (!shape || walk_.content()[0] != 0) return;
-  const Octets rest = octets_.subspan(walk_.position());
-  quarn_asn1_header next{};
-  const auto count = static_cast<std::int64_t>(rest.size());
-  if (quarn_asn1_mem_header(rest.data(), count, &next) != 1) return;
-  if (next.tag_class != kUniversal || next.tag_number != 4) return;
-  add(Rule::default_value, element.offset, "FALSE, between OID and OCTET STRING");
-}
-
 // Reports what is found, for people or for programs.
 class Check : public Visitor {
  public:
   explicit Check(const Arguments &arguments)
-      : dig_(!arguments.has(Opt::no_dig)), json_(arguments.has(Opt::json)) {}
+      : dig_(!arguments.has(Opt::no_dig)), json_(arguments.has(Opt::json)) {
+    if (arguments.has(Opt::type)) type_id_ = type_named("check", arguments.value(Opt::type));
+  }
 
   void object(const Source &source, const Object &object, bool several) override;
   void failure(const std::string &path, const Object *object, const Failure &failure) override;
@@ -308,6 +297,7 @@ class Check : public Visitor {
 
   bool dig_;
   bool json_;
+  std::int64_t type_id_ = -1;
   bool found_ = false;
 };
 
@@ -353,7 +343,14 @@ void Check::object(const Source &source, const Object &object, bool /*several*/)
         {Rule::nothing_after, 0, "",
          counted(object.octets.size(), "octet") + " after an encoding that make none"});
   }
-  Judge(object.octets, dig_, reporter).run();
+  const Decoded value =
+      type_id_ >= 0 ? Decoded(type_id_, object.octets) : recognise(object.octets, object.label);
+  TypedFindings typed;
+  if (value.get() != nullptr) typed = judge_typed(value, object.octets, dig_);
+  Judge(object.octets, dig_, typed.opened, reporter).run();
+  for (const Finding &finding : typed.findings) reporter.add(finding);
+  const bool wrong_type = type_id_ >= 0 && value.get() == nullptr;
+  if (wrong_type && well_formed(object.octets)) decode_as(type_id_, object.octets);
 }
 
 void Check::failure(const std::string &path, const Object *object, const Failure &failure) {

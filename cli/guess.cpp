@@ -65,10 +65,23 @@ bool has_label(const char *labels, const std::string &label) {
   return !label.empty() && std::find(all.begin(), all.end(), label) != all.end();
 }
 
+std::string registered_name(std::int64_t type_id) {
+  quarn_asn1_type_description type{};
+  return quarn_asn1_type_describe(type_id, &type) == 1 ? type.name : "";
+}
+
+// The name of a type, with the registered one where several types have the same.
+std::string full_name(std::int64_t type_id) {
+  const std::string name = notation_of(type_id);
+  std::int64_t first = 1;
+  while (first < type_id && notation_of(first) != name) first++;
+  return first == type_id ? name : name + " (" + registered_name(type_id) + ")";
+}
+
 // The type that should have stood where a decoder failed: that of the first record which is about a
 // type, for which layers leave the code of the component that failed.
 std::string expected_of(const Decoded &tried) {
-  const std::string whole = notation_of(tried.type_id());
+  const std::string whole = full_name(tried.type_id());
   for (const Record &record : tried.records()) {
     for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
       quarn_asn1_type_description type{};
@@ -117,11 +130,6 @@ bool try_type(Guess &result, std::int64_t type_id, Octets octets) {
   return true;
 }
 
-std::string registered_name(std::int64_t type_id) {
-  quarn_asn1_type_description type{};
-  return quarn_asn1_type_describe(type_id, &type) == 1 ? type.name : "";
-}
-
 bool same_word(const std::string &a, const std::string &b) {
   return strcasecmp(a.c_str(), b.c_str()) == 0;
 }
@@ -157,6 +165,19 @@ Guess guess(Octets octets, const std::string &label) {
   }
   std::stable_sort(result.failed.begin(), result.failed.end(), nearer);
   return result;
+}
+
+Decoded recognise(Octets octets, const std::string &label) {
+  const bool told =
+      std::any_of(std::begin(kCandidates), std::end(kCandidates),
+                  [&](const auto &candidate) { return has_label(candidate.labels, label); });
+  for (const auto &candidate : kCandidates) {
+    const bool fits = told ? has_label(candidate.labels, label) : candidate.sure;
+    if (!fits || !supported(candidate.type_id)) continue;
+    Decoded value(candidate.type_id, octets);
+    if (value.get() != nullptr) return value;
+  }
+  return {};
 }
 
 Failure no_type(const Guess &guess, Octets octets) {

@@ -22,6 +22,10 @@ struct Guess {
 // Tries the types that stand alone in files. `label` is that of the PEM block, or empty.
 Guess guess(Octets octets, const std::string &label);
 
+// The octets as a value of the type that the label tells, or that they are of beyond doubt; null
+// when there is none.
+Decoded recognise(Octets octets, const std::string &label);
+
 // The failure of octets that fit none of the types tried.
 Failure no_type(const Guess &guess, Octets octets);
 

@@ -6,6 +6,7 @@
 #include "cli/handles.h"
 #include "cli/input.h"
 #include "cli/output.h"
+#include "cli/text.h"
 #include "quarn_asn1/json.h"
 
 namespace quarn::cli {
@@ -23,9 +24,29 @@ Json document_of(const Object &object) {
   return json;
 }
 
+// Where the pieces of a document's text go.
+struct Destination {
+  Output &output;
+  JsonText text;
+};
+
+int write_piece(void *user, const void *buffer, std::int64_t count) noexcept {
+  auto &to = *static_cast<Destination *>(user);
+  const std::string_view piece(static_cast<const char *>(buffer), static_cast<std::size_t>(count));
+  try {
+    return to.output.try_write(to.text.escaped(piece)) ? 1 : 0;
+  } catch (...) {
+    return 0;
+  }
+}
+
 // The document on standard output, piece by piece.
 void write(const quarn_json *json, int indent) {
-  const Stream stream(stream_of(standard_output()));
+  Destination to{standard_output(), {}};
+  quarn_stream_callbacks callbacks{};
+  callbacks.write = write_piece;
+  const Stream stream(quarn_stream_new_callback(&callbacks, &to, nullptr));
+  if (stream == nullptr) throw std::bad_alloc();
   if (quarn_json_write(json, indent, stream.get(), nullptr) == 1) return;
   standard_output().flush();  // throws when it was the writing that failed
   throw std::bad_alloc();

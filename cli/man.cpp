@@ -74,9 +74,9 @@ constexpr const char *kErrors =
 
 constexpr const char *kMemory =
     "All commands hold each input file in memory, one at a time. `json` and `der` hold the "
-    "document too, some tens of times the octets; `dump` and `check` need memory only for the "
-    "depth "
-    "of the nesting. Nesting may be of any depth, but `json` takes fewer than 128 elements of "
+    "document too, some tens of times the octets; `dump` needs memory only for the depth of "
+    "the nesting, and so does `check` where it knows no type. Nesting may be of any depth, but "
+    "`json` takes fewer than 128 elements of "
     "indefinite "
     "length directly inside one another. Links to directories are not followed with `--recursive`.";
 

@@ -120,16 +120,19 @@ std::vector<Command> form_commands() {
        "List every departure from DER",
        "Writes a line for each place where an encoding is not DER: the offset in the object, the "
        "path of the element, what was found and what was expected, and the clause of X.690 (2021) "
-       "with the name of the rule. Nothing is written for DER. What only a schema tells cannot be "
-       "judged: types behind tags of their own, most DEFAULT values, trailing zeros of named bits. "
+       "with the name of the rule. Nothing is written for DER. What only the type tells, such as "
+       "DEFAULT values that are written and what stands under tags of its own, is judged too when "
+       "the type is known: by --type, by the label of a PEM block, or when the octets leave no "
+       "doubt, as those of certificates, CRLs and requests do. "
        "A SET of different tags may be ordered by its tags or by its encodings. Encodings inside "
        "OCTET STRING and BIT STRING, such as the values of extensions, are judged too where they "
        "make sense. With --json each line is a JSON object. The exit code is 1 when there is a "
        "departure; a file that cannot be judged gives the codes of all commands.",
-       {Opt::in_form, Opt::recursive, Opt::no_dig, Opt::json},
+       {Opt::type, Opt::in_form, Opt::recursive, Opt::no_dig, Opt::json},
        {{"quarn check server.pem && echo DER", "whether a certificate is DER"},
         {"quarn check --json -r DIR | jq -r 'select(.finding).finding.rule' | sort | uniq -c",
-         "which rules the files of a directory break, and how often"}},
+         "which rules the files of a directory break, and how often"},
+        {"quarn check --type Extensions cut.der", "a part that was cut out"}},
        0,
        SIZE_MAX,
        run_check},

@@ -32,11 +32,6 @@ bool set(const char *variable) {
   return value != nullptr && *value != '\0';
 }
 
-int write_callback(void *user, const void *buffer, int64_t count) {
-  const auto *text = static_cast<const char *>(buffer);
-  return static_cast<Output *>(user)->try_write({text, static_cast<std::size_t>(count)}) ? 1 : 0;
-}
-
 }  // namespace
 
 void Output::empty_buffer(std::string_view more) {
@@ -71,14 +66,6 @@ bool Output::try_write(std::string_view text) noexcept {
 Output &standard_output() {
   static Output output(STDOUT_FILENO, "the standard output");
   return output;
-}
-
-quarn_stream *stream_of(Output &output) {
-  quarn_stream_callbacks callbacks{};
-  callbacks.write = write_callback;
-  quarn_stream *stream = quarn_stream_new_callback(&callbacks, &output, nullptr);
-  if (stream == nullptr) throw std::bad_alloc();
-  return stream;
 }
 
 void say(const std::string &line) {

@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "quarn_util.h"
-
 namespace quarn::cli {
 
 // A buffered descriptor. Failing to write ends the run with kFile; when nobody reads any more it
@@ -35,8 +33,6 @@ class Output {
 struct NobodyReads {};
 
 Output &standard_output();
-// A stream of the support library that ends in an Output, which must outlive it.
-quarn_stream *stream_of(Output &output);
 
 // Writes a line to standard error, after what has been written to standard output.
 void say(const std::string &line);

@@ -12,7 +12,13 @@ namespace quarn::cli {
 
 namespace {
 
-// Edits that turn one word into the other: insertions, deletions, replacements.
+bool same_letter(char a, char b) {
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
+  return lower(a) == lower(b);
+}
+
+// Edits that turn one word into the other: insertions, deletions, replacements. Upper and lower
+// case are the same.
 std::size_t distance(std::string_view a, std::string_view b) {
   std::vector<std::size_t> row(b.size() + 1);
   for (std::size_t j = 0; j <= b.size(); j++) row[j] = j;
@@ -20,7 +26,7 @@ std::size_t distance(std::string_view a, std::string_view b) {
     std::size_t diagonal = row[0];
     row[0] = i;
     for (std::size_t j = 1; j <= b.size(); j++) {
-      const std::size_t replaced = diagonal + (a[i - 1] == b[j - 1] ? 0u : 1u);
+      const std::size_t replaced = diagonal + (same_letter(a[i - 1], b[j - 1]) ? 0u : 1u);
       diagonal = row[j];
       row[j] = std::min({replaced, row[j] + 1, row[j - 1] + 1});
     }

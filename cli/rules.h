@@ -34,6 +34,7 @@ enum class Rule {
   bit_count_missing,
   bit_count_empty,
   bit_padding,
+  named_bits,
   null_content,
   oid_arcs,
   relative_oid_arcs,

@@ -55,7 +55,7 @@ std::string element_json(Octets octets) {
     return "{\"hex\":\"" + plain_hex(octets) + "\"}";
   }
   const OwnedText owned(text);
-  return {text, length};
+  return JsonText().escaped({text, length});
 }
 
 void JsonShow::new_line() const {

@@ -111,7 +111,9 @@ void TextShow::pair(const Node &node, const quarn_asn1_component &attribute) con
 
 // Writes an attribute of a Name, or a set of one, on one line.
 bool TextShow::fold(const Node &node) const {
-  quarn_asn1_component attribute{nullptr, const_cast<void *>(node.value), node.type_id, 0, 0};
+  quarn_asn1_component attribute{};
+  attribute.value = const_cast<void *>(node.value);
+  attribute.type_id = node.type_id;
   if (node.type_id == QUARN_ASN1_X500RDN &&
       quarn_asn1_component_count(node.type_id, node.value) == 1) {
     attribute = component_of(node, 0);

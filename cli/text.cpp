@@ -116,6 +116,20 @@ void append_json_escape(std::string &out, char32_t unit) {
   append_hex(out, unit, 4);
 }
 
+// A character of a JSON string that is no part of the syntax.
+void append_json(std::string &out, char32_t c) {
+  if (c == kInvalid) {
+    out += "\\uFFFD";
+  } else if (hidden(c) && c > 0xFFFF) {
+    append_json_escape(out, 0xD7C0 + (c >> 10));
+    append_json_escape(out, 0xDC00 | (c & 0x3FF));
+  } else if (hidden(c)) {
+    append_json_escape(out, c);
+  } else {
+    append_utf8(out, c);
+  }
+}
+
 // Character strings of an octet a character, and UTF8String.
 std::optional<std::string> narrow_text(std::uint64_t tag_number, Octets content) {
   constexpr std::uint64_t kTags[] = {18, 19, 20, 21, 22, 25, 26, 27};
@@ -174,18 +188,28 @@ std::string json_string(std::string_view text) {
     if (c == '"' || c == '\\') {
       out.push_back('\\');
       out.push_back(static_cast<char>(c));
-    } else if (c == kInvalid) {
-      out += "\\uFFFD";
-    } else if (hidden(c) && c > 0xFFFF) {
-      append_json_escape(out, 0xD7C0 + (c >> 10));
-      append_json_escape(out, 0xDC00 | (c & 0x3FF));
-    } else if (hidden(c)) {
-      append_json_escape(out, c);
     } else {
-      append_utf8(out, c);
+      append_json(out, c);
     }
   }
   return out + "\"";
+}
+
+std::string JsonText::escaped(std::string_view piece) {
+  const auto plain = [](char c) { return static_cast<std::uint8_t>(c) < 0x7F; };
+  rest_ += piece;
+  std::string_view text = rest_;
+  std::string out;
+  while (!text.empty()) {
+    const auto *end = std::find_if_not(text.begin(), text.end(), plain);
+    const auto count = static_cast<std::size_t>(end - text.begin());
+    out += text.substr(0, count);
+    text.remove_prefix(count);
+    if (text.empty() || text.size() < utf8_size(static_cast<std::uint8_t>(text[0]))) break;
+    append_json(out, next_code_point(text));
+  }
+  rest_ = std::string(text);
+  return out;
 }
 
 std::optional<std::string> utf8_text(std::uint64_t tag_number, Octets content) {

@@ -37,6 +37,16 @@ std::size_t utf8_prefix(std::string_view text);
 // escaped; octets that are no UTF-8 become U+FFFD.
 std::string json_string(std::string_view text);
 
+// JSON text that the library has printed, in pieces that may end within a character, with what
+// json_string() escapes in its strings escaped as well.
+class JsonText {
+ public:
+  std::string escaped(std::string_view piece);
+
+ private:
+  std::string rest_;  // the start of a character
+};
+
 // The content of a character string with this universal tag as UTF-8; nothing when it is not valid,
 // and for the character sets of TeletexString and its like where they differ from ASCII.
 std::optional<std::string> utf8_text(std::uint64_t tag_number, Octets content);

@@ -52,6 +52,12 @@ class Walker {
   std::vector<Level> levels_;
 };
 
+void note_tag(std::vector<ContextTag> &tags, const quarn_asn1_component &component) {
+  if (component.tagging == QUARN_ASN1_TAGGING_NONE) return;
+  tags.push_back({static_cast<std::uint64_t>(component.tag),
+                  component.tagging == QUARN_ASN1_TAGGING_EXPLICIT});
+}
+
 // Goes behind a CHOICE. Time and the CHOICEs of strings show in the type of the alternative.
 void Walker::resolve(Node &node) {
   for (;;) {
@@ -60,6 +66,7 @@ void Walker::resolve(Node &node) {
     if (!strings && node.shape.kind != QUARN_ASN1_KIND_CHOICE) return;
     const quarn_asn1_component chosen = component_of(node, 0);
     if (!strings && node.type_id != QUARN_ASN1_TIME) node.alternatives.push_back(chosen.name);
+    note_tag(node.holder < 0 ? node.tags : node.held_tags, chosen);
     node.type_id = chosen.type_id;
     node.value = chosen.value;
   }
@@ -125,6 +132,7 @@ void Walker::step() {
   node.label_width = parent.label_width;
   node.is_default = component.is_default == 1;
   node.names = component_names(node.parent_type, component.name);
+  note_tag(node.tags, component);
   resolve(node);
   if (is_place(parent, index)) open(level, parent);
   if (parent.record != nullptr && parent.record->elements && !parent.elements &&

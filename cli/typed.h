@@ -24,6 +24,12 @@
 
 namespace quarn::cli {
 
+// A context-specific tag [n], around an encoding or in place of its own tag.
+struct ContextTag {
+  std::uint64_t number;
+  bool is_explicit;
+};
+
 // One value on the way.
 struct Node {
   std::int64_t type_id = 0;  // of the value, behind every CHOICE
@@ -38,12 +44,15 @@ struct Node {
   // Names of the alternatives that lead to the value, outermost first.
   std::vector<const char *> alternatives;
   const char *names = nullptr;  // of its bits or numbers
+  // Before its content, outermost first; of what was opened, those of the string or ANY.
+  std::vector<ContextTag> tags;
 
   // Where octets may be opened: what was found.
-  bool place = false;        // octets whose type an identifier tells stand here
-  std::int64_t holder = -1;  // type of the string or ANY that was opened to give the value
-  Octets held;               // its octets
-  std::string trouble;       // why it could not be opened although its type is known
+  bool place = false;                 // octets whose type an identifier tells stand here
+  std::int64_t holder = -1;           // type of the string or ANY that was opened to give the value
+  Octets held;                        // its octets
+  std::vector<ContextTag> held_tags;  // inside these, before the content of the value
+  std::string trouble;                // why it could not be opened although its type is known
 
   bool composed() const {
     return shape.kind == QUARN_ASN1_KIND_RECORD || shape.kind == QUARN_ASN1_KIND_LIST;

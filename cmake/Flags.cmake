@@ -30,5 +30,6 @@ add_library(quarn_container_flags INTERFACE)
 target_link_libraries(quarn_container_flags INTERFACE quarn_flags)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(quarn_container_flags INTERFACE
-    $<$<NOT:$<CONFIG:Debug>>:-Wno-restrict -Wno-array-bounds -Wno-stringop-overread -Wno-maybe-uninitialized>)
+    $<$<NOT:$<CONFIG:Debug>>:-Wno-restrict -Wno-array-bounds -Wno-stringop-overread -Wno-maybe-uninitialized
+      -Wno-free-nonheap-object>)
 endif()

@@ -4,6 +4,7 @@
 // These functions add no record for a failure inside a content codec: whoever decodes a component
 // records that component's code, so that each layer is named once.
 #include "core/adapter.h"
+#include "core/engine.h"
 #include "core/type.h"
 #include "quarn_asn1/core.h"
 #include "types/codecs.h"
@@ -155,6 +156,11 @@ int no_such_type(quarn_err_ctx *ctx) {
 void quarn_asn1_value_free(int64_t type_id, void *value) {
   const Type *type = find_type(type_id);
   if (type != nullptr) free_value(*type, value);
+}
+
+void quarn_asn1_forget_octets(int64_t type_id, void *value) {
+  const Type *type = find_type(type_id);
+  if (type != nullptr) drop_kept(*type, value);
 }
 
 int64_t quarn_asn1_content_length(int64_t type_id, const void *value) {

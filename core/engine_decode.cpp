@@ -291,7 +291,7 @@ Status decode_from_kept(const Type &type, Reader &in, void **value) {
 
 Status refuse(const Schema &schema, quarn_err_ctx *ctx, std::int64_t offset) {
   const Restriction &restriction = *schema.restriction;
-  if (restriction.general_text) return schema.unit.fail_generally(ctx, restriction.code);
+  if (restriction.general_text) return schema.unit.fail_generally(ctx, restriction.code, offset);
   return schema.unit.fail(ctx, restriction.code, offset);
 }
 

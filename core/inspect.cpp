@@ -76,6 +76,12 @@ const quarn_asn1_list *list_of(const Type &type, const void *value) {
   return static_cast<const quarn_asn1_list *>(value);
 }
 
+int tagging_of(const Field &field) {
+  if (field.tagging == Tagging::plain) return QUARN_ASN1_TAGGING_NONE;
+  return field.tagging == Tagging::explicitly ? QUARN_ASN1_TAGGING_EXPLICIT
+                                              : QUARN_ASN1_TAGGING_IMPLICIT;
+}
+
 void *component_value(const Type &type, const void *value, std::int64_t index) {
   switch (kind_of(type)) {
     case QUARN_ASN1_KIND_LIST: {
@@ -136,8 +142,14 @@ int quarn_asn1_component_get(int64_t type_id,
   void *part = component_value(type, value, index);
   const bool record = kind_of(type) == QUARN_ASN1_KIND_RECORD;
   const bool optional = record && !field.mandatory();
-  *component = {field.name, part, field.type(), optional,
-                optional && field.has_default() && left_out(field, part)};
+  const int tagging = tagging_of(field);
+  *component = {field.name,
+                part,
+                field.type(),
+                optional,
+                optional && field.has_default() && left_out(field, part),
+                tagging,
+                tagging == QUARN_ASN1_TAGGING_NONE ? 0 : field.tag};
   return 1;
 }
 

@@ -15,8 +15,11 @@ const char *message_of(int code) {
   quarn_err_ctx_put_at(ctx, name, line, code, message_of(code), offset);
 }
 
-[[gnu::cold]] Status Unit::fail_generally(quarn_err_ctx *ctx, int code, int line) const {
-  quarn_err_ctx_put(ctx, name, line, code, quarn_igetGeneralError(code));
+[[gnu::cold]] Status Unit::fail_generally(quarn_err_ctx *ctx,
+                                          int code,
+                                          std::int64_t offset,
+                                          int line) const {
+  quarn_err_ctx_put_at(ctx, name, line, code, quarn_igetGeneralError(code), offset);
   return Status::failure();
 }
 

@@ -59,7 +59,10 @@ struct Unit {
   // Records code with the text that the general errors have for it. The content encoders of
   // BOOLEAN, INTEGER, NULL, OBJECT IDENTIFIER and the times report a length that does not fit this
   // way; callers match on the empty text.
-  Status fail_generally(quarn_err_ctx *ctx, int code, int line = __builtin_LINE()) const;
+  Status fail_generally(quarn_err_ctx *ctx,
+                        int code,
+                        std::int64_t offset = -1,
+                        int line = __builtin_LINE()) const;
   // Records code for what is accepted nevertheless.
   void record(quarn_err_ctx *ctx,
               int code,

@@ -40,8 +40,7 @@ enum quarn_general_error {
   QUARN_ERROR_ARGUMENT = 0x10002,  /**< an argument is null or otherwise bad */
   QUARN_ERROR_FORMAT = 0x10003,    /**< text or octets do not have the form asked for */
   QUARN_ERROR_COUNT = 0x10004,     /**< the octets written differ from the declared length */
-  QUARN_ERROR_RECURSION =
-      0x10008 /**< nesting passes quarn_get_recursive_level(); a result, never recorded */
+  QUARN_ERROR_RECURSION = 0x10008  /**< deeper than quarn_get_recursive_level(); never recorded */
 };
 
 /** Stream error codes; quarn_igetStreamError() has their texts. */
@@ -87,8 +86,7 @@ QUARN_UTIL_API void quarn_err_ctx_free(quarn_err_ctx *ctx);
 QUARN_UTIL_API int quarn_err_ctx_put(
     quarn_err_ctx *ctx, const char *file, int line, int code, const char *message);
 
-/** As quarn_err_ctx_put(), with the input offset at which the failure was noticed, -1 if unknown.
- */
+/** As quarn_err_ctx_put(), with the input offset where the failure was noticed, -1 if unknown. */
 QUARN_UTIL_API int quarn_err_ctx_put_at(
     quarn_err_ctx *ctx, const char *file, int line, int code, const char *message, int64_t offset);
 
@@ -113,11 +111,9 @@ QUARN_UTIL_API int quarn_err_ctx_put_step(quarn_err_ctx *ctx,
                                           const char *name,
                                           int64_t index,
                                           int first);
-/**
- * The path of the latest failure that lay in a component: "extensions[3].extnValue". Beyond 256
+/** The path of the latest failure that lay in a component: "extensions[3].extnValue". Beyond 256
  * octets the outer steps are left out and "..." stands for them. Empty when there is none, and for
- * null. Borrowed until the context changes.
- */
+ * null. Borrowed until the context changes. */
 QUARN_UTIL_API const char *quarn_err_ctx_path(const quarn_err_ctx *ctx);
 /** Removes all records and the path. */
 QUARN_UTIL_API void quarn_err_ctx_clear(quarn_err_ctx *ctx);
@@ -168,20 +164,15 @@ typedef struct quarn_data_blob {
 QUARN_UTIL_API quarn_data_blob *quarn_data_blob_new(const uint8_t *octets, int64_t count);
 /** New blob with the whole content of a file; "-" is the standard input. */
 QUARN_UTIL_API quarn_data_blob *quarn_data_blob_fromfile(const char *path, quarn_err_ctx *ctx);
-/**
- * New blob around octets that quarn_malloc() gave or either library handed out, without copying
- * them. The blob takes them over; when it cannot be made they stay the caller's.
- */
+/** New blob around octets that quarn_malloc() gave or either library handed out, without copying
+ * them. The blob takes them over; when it cannot be made they stay the caller's. */
 QUARN_UTIL_API quarn_data_blob *quarn_data_blob_adopt(uint8_t *octets, int64_t count);
 /** Releases a blob and its octets. */
 QUARN_UTIL_API void quarn_data_blob_free(quarn_data_blob *blob);
 
 /* ---- Streams --------------------------------------------------------------------------------- */
 
-/**
- * A sequence of octets with a read position. Writing always appends; the read position is
- * independent of it and starts at 0.
- */
+/** Octets with a read position, which starts at 0. Writing always appends and does not move it. */
 typedef struct quarn_stream quarn_stream;
 
 /** Kinds of stream, as quarn_stream_gettype() returns them. */
@@ -368,8 +359,7 @@ QUARN_UTIL_API void quarn_biginteger_free(quarn_biginteger *b);
 /** Bits numbered from 0, the top bit of the first octet, with an explicit count. */
 typedef struct quarn_bitset quarn_bitset;
 
-/** From octets, null for none, of which the last unused_bits (0 to 7) bits do not count.
- * unused_bits needs an octet. */
+/** From octets, null for none, less the last unused_bits (0 to 7) bits, which need an octet. */
 QUARN_UTIL_API quarn_bitset *quarn_bitset_new(uint32_t unused_bits,
                                               const uint8_t *octets,
                                               int64_t length);
@@ -404,8 +394,7 @@ QUARN_UTIL_API int quarn_time_fields_valid(const quarn_time_fields *fields);
 QUARN_UTIL_API int quarn_time_fields_addminutes(quarn_time_fields *fields, int64_t minutes);
 /** Moves valid fields by whole days; as quarn_time_fields_addminutes(). */
 QUARN_UTIL_API int quarn_time_fields_adddays(quarn_time_fields *fields, int64_t days);
-/** Turns fields of the process's local time zone (TZ) into UTC in place; daylight saving as
- * mktime() decides it. */
+/** Turns fields of the local time zone (TZ) into UTC in place, daylight saving as in mktime(). */
 QUARN_UTIL_API int quarn_time_fields_localtoutc(quarn_time_fields *fields);
 /** 1 when UTC fields name one of the leap seconds inserted from 1972 to 2016. */
 QUARN_UTIL_API int quarn_time_fields_isleapsecond(const quarn_time_fields *fields);
@@ -486,11 +475,9 @@ QUARN_UTIL_API quarn_json *quarn_json_newstring(const char *text, uint32_t lengt
 QUARN_UTIL_API quarn_json *quarn_json_newnumber(double value);
 QUARN_UTIL_API quarn_json *quarn_json_newboolean(int value);
 
-/**
- * Appends a member to an object, which takes the value over. On failure the value stays the
+/** Appends a member to an object, which takes the value over. On failure the value stays the
  * caller's. A key that the object has already, a value that has a parent, and an object put into
- * itself are refused. The key is copied.
- */
+ * itself are refused. The key is copied. */
 QUARN_UTIL_API int quarn_json_addobjectitem(quarn_json *object,
                                             const char *key,
                                             uint32_t key_length,
@@ -526,10 +513,8 @@ QUARN_UTIL_API int quarn_json_istrue(const quarn_json *j);
 /** Releases a value and all below it, without recursion. One that has a parent is left alone. */
 QUARN_UTIL_API void quarn_json_free(quarn_json *j);
 
-/**
- * Parses JSON text (RFC 8259), UTF-8 only, of any depth. Duplicate keys, text after the value and
- * anything that is not JSON are refused; the record carries the octet offset.
- */
+/** Parses JSON text (RFC 8259), UTF-8 only, of any depth. Duplicate keys, text after the value and
+ * anything that is not JSON are refused; the record carries the octet offset. */
 QUARN_UTIL_API quarn_json *quarn_json_parse(const char *text, size_t length, quarn_err_ctx *ctx);
 
 /**

@@ -27,6 +27,7 @@ using namespace quarn::asn1;
 
 #include "modules/gen/ASN1_Extension_api.inc"
 
+// Issuer and serial number identify a certificate only together (RFC 5280, 4.2.1.1).
 quarn_x509akid *quarn_x509akid_new(const quarn_asn1_octetstring *key_identifier,
                                    const quarn_asn1_list *issuer,
                                    const quarn_asn1_integer *serial_number) {
@@ -34,6 +35,8 @@ quarn_x509akid *quarn_x509akid_new(const quarn_asn1_octetstring *key_identifier,
   return build<quarn_x509akid>(QUARN_ASN1_X509AKID, key_identifier, issuer, serial_number);
 }
 
+// A path length means nothing where there is no authority (RFC 5280, 4.2.1.9), so that callers may
+// pass one whatever ca is.
 quarn_x509basicconstraints *quarn_x509basicconstraints_new(const quarn_asn1_boolean *ca,
                                                            const quarn_asn1_integer *path_length) {
   const bool is_ca = ca != nullptr && quarn_asn1_boolean_istrue(ca) == 1;
@@ -41,6 +44,7 @@ quarn_x509basicconstraints *quarn_x509basicconstraints_new(const quarn_asn1_bool
                                            is_ca ? path_length : nullptr);
 }
 
+// The order of the arguments is older than that of the components, and callers have it.
 quarn_x509aaidp *quarn_x509aaidp_new(const quarn_x509dpname *distribution_point,
                                      const quarn_asn1_boolean *contains_user_attribute_certs,
                                      const quarn_asn1_boolean *contains_aa_certs,
@@ -52,6 +56,7 @@ quarn_x509aaidp *quarn_x509aaidp_new(const quarn_x509dpname *distribution_point,
                                 contains_soa_public_key_certs);
 }
 
+// RFC 3739, 3.2.6.1: one of the two components at least.
 quarn_semanticsinformation *quarn_semanticsinformation_new(const quarn_asn1_oid *identifier,
                                                            const quarn_asn1_list *authorities) {
   if (identifier == nullptr && authorities == nullptr) return nullptr;

@@ -95,6 +95,7 @@ using namespace quarn::asn1;
 
 #include "modules/gen/ASN1_X500_api.inc"
 
+// An end-of-contents would end what holds the value when it is read again.
 quarn_x500dnvalueswithcontextitem *quarn_x500dnvalueswithcontextitem_new(
     const quarn_asn1_any *value, const quarn_asn1_list *contexts) {
   if (value != nullptr && !is_value(value)) return nullptr;
@@ -117,6 +118,7 @@ quarn_x500attrtypedistval *quarn_pkixattrtypeval_new(const quarn_asn1_oid *type,
   return quarn_x500attrtypedistval_new(type, value, nullptr, nullptr);
 }
 
+// Contexts come from decoding only: no constructor makes values with them.
 quarn_x500attribute *quarn_x500attribute_new(const quarn_asn1_oid *type,
                                              const quarn_asn1_list *values) {
   const quarn_asn1_list *no_contexts = nullptr;

@@ -20,6 +20,7 @@ quarn_x509algoid *quarn_x509algoid_new(const quarn_asn1_oid *algorithm,
   return build<quarn_x509algoid>(QUARN_ASN1_X509ALGORITHMID, algorithm, any.get());
 }
 
+// Apart from the one above, where null is a parameter: an explicit NULL.
 quarn_x509algoid *quarn_x509algoid_new_without_param(const quarn_asn1_oid *algorithm) {
   const quarn_asn1_any *absent = nullptr;
   return build<quarn_x509algoid>(QUARN_ASN1_X509ALGORITHMID, algorithm, absent);
@@ -39,12 +40,14 @@ quarn_x509pubkeycert *quarn_x509pubkeycert_new(const uint8_t *data,
       load(QUARN_ASN1_X509PUBKEYCERT, {"CERTIFICATE"}, data, length, ctx));
 }
 
+// Outer and inner algorithm must be equal (RFC 5280, 4.1.1.2): nobody gets to give two.
 quarn_x509pubkeycert *quarn_x509pubkeycert_create(const quarn_x509TBSCertificate *body,
                                                   const quarn_asn1_bitstring *signature) {
   return static_cast<quarn_x509pubkeycert *>(create_signed(
       QUARN_ASN1_X509PUBKEYCERT, body, quarn_x509TBSCertificate_getinnersignalgo(body), signature));
 }
 
+// No component belongs to the reserved argument, which callers pass all the same.
 quarn_x509TBSCertList *quarn_x509TBSCertList_new(const quarn_asn1_integer *version,
                                                  const quarn_x509algoid *signature,
                                                  const quarn_x500name *issuer,

@@ -19,11 +19,13 @@ namespace {
 
 constexpr Unit kUnit{"QUARN_ASN1_Boolean.cpp"};
 
-constexpr std::array<quarn_asn1_boolean, 256> kValues = [] {
+constexpr std::array<quarn_asn1_boolean, 256> every_value() {
   std::array<quarn_asn1_boolean, 256> values{};
   for (std::uint32_t cell = 0; cell < values.size(); cell++) values[cell].cell = cell;
   return values;
-}();
+}
+
+constexpr std::array<quarn_asn1_boolean, 256> kValues = every_value();
 
 // Values are not changed once they are made.
 quarn_asn1_boolean *value_of(std::uint8_t cell) {

@@ -53,8 +53,8 @@ class Source {
   quarn_stream *lent_ = nullptr;
 };
 
-// Copies the first count octets to a buffer of the caller's that has room for them. A negative count
-// is a failure without a record.
+// Copies the first count octets to a buffer of the caller's that has room for them. A negative
+// count is a failure without a record.
 Status copy_string(StringValue *value, std::int64_t count, std::uint8_t *out, const Unit &unit);
 // Shows the first count octets: in place, or in storage when they have to be read first.
 Status view_string(StringValue &value,

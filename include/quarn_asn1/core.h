@@ -94,6 +94,21 @@ QUARN_ASN1_API int quarn_asn1_decode_content(quarn_stream *s,
 /** Frees a value of a type. Null values and unknown ids are ignored. */
 QUARN_ASN1_API void quarn_asn1_value_free(int64_t type_id, void *value);
 
+/**
+ * Forgets the octets that a value and all values in it keep, so that the next encoding is made
+ * anew.
+ *
+ * Certificates, CRLs, certification requests, attribute certificates and Names encode to the octets
+ * that they were decoded from or last encoded to. Forgetting them makes DER of one that came in
+ * BER: definite and minimal lengths, strings in one piece, no component that holds its default. It
+ * also lets changes to parts of the value show. A signature over the octets forgotten need not
+ * verify over the new ones unless these are the same, as those of DER are.
+ *
+ * Content stays as it is: ANY, what strings hold, superfluous octets of an INTEGER, the order of a
+ * SET OF. Null values and unknown ids are ignored. Nothing is allocated and nothing can fail.
+ */
+QUARN_ASN1_API void quarn_asn1_forget_octets(int64_t type_id, void *value);
+
 /** The encoding of a value in a new blob, freed with quarn_data_blob_free(). Nothing is recorded.
  */
 QUARN_ASN1_API quarn_data_blob *quarn_asn1_mem_encode(int64_t type_id, void *value);

@@ -29,6 +29,13 @@ typedef struct quarn_asn1_shape {
   int kind;         /**< a value of quarn_asn1_kind */
 } quarn_asn1_shape;
 
+/** What stands before a component's content. */
+enum quarn_asn1_tagging {
+  QUARN_ASN1_TAGGING_NONE = 0,     /**< the identifier of its own type */
+  QUARN_ASN1_TAGGING_IMPLICIT = 1, /**< [n] in place of that */
+  QUARN_ASN1_TAGGING_EXPLICIT = 2  /**< [n] around the whole encoding */
+};
+
 /** A component of a value. */
 typedef struct quarn_asn1_component {
   const char *name; /**< in ASN.1: "serialNumber"; of a list's element, what each is; static */
@@ -36,6 +43,8 @@ typedef struct quarn_asn1_component {
   int64_t type_id;
   int optional;   /**< 1 when the component may be absent */
   int is_default; /**< 1 when it equals the default that it has, so that encoding leaves it out */
+  int tagging;    /**< a value of quarn_asn1_tagging */
+  int64_t tag;    /**< n of the context-specific [n]; 0 where there is none */
 } quarn_asn1_component;
 
 /** Tells the form of a type; 0 for an unknown id. */

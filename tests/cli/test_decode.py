@@ -133,6 +133,9 @@ class Values(Case):
             self.assertNotIn("\u202e".encode(), out)
             for octet in out:
                 self.assertTrue(octet == 10 or octet >= 32 and octet != 127, arguments)
+        name = bytes.fromhex("3010 310e 300c 0603550403 0c05 61 e280ae 62")
+        found = Run("decode", "-t", "Name", "--json", data=name)
+        self.assertIn(r'"a\u202Eb"', found.out)
 
     def test_deep_values_end_well_on_a_small_stack(self):
         depth = 100000
@@ -152,6 +155,7 @@ class Types(Case):
         for name in ("Extensions", "extensions", "x509extensions", "37"):
             self.check(Run("decode", "--type", name, data=b"\x30\0"), 0)
         for name, text in [("Extensons", "did you mean 'Extensions'?"), ("421", "'quarn types' lists them"),
+                           ("x509NameConstraints", "did you mean 'x509nameconstaints'?"),
                            ("ldapmessage", "cannot decode"), ("\x1b", "'\\u{1B}'")]:
             self.check(Run("decode", "--type", name, data=b"\x30\0"), 2, text)
 
@@ -167,6 +171,8 @@ class Types(Case):
         self.check(run, 1, "offset 2 (0x2): found INTEGER", "path      extnID",
                    "expected  OBJECT IDENTIFIER, in a value of Extension", "0x1020a")
         self.check(Run("decode", data=b"\x30\x05\x02\x01"), 1, "expected  at most 0 octets")
+        run = Run("decode", "-t", "pkixnameconstaints", data=bytes.fromhex("3006a204800200aa"))
+        self.check(run, 1, "offset 4 (0x4): found [0]", "a value of NameConstraints (pkixnameconstaints)", "0x102ce")
 
     def test_labels_tell_the_type(self):
         pem = self.file("a.pem", "-----BEGIN PUBLIC KEY-----\nMAA=\n-----END PUBLIC KEY-----\n"

@@ -267,6 +267,10 @@ class Dump(Case):
             out = Run(*arguments, data=HOSTILE).raw
             for octet in out:
                 self.assertTrue(octet == 10 or octet >= 32 and octet != 127, arguments)
+        text = HOSTILE_TEXT[:-3]  # without what is no UTF-8
+        for arguments in (["json"], ["json", "--compact"], ["json", "--lines"]):
+            run = Run(*arguments, data=HOSTILE[:1] + bytes([len(text)]) + text)
+            self.assertIn(json.dumps(text.decode()).casefold(), run.out.casefold())
         shown = Run("dump", data=HOSTILE).lines[1]
         self.assertIn(r"'a\u{1B}[31m\u{202E}b\u{2028}c\u{7F}\u{85}\u{FEFF}d\r\ne\xFF\xC0\x80'", shown)
 

@@ -1,4 +1,5 @@
-// Reads .vec files, in which a case is a row, or lines of `key = value` when it is too long for one:
+// Reads .vec files, in which a case is a row, or lines of `key = value` when it is too long for
+// one:
 //
 //     type = boolean
 //     01 01 FF | same       | true

@@ -158,6 +158,7 @@ TEST(Restriction, records_and_stages_are_the_restrictions_own) {
   EXPECT_EQ(value, nullptr);
   ASSERT_EQ(test::codes_in(ctx.get()), Codes{0x102ce});
   EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 0)->message, "") << "no general error has this code";
+  EXPECT_EQ(quarn_err_ctx_offset(ctx.get(), 0), 3);
 
   const Decoded purposes(QUARN_ASN1_X509EXKEYUSAGE, {0x30, 3, 6, 1, 0x2A});
   const test::Stream out = growable();

@@ -13,7 +13,14 @@ namespace {
 using Octets = std::vector<std::uint8_t>;
 
 // The value as one line: "{extnID=OBJECT IDENTIFIER critical~BOOLEAN extnValue=OCTET STRING}", with
-// ~ before defaults, - for absent components, [] for lists, and name:type for a CHOICE.
+// ~ before defaults, - for absent components, [] for lists, and name:type for a CHOICE; a tag of
+// the component's own follows its name, with ! when it is explicit.
+std::string name_of(const quarn_asn1_component &part) {
+  if (part.tagging == QUARN_ASN1_TAGGING_NONE) return part.name;
+  const char *mark = part.tagging == QUARN_ASN1_TAGGING_EXPLICIT ? "!" : "";
+  return part.name + std::to_string(part.tag) + mark;
+}
+
 std::string outline(std::int64_t type_id, const void *value) {
   quarn_asn1_shape shape{};
   if (quarn_asn1_type_shape(type_id, &shape) != 1) return "?";
@@ -27,11 +34,11 @@ std::string outline(std::int64_t type_id, const void *value) {
     if (shape.kind == QUARN_ASN1_KIND_LIST) {
       text += " " + inner;
     } else if (shape.kind == QUARN_ASN1_KIND_RECORD) {
-      text += std::string(" ") + part.name;
+      text += " " + name_of(part);
       text += part.value == nullptr ? "-" : (part.is_default == 1 ? "~" : "=") + inner;
       EXPECT_TRUE(part.value != nullptr || part.optional == 1);
     } else {
-      return std::string(part.name) + ":" + inner;
+      return name_of(part) + ":" + inner;
     }
   }
   return shape.kind == QUARN_ASN1_KIND_LIST ? "[" + text + " ]" : "{" + text + " }";
@@ -60,8 +67,8 @@ TEST(Inspect, every_kind_of_value_shows_its_components) {
        {0x30, 0x06, 0x06, 0x02, 0x2A, 0x03, 0x05, 0x00},
        "{ algorithm=OBJECT IDENTIFIER parameters=ANY }"},
       {QUARN_ASN1_X509GENERALNAMES,
-       {0x30, 0x06, 0x82, 0x01, 'a', 0x88, 0x01, 0x2A},
-       "[ dNSName:IA5String registeredID:OBJECT IDENTIFIER ]"},
+       {0x30, 0x0A, 0x82, 0x01, 'a', 0x88, 0x01, 0x2A, 0xA4, 0x02, 0x30, 0x00},
+       "[ dNSName2:IA5String registeredID8:OBJECT IDENTIFIER directoryName4!:[ ] ]"},
       {QUARN_ASN1_X500DIRSTRING, {0x13, 0x01, 'a'}, "printableString:PrintableString"},
       {QUARN_ASN1_ANYLIST, {0x30, 0x04, 0x05, 0x00, 0x30, 0x00}, "[ ANY ANY ]"},
       {QUARN_ASN1_ANYLIST, {0x30, 0x00}, "[ ]"},

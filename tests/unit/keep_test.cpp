@@ -63,7 +63,7 @@ class Held {
   void *get() const { return value_; }
   Octets encoding() const { return encoding_of(id_, value_); }
   const Kept *kept() const { return kept_by(*type_of(id_).schema, value_); }
-  void drop() { drop_kept(type_of(id_), value_); }
+  void drop() { quarn_asn1_forget_octets(id_, value_); }
 
  private:
   quarn_asn1_type_id id_;
@@ -125,6 +125,20 @@ TEST(Keep, what_is_dropped_is_encoded_anew_into_one_block) {
   EXPECT_EQ(request.encoding(), kRequestInDer) << "around the body that is still kept";
   request.drop();
   EXPECT_EQ(body_octets_of(request.get()), kRequestBodyInDer) << "before anything is encoded";
+}
+
+TEST(Keep, what_has_nothing_to_forget_forgets_what_lies_in_it) {
+  Held names(QUARN_ASN1_X509GENERALNAMES, der(0x30, ber(0xA4, ber(0x30, kNameContent))));
+  EXPECT_EQ(names.encoding(), der(0x30, der(0xA4, ber(0x30, kNameContent))));
+  names.drop();
+  EXPECT_EQ(names.encoding(), der(0x30, der(0xA4, der(0x30, kNameContent))));
+
+  Held number(QUARN_ASN1_INTEGER, {2, 2, 0, 5});
+  number.drop();
+  EXPECT_EQ(number.encoding(), (Octets{2, 2, 0, 5})) << "content, not what is kept besides";
+  quarn_asn1_forget_octets(kRequestId, nullptr);
+  quarn_asn1_forget_octets(-1, number.get());
+  quarn_asn1_forget_octets(QUARN_ASN1_TYPE_COUNT, number.get());
 }
 
 TEST(Keep, dropping_an_outer_encoding_leaves_those_inside) {

@@ -10,7 +10,8 @@
 namespace quarn::test {
 namespace {
 
-using AnyList = Value<quarn_asn1_list, QUARN_ASN1_ANYLIST>;
+using AnyList = std::unique_ptr<quarn_asn1_list,
+                                decltype([](quarn_asn1_list *l) { quarn_asn1_anylist_free(l); })>;
 
 // An OCTET STRING of some octets, as ANY.
 quarn_asn1_any *element(const Octets &content) {
