@@ -21,6 +21,7 @@ constexpr OpenRecord kRecords[] = {
     {QUARN_ASN1_QCSTATEMENT, 1, Place::statement, false},
     {QUARN_ASN1_X509ALGORITHMID, 1, Place::parameters, false},
     {QUARN_ASN1_X509PUBLICKEYINFO, 1, Place::key, false},
+    {QUARN_ASN1_PKCS7CONTENTINFO, 1, Place::content, false},
 };
 
 constexpr const char *kKeyUsages =
@@ -109,7 +110,22 @@ constexpr struct {
     {Place::attribute,
      "1.2.840.113549.1.9.16.2.47",
      {QUARN_ASN1_ESS_SIGNINGCERTIFICATEV2, nullptr}},
+    {Place::attribute, "1.2.840.113549.1.9.52", {QUARN_ASN1_CMSALGORITHMPROTECTION, nullptr}},
     {Place::attribute, "1.3.6.1.4.1.311.2.1.14", {QUARN_ASN1_X509EXTENSIONS, nullptr}},
+
+    // Contents of messages (RFC 2315, RFC 5652), and those with the algorithms of SM2.
+    {Place::content, "1.2.840.113549.1.7.1", {QUARN_ASN1_OCTETSTRING, nullptr}},
+    {Place::content, "1.2.840.113549.1.7.2", {QUARN_ASN1_PKCS7SIGNEDDATA, nullptr}},
+    {Place::content, "1.2.840.113549.1.7.3", {QUARN_ASN1_CMSENVELOPEDDATA, nullptr}},
+    {Place::content, "1.2.840.113549.1.7.4", {QUARN_ASN1_SIGNEDANDENVELOPEDDATA, nullptr}},
+    {Place::content, "1.2.840.113549.1.7.5", {QUARN_ASN1_PKCS7DIGESTEDDATA, nullptr}},
+    {Place::content, "1.2.840.113549.1.7.6", {QUARN_ASN1_CMSENCRYPTEDDATA, nullptr}},
+    {Place::content, "1.2.840.113549.1.9.16.1.2", {QUARN_ASN1_CMSAUTHDATA, nullptr}},
+    {Place::content, "1.2.156.10197.6.1.4.2.1", {QUARN_ASN1_OCTETSTRING, nullptr}},
+    {Place::content, "1.2.156.10197.6.1.4.2.2", {QUARN_ASN1_PKCS7SIGNEDDATA, nullptr}},
+    {Place::content, "1.2.156.10197.6.1.4.2.3", {QUARN_ASN1_CMSENVELOPEDDATA, nullptr}},
+    {Place::content, "1.2.156.10197.6.1.4.2.4", {QUARN_ASN1_SIGNEDANDENVELOPEDDATA, nullptr}},
+    {Place::content, "1.2.156.10197.6.1.4.2.5", {QUARN_ASN1_CMSENCRYPTEDDATA, nullptr}},
 
     // Qualifiers of policies (RFC 5280, 4.2.1.4).
     {Place::qualifier, "1.3.6.1.5.5.7.2.1", {QUARN_ASN1_IA5STRING, nullptr}},

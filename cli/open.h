@@ -14,7 +14,7 @@
 namespace quarn::cli {
 
 // Where the octets stand whose type an identifier tells.
-enum class Place { extension, attribute, qualifier, statement, parameters, key };
+enum class Place { extension, attribute, qualifier, statement, parameters, key, content };
 
 // A record whose component number `value` has the type that the identifier in the first tells; a
 // list of such values when `elements` is set.

@@ -4,8 +4,8 @@
 //     CHOICE    one block: which alternative, and a pointer to its value
 //     list      quarn_asn1_list
 //
-// Behind the components of a type that keeps octets stands what it keeps; a list that keeps its
-// encoding is a record of one component, the list itself.
+// Behind the components of a type that keeps octets, or positions, stands what it keeps; a list
+// that keeps its encoding is a record of one component, the list itself.
 //
 // A component with a default is never absent once a value has been decoded: it holds its default.
 // C code knows these values by the names of incomplete types only, so that one layout serves all.
@@ -78,6 +78,16 @@ inline Kept *kept_by(const Schema &schema, void *value) {
   return reinterpret_cast<Kept *>(components(value) + schema.fields.size());
 }
 
+// ---- Positions that values keep
+
+// Where each component of a record begins, or would if it were there, and then how many octets the
+// content has: counted from the first octet of the content that was last decoded or encoded. A
+// number more belongs to the type's module. All are -1 in a value that has only been built.
+inline std::int64_t *positions_in(const Schema &schema, void *value) {
+  return reinterpret_cast<std::int64_t *>(components(value) + schema.fields.size());
+}
+constexpr std::size_t kMorePositions = 2;
+
 // ---- Inside the engine, and for codecs that differ from those of core/engine_value.cpp in one
 // step
 
@@ -85,7 +95,7 @@ void free_record(const Type &type, void *value);
 
 // Whether a value's encoding is kept.
 inline bool is_kept(const Schema &schema, const void *value) {
-  return schema.keep != Keep::nothing && value != nullptr &&
+  return schema.keeps_octets() && value != nullptr &&
          kept_by(schema, const_cast<void *>(value))->valid();
 }
 

@@ -113,6 +113,19 @@ class RecordDecoder {
     return finish();
   }
 
+  // The same, and notes where they are.
+  Status fields_at(std::int64_t *positions) {
+    void **component = components_;
+    for (const Field &field : schema_.fields) {
+      *positions++ = position();
+      const Status status = take(field, component++);
+      if (!status) return status;
+    }
+    const Status status = finish();
+    *positions = static_cast<std::int64_t>(taken());
+    return status;
+  }
+
   // The open type ends the record: in the indefinite form, an end-of-contents in its place does.
   Status open_tail() {
     Status status = take_named(schema_.fields[0], components_[0]);
@@ -144,6 +157,10 @@ class RecordDecoder {
 
  private:
   std::uint64_t taken() const { return in_.count() - start_; }
+  // Where the next component begins, or what ends the record.
+  std::int64_t position() const {
+    return static_cast<std::int64_t>(in_hand_ || ended_ ? looked_at_ : taken());
+  }
   bool at_exact_end() const { return taken() == static_cast<std::uint64_t>(length_); }
   bool at_end() const {
     return ended_ || (length_ != kIndefinite && taken() >= static_cast<std::uint64_t>(length_));
@@ -165,6 +182,7 @@ class RecordDecoder {
   // Reads the next identifier, unless there is none or it is in hand.
   Status look() {
     if (in_hand_ || at_end()) return Status::success();
+    looked_at_ = taken();
     Status status = read_identifier(in_, identifier_);
     if (!status) return note(schema_, in_, status, QUARN_ASN1_ERROR_READ_IDENTIFIER);
     in_hand_ = length_ != kIndefinite || !identifier_.is_end_of_contents();
@@ -247,6 +265,7 @@ class RecordDecoder {
   void **components_;
   std::int64_t length_;
   std::uint64_t start_;
+  std::uint64_t looked_at_ = 0;  // where identifier_, or the end-of-contents, begins
   Identifier identifier_{};
   bool in_hand_ = false;  // identifier_ belongs to none of the components so far
   bool ended_ = false;    // the end-of-contents has been read
@@ -262,6 +281,7 @@ Status begin(const Type &type, Reader &in, void **value, bool primitive, std::in
 
 Status decode_components(RecordDecoder &decoder, const Schema &schema, void *record) {
   if (schema.keep == Keep::body) return decoder.signed_object(kept_by(schema, record)[1]);
+  if (schema.keep == Keep::positions) return decoder.fields_at(positions_in(schema, record));
   return schema.kind == Kind::open_tail ? decoder.open_tail() : decoder.fields();
 }
 
@@ -292,7 +312,7 @@ Status refuse(const Schema &schema, quarn_err_ctx *ctx, std::int64_t offset) {
 
 Status decode_structured(const Type &type, Reader &in, void **value) {
   const Schema &schema = *type.schema;
-  if (schema.keep == Keep::nothing) return decode_around_content(type, in, value);
+  if (!schema.keeps_octets()) return decode_around_content(type, in, value);
   if (value != nullptr) *value = nullptr;
   if (in.is_null() || value == nullptr) return fail(schema, in, QUARN_ERROR_ARGUMENT);
   Keeping encoding;

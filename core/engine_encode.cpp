@@ -128,7 +128,7 @@ class Encoder {
     if (type.schema == nullptr) return encode(type, out_, value);
     const std::int64_t length = lengths_.next();
     if (value == nullptr) return kUnit.fail(out_.ctx(), QUARN_ERROR_ARGUMENT, out_.offset());
-    if (type.schema->keep == Keep::nothing) return whole(type, value, length);
+    if (!type.schema->keeps_octets()) return whole(type, value, length);
     return keeping(type, value, length, *kept_by(*type.schema, value));
   }
 
@@ -152,12 +152,18 @@ class Encoder {
       return refuse(schema, out_.ctx(), out_.offset());
     }
     if (schema.is_choice()) return choice(type, *static_cast<Choice *>(value), length);
-    const Status status =
-        schema.is_list() ? list(schema, list_in(schema, value)) : record(schema, value);
-    return status && length == kIndefinite ? end(schema) : status;
+    const std::uint64_t start = out_.count();
+    Status status = schema.is_list() ? list(schema, list_in(schema, value)) : record(schema, value);
+    if (status && length == kIndefinite) status = end(schema);
+    if (schema.keep == Keep::positions) note_position(schema, value, schema.fields.size(), start);
+    return status;
   }
 
  private:
+  void note_position(const Schema &schema, void *value, std::size_t index, std::uint64_t start) {
+    positions_in(schema, value)[index] = static_cast<std::int64_t>(out_.count() - start);
+  }
+
   // Identifier, length and content.
   Status whole(const Type &type, void *value, std::int64_t length) {
     const Status status = type.schema->is_choice()
@@ -219,8 +225,10 @@ class Encoder {
   }
 
   Status record(const Schema &schema, void *value) {
+    const std::uint64_t start = out_.count();
     for (std::size_t i = 0; i < schema.fields.size(); i++) {
       const Field &field = schema.fields[i];
+      if (schema.keep == Keep::positions) note_position(schema, value, i, start);
       void *part = component(value, i);
       Status status = Status::success();
       if (i == 0 && schema.keep == Keep::body) {

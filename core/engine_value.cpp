@@ -27,6 +27,20 @@ void free_choice(const Type &type, void *value) {
   quarn_free(value);
 }
 
+// Octets behind the components.
+std::size_t size_kept(const Schema &schema) {
+  switch (schema.keep) {
+    case Keep::positions:
+      return (schema.fields.size() + kMorePositions) * sizeof(std::int64_t);
+    case Keep::encoding:
+      return sizeof(Kept);
+    case Keep::body:
+      return 2 * sizeof(Kept);
+    default:
+      return 0;
+  }
+}
+
 std::uint64_t number_of(const Schema &schema, std::uint32_t index) {
   if (schema.kind == Kind::choice) return std::uint64_t{schema.first_number} + index;
   return type_of(schema.fields[index].type()).tag_number;
@@ -44,11 +58,13 @@ void free_record(const Type &type, void *value) {
 }
 
 void *new_record(const Schema &schema) {
-  constexpr std::size_t kKept[] = {0, sizeof(Kept), 2 * sizeof(Kept)};
-  const std::size_t size =
-      schema.fields.size() * sizeof(void *) + kKept[static_cast<std::size_t>(schema.keep)];
-  auto *record = util::allocate_array<std::uint8_t>(size);
-  return record == nullptr ? nullptr : std::memset(record, 0, size);
+  const std::size_t size = schema.fields.size() * sizeof(void *);
+  const std::size_t more = size_kept(schema);
+  auto *record = util::allocate_array<std::uint8_t>(size + more);
+  if (record == nullptr) return nullptr;
+  std::memset(record, 0, size);
+  std::memset(record + size, schema.keep == Keep::positions ? 0xFF : 0, more);
+  return record;
 }
 
 constexpr Field kStringAlternatives[] = {
@@ -74,7 +90,7 @@ void *new_choice(const Schema &schema, std::uint32_t index) {
 }
 
 void drop_encoding(const Schema &schema, void *value) {
-  if (schema.keep != Keep::nothing) kept_by(schema, value)->drop();
+  if (schema.keeps_octets()) kept_by(schema, value)->drop();
 }
 
 void drop_kept(const Type &type, void *value) {

@@ -69,8 +69,9 @@ constexpr std::int16_t kMostDefaultOctets = 64;
 // to the same ones again.
 enum class Keep : std::uint8_t {
   nothing,
-  encoding,  // a list: its whole encoding
-  body       // a signed object, a record: its whole encoding, and that of the first component
+  positions,  // no octets, but where the components of a record stood in them
+  encoding,   // a list: its whole encoding
+  body        // a signed object, a record: its whole encoding, and that of the first component
 };
 
 // A condition on the values of a type beyond its components. Decoding refuses a value that does not
@@ -95,6 +96,7 @@ struct Schema {
 
   constexpr bool is_choice() const { return kind == Kind::choice || kind == Kind::string_choice; }
   constexpr bool is_list() const { return kind == Kind::list; }
+  constexpr bool keeps_octets() const { return keep >= Keep::encoding; }
   constexpr quarn_asn1_type_id element() const { return fields[0].type(); }
 };
 
@@ -197,6 +199,9 @@ constexpr Keep keep_encoding() {
 }
 constexpr Keep keep_body() {
   return Keep::body;
+}
+constexpr Keep keep_positions() {
+  return Keep::positions;
 }
 constexpr const Restriction *restricted_by(const Restriction &restriction) {
   return &restriction;

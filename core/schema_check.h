@@ -58,11 +58,14 @@ class SchemaCheck {
     return true;
   }
 
-  // Names are lists; signed objects begin with their body, which says its own length.
+  // Names are lists; signed objects begin with their body, which says its own length; what has
+  // positions is a record.
   constexpr bool keeps_what_it_can(const Schema &schema) const {
     if (schema.keep == Keep::encoding) return schema.is_list();
-    if (schema.keep != Keep::body) return true;
-    if (schema.kind != Kind::record) return false;
+    if (schema.keep == Keep::nothing) return true;
+    if (schema.kind != Kind::record || schema.keep == Keep::positions) {
+      return schema.kind == Kind::record;
+    }
     for (const Field &field : schema.fields) {
       if (!field.mandatory() || field.tagging != Tagging::plain) return false;
     }

@@ -32,6 +32,7 @@
 #define QUARN_ASN1_H
 
 #include "quarn_asn1/attribute.h"
+#include "quarn_asn1/cms.h"
 #include "quarn_asn1/core.h"
 #include "quarn_asn1/extension.h"
 #include "quarn_asn1/inspect.h"

@@ -10,6 +10,7 @@ namespace quarn::asn1 {
 namespace {
 
 #include "modules/gen/ASN1_Attribute.inc"
+#include "modules/gen/ASN1_CMS.inc"
 #include "modules/gen/ASN1_Extension.inc"
 #include "modules/gen/ASN1_PKCS10.inc"
 #include "modules/gen/ASN1_X500.inc"

@@ -23,12 +23,12 @@
 extern "C" {
 #endif
 
-/* ---- RequestAttributes */
+/* ---- Attributes */
 
 /**
  * The attributes of a request: X.500 attributes without contexts.
  *
- *     RequestAttributes ::= SET OF Attribute
+ *     Attributes ::= SET OF Attribute
  *
  * Type id QUARN_ASN1_PKCS10ATTRIBUTES (44). A quarn_asn1_list of Attribute (quarn_x500attribute).
  */
@@ -43,7 +43,7 @@ QUARN_ASN1_API void quarn_pkcs10attributes_free(quarn_asn1_list *value);
  *         version        INTEGER,
  *         subject        Name,
  *         subjectPKInfo  SubjectPublicKeyInfo,
- *         attributes     [0] IMPLICIT RequestAttributes
+ *         attributes     [0] IMPLICIT Attributes
  *     }
  *
  * Type id QUARN_ASN1_PKCS10CERTREQINFO (45).

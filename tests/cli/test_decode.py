@@ -108,6 +108,18 @@ class Values(Case):
                 "extnValue": {"hex": "03020106", "type": "BIT STRING",
                               "value": {"bits": 7, "hex": "06", "names": ["keyCertSign", "cRLSign"]}}})
 
+    def test_messages_are_opened_by_their_content_type(self):
+        oid = "06092a864886f70d0107"
+        octets = f"3028{oid}02a01b301902010131003010{oid}01a0030401413100"
+        run = Run("decode", data=bytes.fromhex(octets))
+        self.check(run, 0)
+        self.assertEqual(run.lines[1:3], ["  contentType  OID 1.2.840.113549.1.7.2 signedData", "  content      SignedData"])
+        self.assertIn("      content      OCTET STRING (1 octet) 41", run.lines)
+        for kind, shown in [("03", "(no EnvelopedData: offset "), ("09", "SEQUENCE")]:  # what it is not, and unknown
+            run = Run("decode", data=bytes.fromhex(octets.replace(oid + "02", oid + kind)))
+            self.check(run, 0)
+            self.assertIn(shown, run.lines[2])
+
     def test_values_that_cannot_be_opened_are_shown_as_elements(self):
         for octets, oid, line, value in [
                 ("0c0161", "2a03", "holds", {"hex": "0c0161", "element": {"type": "UTF8STRING", "value": "a"}}),

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Makes the corpus: certificates, CRLs, requests and attribute certificates of every kind.
+"""Makes the corpus: certificates, CRLs, requests, attribute certificates and messages of every kind.
 
     make_corpus.py FOLDER [SOURCE]
 
 FOLDER gets a folder of DER files for each type, named after it, and `facts.json`: what openssl says
-about each file (see oracle.py). SOURCE is a folder of published certificates in PEM to add. A folder
+about each file but messages (see oracle.py). SOURCE is a folder of published certificates in PEM to add. A folder
 that is newer than the recipes is left alone.
 """
 
@@ -18,6 +18,7 @@ from concurrent.futures import ThreadPoolExecutor
 
 import built
 import der
+import messages
 import oracle
 from der import openssl
 
@@ -111,7 +112,7 @@ class Maker:
     def __init__(self, folder):
         self.folder, self.work = folder, folder / "work"
         shutil.rmtree(folder, ignore_errors=True)
-        for name in ("work", *TYPES):
+        for name in ("work", *TYPES, *messages.FOLDERS):
             (folder / name).mkdir(parents=True)
         self.config, self.jobs, self.refused = [(HERE / "sections.cnf").read_text(encoding="utf-8")], [], []
 
@@ -227,6 +228,11 @@ class Maker:
             self.job("x509pubkeycert", f"dates{number}", "ca -batch -notext -preserveDN -config corpus.cnf"
                      f" -in request.pem -name dates{number} -startdate {start} -enddate {end} -out dates{number}.crt")
 
+    def messages(self):
+        (self.work / "text").write_text("some text\n" * 100)
+        for name, command in messages.recipes():
+            self.job(messages.FOLDERS[0], name, command)
+
     def prepare(self, pool):
         """Keys, and an authority for each that can sign."""
         (self.work / "corpus.cnf").write_text("".join(self.config), encoding="utf-8")
@@ -245,8 +251,9 @@ class Maker:
 
     def run(self, job):
         out, command, more = job
+        name, _, rest = command.partition(" ")
         try:
-            self.openssl(command, *more, *out.split())
+            self.openssl(f"{name} {out}{rest}", *more)
         except RuntimeError as error:
             self.refused.append(str(error).strip().replace("\n", " | "))
 
@@ -275,12 +282,13 @@ class Maker:
         self.section("authority_extensions", "subjectKeyIdentifier = hash", "basicConstraints = critical, CA:TRUE",
                      "subjectAltName = email:ca@example.com, URI:http://example.com/")
         for recipes in (self.extensions, self.keys, self.signatures, self.names, self.serials, self.validities,
-                        self.requests, self.crls):
+                        self.requests, self.crls, self.messages):
             recipes()
         with ThreadPoolExecutor(4) as pool:
             self.prepare(pool)
             list(pool.map(self.run, self.jobs))
             self.collect()
+            messages.split(self.folder)
             self.build()
             if source:
                 for path in sorted(pathlib.Path(source).glob("*.crt")):

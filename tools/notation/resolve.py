@@ -159,8 +159,8 @@ class Resolver:
         for word, kind in (("first", "choice"), ("strings", "choice"), ("tail", "record")):
             if word in notes and definition.kind != kind:
                 definition.fail(f"{word} is for a {KINDS[kind]}", definition.variants[0].line)
-        if notes.get("keep") == "body" and definition.kind != "record":
-            definition.fail("keep=body is for a SEQUENCE", definition.variants[0].line)
+        if notes.get("keep") in ("body", "positions") and definition.kind != "record":
+            definition.fail(f"keep={notes['keep']} is for a SEQUENCE", definition.variants[0].line)
         if not fields:
             definition.fail(f"{definition.name} is empty")
         if "tail" in notes and (len(fields) != 2 or fields[1].row.id != ANY_ID or fields[1].presence != "optional"):

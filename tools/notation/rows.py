@@ -14,14 +14,13 @@ def schema_of(definition, variant):
     raise AssertionError("a variant is one of its definition's")
 
 
-def codec_of(definition):
-    if "codec" in definition.notes:
-        return definition.notes["codec"]
-    return CODECS[definition.kind]
+def codec_of(definition, variant):
+    """A codec of its own is that of one row; its other rows have the ordinary one."""
+    return variant.notes.get("codec") or CODECS[definition.kind]
 
 
 def registry_reference(definition, variant):
-    return f"&{codec_of(definition)}, &{schema_of(definition, variant)}"
+    return f"&{codec_of(definition, variant)}, &{schema_of(definition, variant)}"
 
 
 def field(definition, component):

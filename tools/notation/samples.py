@@ -9,12 +9,15 @@ import dataclasses
 CONTEXT, UNIVERSAL = 0x80, 0x00
 CLASSES = {"universal": UNIVERSAL, "application": 0x40}
 ANY, TIME, UTC_TIME = 23, 20, 21
+OCTET_STRING = 4
 LISTS_OF_ANY = {24: 0, 25: 1, 26: 0, 27: 1}  # and the elements that they have at least
 
 # What a check of a row refuses.
 ABSENT = {"kPkixAttributeTypeAndValue": {"primaryDistinguished", "valuesWithContext"},
           "kPkcs10Attribute": {"valuesWithContext"},
           "kPkixNameConstraints": {"requiredNameForms"}}
+# The type that a check of a row demands of the open types in it.
+OPEN = {"kCmsSignedData": OCTET_STRING}
 
 
 def letter(salt):
@@ -59,9 +62,11 @@ class Look:
     elements: int  # of a list
     salt: int = 0  # makes values differ
     depth: int = 0
+    open: int = None  # the type of what is open
 
     def inside(self, salt):
-        return Look(self.optional and self.depth < 2, min(self.elements, 1), self.salt + salt, self.depth + 1)
+        return Look(self.optional and self.depth < 2, min(self.elements, 1), self.salt + salt, self.depth + 1,
+                    self.open)
 
 
 FULL, LEAST = Look(True, 2), Look(False, 0, 1)
@@ -86,7 +91,7 @@ class Sampler:
         if definition and definition.kind == "choice":
             return self.alternative(definition, definition.fields[look.salt % len(definition.fields)], look)
         if type_id == ANY:
-            return self.element([9, 2][look.salt % 2], look)
+            return self.element(look.open or [9, 2][look.salt % 2], look)
         if type_id == TIME:
             return self.element(UTC_TIME, look)
         return tlv(*self.header(type_id), self.content(type_id, look))
@@ -100,6 +105,7 @@ class Sampler:
         if definition.is_list:
             return self.elements(definition.fields[0].row.id, max(look.elements, definition.at_least), look)
         check = variant.notes.get("check")
+        look = dataclasses.replace(look, open=OPEN.get(check, look.open))
         if check == "kUuidPair":
             return tlv(*self.header(4), bytes(range(16))) + tlv(*self.header(4), bytes(range(16, 32)))
         return b"".join(self.component(component, look.inside(salt)) for salt, component in enumerate(definition.fields)
