@@ -35,6 +35,8 @@ void *build_record(quarn_asn1_type_id id, std::span<const void *const> parts) {
     const bool made = parts[i] != nullptr ? copy_into(type_of(field.type()), parts[i], component)
                                           : take_default(field, component);
     if (!made) return nullptr;
+    // Nobody could decode it again: there, it would be the end.
+    if (schema.kind != Kind::open_tail && is_end_of_contents(field, *component)) return nullptr;
   }
   return record.release();
 }

@@ -18,7 +18,7 @@
 #include "core/kept.h"
 #include "core/schema.h"
 #include "core/type.h"
-#include "quarn_asn1/types.h"
+#include "types/any.h"
 
 namespace quarn::asn1 {
 
@@ -108,6 +108,12 @@ inline bool allowed(const Schema &schema, const void *value) {
   return schema.restriction == nullptr || schema.restriction->allows(value);
 }
 Status refuse(const Schema &schema, quarn_err_ctx *ctx, std::int64_t offset);
+
+// Whether the value of a component is an end-of-contents, which an open type can hold.
+inline bool is_end_of_contents(const Field &field, const void *value) {
+  return field.type_id == QUARN_ASN1_ANY && value != nullptr &&
+         static_cast<const quarn_asn1_any *>(value)->end_of_contents;
+}
 
 // The field that the value of a CHOICE is of.
 inline const Field &chosen(const Schema &schema, const void *value) {

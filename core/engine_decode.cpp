@@ -26,11 +26,6 @@ Status note(
   return status ? status : schema.unit.pass_on(status, in.ctx(), code, in.offset(), line);
 }
 
-bool is_end_of_contents(const Field &field, const void *value) {
-  return field.type_id == QUARN_ASN1_ANY &&
-         static_cast<const quarn_asn1_any *>(value)->end_of_contents;
-}
-
 bool field_matches(const Field &field, const Identifier &identifier) {
   if (field.tagging == Tagging::plain) {
     const Type &type = type_of(field.type());

@@ -38,6 +38,7 @@
 #include "quarn_asn1/inspect.h"
 #include "quarn_asn1/json.h"
 #include "quarn_asn1/pkcs10.h"
+#include "quarn_asn1/stream.h"
 #include "quarn_asn1/types.h"
 #include "quarn_asn1/x500.h"
 #include "quarn_asn1/x509.h"

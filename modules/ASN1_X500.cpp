@@ -59,10 +59,6 @@ int copy_uuid(const quarn_x500uuidpair *pair, std::size_t index, std::uint8_t *o
   return 1;
 }
 
-bool is_value(const quarn_asn1_any *any) {
-  return any != nullptr && !any->end_of_contents;
-}
-
 // Puts values with contexts into order: first the contexts of each, which its encoding consists of.
 int sort_contexts(void *values, quarn_asn1_type_id item_type) {
   auto *items = static_cast<quarn_asn1_list *>(values);
@@ -94,24 +90,6 @@ const Codec kUuidPairCodec{.free = free_record,
 using namespace quarn::asn1;
 
 #include "modules/gen/ASN1_X500_api.inc"
-
-// An end-of-contents would end what holds the value when it is read again.
-quarn_x500dnvalueswithcontextitem *quarn_x500dnvalueswithcontextitem_new(
-    const quarn_asn1_any *value, const quarn_asn1_list *contexts) {
-  if (value != nullptr && !is_value(value)) return nullptr;
-  return build<quarn_x500dnvalueswithcontextitem>(QUARN_ASN1_X500DNVALUESWITHCONTEXTITEM, value,
-                                                  contexts);
-}
-
-quarn_x500attrtypedistval *quarn_x500attrtypedistval_new(
-    const quarn_asn1_oid *type,
-    const quarn_asn1_any *value,
-    const quarn_asn1_boolean *primary_distinguished,
-    const quarn_asn1_list *values_with_context) {
-  if (!is_value(value)) return nullptr;
-  return build<quarn_x500attrtypedistval>(QUARN_ASN1_X500ATTRTYPEDISTVAL, type, value,
-                                          primary_distinguished, values_with_context);
-}
 
 quarn_x500attrtypedistval *quarn_pkixattrtypeval_new(const quarn_asn1_oid *type,
                                                      const quarn_asn1_any *value) {

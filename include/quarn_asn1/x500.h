@@ -6,7 +6,8 @@
  * Constructors copy their arguments and return null when a mandatory one is null or memory is
  * short. Getters lend: what they return lives as long as the value. Null for the value gives null
  * from a getter and 0 from a test. A component with a DEFAULT is always there once a value has been
- * made or decoded.
+ * made or decoded. An end-of-contents is no value for a component that may be of any type:
+ * constructors return null.
  *
  * A value is decoded, encoded, copied and freed under its type id by the functions of
  * quarn_asn1/core.h; free functions are there for each type as well. Lists are of the type
@@ -75,6 +76,9 @@ typedef struct quarn_x500dnvalueswithcontextitem quarn_x500dnvalueswithcontextit
 /** As quarn_asn1_value_free() under QUARN_ASN1_X500DNVALUESWITHCONTEXTITEM. */
 QUARN_ASN1_API void quarn_x500dnvalueswithcontextitem_free(
     quarn_x500dnvalueswithcontextitem *value);
+/** From its components. Null leaves out disting_attr_value. */
+QUARN_ASN1_API quarn_x500dnvalueswithcontextitem *quarn_x500dnvalueswithcontextitem_new(
+    const quarn_asn1_any *disting_attr_value, const quarn_asn1_list *context_list);
 /** 1 when distingAttrValue is there. */
 QUARN_ASN1_API int quarn_x500dnvalueswithcontextitem_hasdistvalue(
     const quarn_x500dnvalueswithcontextitem *value);
@@ -84,9 +88,6 @@ QUARN_ASN1_API quarn_asn1_any *quarn_x500dnvalueswithcontextitem_getdistvalue(
 /** contextList. */
 QUARN_ASN1_API quarn_asn1_list *quarn_x500dnvalueswithcontextitem_getcontexts(
     const quarn_x500dnvalueswithcontextitem *value);
-/** A new value; an end-of-contents is no value and gives null. */
-QUARN_ASN1_API quarn_x500dnvalueswithcontextitem *quarn_x500dnvalueswithcontextitem_new(
-    const quarn_asn1_any *value, const quarn_asn1_list *contexts);
 
 /* ---- ValuesWithContext */
 
@@ -120,6 +121,15 @@ typedef struct quarn_x500attrtypedistval quarn_x500attrtypedistval;
 QUARN_ASN1_API void quarn_x500attrtypedistval_free(quarn_x500attrtypedistval *value);
 /** As quarn_asn1_value_free() under QUARN_ASN1_PKIXATTRTYPEVAL. */
 QUARN_ASN1_API void quarn_pkixattrtypeval_free(quarn_x500attrtypedistval *value);
+/**
+ * From its components. Null leaves out values_with_context, and stands for the default of
+ * primary_distinguished (TRUE).
+ */
+QUARN_ASN1_API quarn_x500attrtypedistval *quarn_x500attrtypedistval_new(
+    const quarn_asn1_oid *type,
+    const quarn_asn1_any *value,
+    const quarn_asn1_boolean *primary_distinguished,
+    const quarn_asn1_list *values_with_context);
 /** type. */
 QUARN_ASN1_API quarn_asn1_oid *quarn_x500attrtypedistval_gettype(
     const quarn_x500attrtypedistval *value);
@@ -134,15 +144,6 @@ QUARN_ASN1_API int quarn_x500attrtypedistval_hascontext(const quarn_x500attrtype
 /** valuesWithContext, null when it is absent. */
 QUARN_ASN1_API quarn_asn1_list *quarn_x500attrtypedistval_getcontext(
     const quarn_x500attrtypedistval *value);
-/**
- * A new type and value. An end-of-contents is no value and gives null. A null primary_distinguished
- * stands for TRUE; a list of values with contexts is present even when it is empty.
- */
-QUARN_ASN1_API quarn_x500attrtypedistval *quarn_x500attrtypedistval_new(
-    const quarn_asn1_oid *type,
-    const quarn_asn1_any *value,
-    const quarn_asn1_boolean *primary_distinguished,
-    const quarn_asn1_list *values_with_context);
 /** A new type and value without contexts, which is what RFC 5280 allows. */
 QUARN_ASN1_API quarn_x500attrtypedistval *quarn_pkixattrtypeval_new(const quarn_asn1_oid *type,
                                                                     const quarn_asn1_any *value);

@@ -134,6 +134,8 @@ void names_and_attributes(Given &g) {
           "30 07 06012A 0500 3100");
   g.makes("an end-of-contents is no value", QUARN_ASN1_X500ATTRTYPEDISTVAL,
           quarn_x500attrtypedistval_new(g.oid(), g.nothing(), nullptr, nullptr), "null");
+  g.makes("nor is it one of an INSTANCE OF", QUARN_ASN1_INSTANCEOFTYPEID,
+          quarn_instanceoftypeid_new(g.oid(), g.nothing()), "null");
   g.makes("type and value alone", QUARN_ASN1_PKIXATTRTYPEVAL,
           quarn_pkixattrtypeval_new(g.oid(), g.any()), "30 05 06012A 0500");
   g.makes("an end-of-contents is no value with contexts", QUARN_ASN1_X500DNVALUESWITHCONTEXTITEM,
