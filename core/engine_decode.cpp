@@ -104,25 +104,16 @@ class RecordDecoder {
         length_(length),
         start_(in.count()) {}
 
-  Status fields() {
+  // positions, unless it is null, receives where each component is and the octets of the content.
+  Status fields(std::int64_t *positions) {
     void **component = components_;
     for (const Field &field : schema_.fields) {
-      const Status status = take(field, component++);
-      if (!status) return status;
-    }
-    return finish();
-  }
-
-  // The same, and notes where they are.
-  Status fields_at(std::int64_t *positions) {
-    void **component = components_;
-    for (const Field &field : schema_.fields) {
-      *positions++ = position();
+      if (positions != nullptr) *positions++ = position();
       const Status status = take(field, component++);
       if (!status) return status;
     }
     const Status status = finish();
-    *positions = static_cast<std::int64_t>(taken());
+    if (positions != nullptr) *positions = static_cast<std::int64_t>(taken());
     return status;
   }
 
@@ -281,8 +272,8 @@ Status begin(const Type &type, Reader &in, void **value, bool primitive, std::in
 
 Status decode_components(RecordDecoder &decoder, const Schema &schema, void *record) {
   if (schema.keep == Keep::body) return decoder.signed_object(kept_by(schema, record)[1]);
-  if (schema.keep == Keep::positions) return decoder.fields_at(positions_in(schema, record));
-  return schema.kind == Kind::open_tail ? decoder.open_tail() : decoder.fields();
+  if (schema.kind == Kind::open_tail) return decoder.open_tail();
+  return decoder.fields(schema.keep == Keep::positions ? positions_in(schema, record) : nullptr);
 }
 
 // A whole element of a type that keeps its encoding, from the octets kept.
