@@ -88,8 +88,7 @@ inline std::int64_t *positions_in(const Schema &schema, void *value) {
 }
 constexpr std::size_t kMorePositions = 2;
 
-// ---- Inside the engine, and for codecs that differ from those of core/engine_value.cpp in one
-// step
+// ---- Inside the engine
 
 void free_record(const Type &type, void *value);
 
@@ -136,6 +135,17 @@ std::int64_t structured_content_length(const Type &type, const void *value);
 std::int64_t structured_length(const Type &type, const void *value);
 Status encode_structured(const Type &type, Writer &out, void *value);
 Status encode_structured_content(const Type &type, Writer &out, void *value, std::int64_t length);
+
+// The codec of records, for those that differ from it in a step or two.
+constexpr Codec record_codec() {
+  return {.free = free_record,
+          .content_length = structured_content_length,
+          .length = structured_length,
+          .encode_content = encode_structured_content,
+          .decode_content = decode_record_content,
+          .encode = encode_structured,
+          .decode = decode_structured};
+}
 
 }  // namespace quarn::asn1
 

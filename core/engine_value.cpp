@@ -171,30 +171,25 @@ void *alternative(const Type &type, const void *value, std::uint64_t number) {
   return static_cast<const Choice *>(value)->value;
 }
 
-const Codec kRecordCodec{.free = free_record,
-                         .content_length = structured_content_length,
-                         .length = structured_length,
-                         .encode_content = encode_structured_content,
-                         .decode_content = decode_record_content,
-                         .encode = encode_structured,
-                         .decode = decode_structured};
+const Codec kRecordCodec = record_codec();
 
-const Codec kListCodec{.free = free_list_value,
-                       .content_length = structured_content_length,
-                       .length = structured_length,
-                       .encode_content = encode_structured_content,
-                       .decode_content = decode_list_value,
-                       .encode = encode_structured,
-                       .decode = decode_structured};
+constexpr Codec list_codec() {
+  Codec codec = record_codec();
+  codec.free = free_list_value;
+  codec.decode_content = decode_list_value;
+  return codec;
+}
+const Codec kListCodec = list_codec();
 
-const Codec kChoiceCodec{.free = free_choice,
-                         .content_length = structured_content_length,
-                         .length = structured_length,
-                         .encode_content = encode_structured_content,
-                         .decode_content = cannot_decode_content,
-                         .encode = encode_structured,
-                         .decode = decode_choice,
-                         .matches = choice_matches,
-                         .decode_rest = decode_choice_rest};
+constexpr Codec choice_codec() {
+  Codec codec = record_codec();
+  codec.free = free_choice;
+  codec.decode_content = cannot_decode_content;
+  codec.decode = decode_choice;
+  codec.matches = choice_matches;
+  codec.decode_rest = decode_choice_rest;
+  return codec;
+}
+const Codec kChoiceCodec = choice_codec();
 
 }  // namespace quarn::asn1

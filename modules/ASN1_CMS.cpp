@@ -10,7 +10,6 @@ namespace quarn::asn1 {
 namespace {
 
 constexpr std::size_t kContent = 1;        // of a ContentInfo
-constexpr std::int32_t kStandsAlone = 1;   // the form of a message that no decoder has told
 constexpr std::uint64_t kOctetString = 4;  // universal tag
 
 std::int64_t position_of(const quarn_pkcs7signeddata *message, SignedDataPosition position) {
@@ -53,13 +52,13 @@ Status decode_signed_data(const Type &type, Reader &in, void **value) {
 
 const Restriction kCmsSignedData{.allows = signs_octets, .code = 0x10355, .decode_only = true};
 
-const Codec kSignedDataCodec{.free = free_record,
-                             .content_length = structured_content_length,
-                             .length = structured_length,
-                             .encode_content = encode_structured_content,
-                             .decode_content = decode_record_content,
-                             .encode = encode_signed_data,
-                             .decode = decode_signed_data};
+constexpr Codec signed_data_codec() {
+  Codec codec = record_codec();
+  codec.encode = encode_signed_data;
+  codec.decode = decode_signed_data;
+  return codec;
+}
+const Codec kSignedDataCodec = signed_data_codec();
 
 }  // namespace quarn::asn1
 
@@ -90,7 +89,7 @@ quarn_pkcs7signeddata *quarn_pkcs7signeddata_new0(quarn_asn1_integer *version,
 int32_t quarn_pkcs7signeddata_gettype(const quarn_pkcs7signeddata *message) {
   if (message == nullptr) return -1;
   const std::int64_t form = positions_in_message(message)[kForm];
-  return form < 0 ? kStandsAlone : static_cast<std::int32_t>(form);
+  return static_cast<std::int32_t>(form < 0 ? kStandsAlone : form);
 }
 
 int64_t quarn_pkcs7signeddata_getcontentinfooffset(const quarn_pkcs7signeddata *message) {

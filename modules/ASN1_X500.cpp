@@ -77,13 +77,12 @@ const Restriction kPkixAttributeTypeAndValue{.allows = is_pkix, .code = 0x10274}
 const Restriction kPkcs10Attribute{.allows = has_no_contexts, .code = 0x1027d, .in_length = true};
 const Restriction kUuidPair{.allows = is_uuid_pair, .code = QUARN_ASN1_ERROR_ITEM_LENGTH};
 
-const Codec kUuidPairCodec{.free = free_record,
-                           .content_length = structured_content_length,
-                           .length = structured_length,
-                           .encode_content = encode_uuid_pair_content,
-                           .decode_content = decode_record_content,
-                           .encode = encode_structured,
-                           .decode = decode_structured};
+constexpr Codec uuid_pair_codec() {
+  Codec codec = record_codec();
+  codec.encode_content = encode_uuid_pair_content;
+  return codec;
+}
+const Codec kUuidPairCodec = uuid_pair_codec();
 
 }  // namespace quarn::asn1
 

@@ -37,7 +37,6 @@ constexpr struct {
   std::int64_t form;
   const char *oid;
 } kForms[] = {{0, "1.2.840.113549.1.7.2"}, {2, "1.2.156.10197.6.1.4.2.2"}};
-constexpr std::int64_t kAlone = 1;
 
 class OnePass {
  public:
@@ -50,7 +49,7 @@ class OnePass {
     status = version();
     if (status) status = components_after_version();
     if (status) status = close(body_);
-    if (status && form_ != kAlone) status = close_content_info();
+    if (status && form_ != kStandsAlone) status = close_content_info();
     if (status) *message = message_.release();
     return status;
   }
@@ -219,7 +218,7 @@ class OnePass {
   Level whole_{};  // the ContentInfo
   Level tag_{};    // of its content
   Level body_{};   // the SignedData
-  std::int64_t form_ = kAlone;
+  std::int64_t form_ = kStandsAlone;
   bool mine_ = true;
 };
 

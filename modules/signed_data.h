@@ -16,6 +16,9 @@ enum SignedDataPosition : std::uint8_t {
   kForm = 7  // what the message stood in, as callers have it; -1 when nobody has looked
 };
 
+// The form of a message that stands in nothing, and of one whose decoder has not looked.
+constexpr std::int64_t kStandsAlone = 1;
+
 inline const Schema &signed_data_schema() {
   return *type_of(QUARN_ASN1_PKCS7SIGNEDDATA).schema;
 }
