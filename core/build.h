@@ -23,8 +23,8 @@ namespace quarn::asn1 {
 // A record of copies of its components. Null, with nothing allocated, when a mandatory one is null;
 // a null default becomes the default, a null optional one is absent.
 void *build_record(quarn_asn1_type_id type, std::span<const void *const> parts);
-// A CHOICE of the alternative with this number, of which the value is a copy. Null when there is no
-// such alternative or value.
+// A CHOICE of the alternative with this number (of strings: this universal tag), of which the value
+// is a copy. Null when there is no such alternative or value.
 void *build_alternative(quarn_asn1_type_id type, std::uint64_t number, const void *value);
 // A value of a list type, without elements.
 void *build_empty_list(quarn_asn1_type_id type);
@@ -40,23 +40,17 @@ T *build(quarn_asn1_type_id type, const Parts *...parts) {
 }
 
 template <typename T>
-T *build_choice(quarn_asn1_type_id type, std::uint32_t number, const void *value) {
+T *build_choice(quarn_asn1_type_id type, std::uint64_t number, const void *value) {
   return static_cast<T *>(build_alternative(type, number, value));
-}
-
-// A CHOICE of character strings: octets under one of their universal tags.
-template <typename T>
-T *build_string(quarn_asn1_type_id type, std::uint64_t tag, const quarn_asn1_octetstring *octets) {
-  return static_cast<T *>(build_alternative(type, tag, octets));
 }
 
 // Component number index of a record; null when it is absent and for null.
 template <typename T>
-T *part(quarn_asn1_type_id /*type*/, const void *value, std::size_t index) {
+T *part(const void *value, std::size_t index) {
   return static_cast<T *>(part_of(value, index));
 }
 
-inline int has_part(quarn_asn1_type_id /*type*/, const void *value, std::size_t index) {
+inline int has_part(const void *value, std::size_t index) {
   return part_of(value, index) != nullptr ? 1 : 0;
 }
 

@@ -96,9 +96,9 @@ class Output(unittest.TestCase):
         self.has(api.bodies(modules[0]),
                  "void quarn_Point_free(quarn_pt *value) {\n  quarn_asn1_value_free(QUARN_ASN1_POINT, value);\n}",
                  "const quarn_asn1_octetstring *dns_name,", "const quarn_asn1_any *new_)",
-                 "return quarn::asn1::part<quarn_asn1_integer>(QUARN_ASN1_POINT, value, 1);",
+                 "return quarn::asn1::part<quarn_asn1_integer>(value, 1);",
                  "int quarn_pt_hasdnsname(const quarn_pt *value) {\n"
-                 "  return quarn::asn1::has_part(QUARN_ASN1_POINT, value, 2);",
+                 "  return quarn::asn1::has_part(value, 2);",
                  "void quarn_bag_free(quarn_asn1_list *value)")
         for absent in ("getnew", "hasnew", "quarn_pt_move", "hasheight", "quarn_spot"):
             self.assertNotIn(absent, api.bodies(modules[0]))
@@ -126,7 +126,7 @@ class Output(unittest.TestCase):
                         "--- C.\n--@ type id=104 codec=kC\nC ::= SET { a INTEGER }")
         self.has(rows.rows(kept[0]), 'field("line", QUARN_ASN1_U9)', "keep_encoding());", "keep_body());")
         self.has(api.bodies(kept[0]), "quarn_Points_free(quarn_points *value)", "quarn_points *quarn_point_getd(const quarn_point *value) {\n"
-                 "  return quarn_odd_getd(quarn::asn1::part<quarn_odd>(QUARN_ASN1_POINT, value, 0));",
+                 "  return quarn_odd_getd(quarn::asn1::part<quarn_odd>(value, 0));",
                  "int quarn_point_hasc(", "int quarn_point_hasdd(",
                  "int quarn_point_gettbsocts(quarn_point *value, uint8_t *buffer, uint64_t *length)")
         self.assertNotIn("quarn_odd_getd(const", api.bodies(kept[0]))

@@ -88,7 +88,7 @@ def record_getters(definition, variant):
     made = []
     value = [f"const {definition.struct} *value"]
     for index, component in enumerate(definition.fields):
-        arguments = f"({variant.row.constant}, value, {index})"
+        arguments = f"(value, {index})"
         has = component.notes.get("has", component.part)
         if component.record is not None:
             made += getters_through(definition, variant, component, index)
@@ -108,7 +108,7 @@ def record_getters(definition, variant):
 def getters_through(definition, variant, component, index):
     """The getters of a component, for the value that it is in."""
     inner = f"quarn_{component.record.variants[0].prefix}_"
-    part = f"quarn::asn1::part<{component.c_type}>({variant.row.constant}, value, {index})"
+    part = f"quarn::asn1::part<{component.c_type}>(value, {index})"
     return [dataclasses.replace(getter, name=f"quarn_{variant.prefix}_" + getter.name.removeprefix(inner),
                                 parameters=[f"const {definition.struct} *value"],
                                 body=f"return {getter.name}({part})", line=component.line)
@@ -159,7 +159,7 @@ def string_constructor(definition, variant):
     return Function(pointer(definition.struct), f"quarn_{variant.prefix}_new",
                     ["uint64_t tag", "const quarn_asn1_octetstring *string"],
                     [f"A string under one of the tags {tags}; another tag gives null."],
-                    f"return quarn::asn1::build_string<{definition.struct}>({variant.row.constant}, tag, string)",
+                    f"return quarn::asn1::build_choice<{definition.struct}>({variant.row.constant}, tag, string)",
                     variant.line)
 
 
