@@ -14,8 +14,8 @@ pkg_check_modules(GNUTLS IMPORTED_TARGET gnutls)
 find_library(MBEDX509_LIBRARY mbedx509)
 find_program(OPENSSL_COMMAND openssl REQUIRED)
 
-set(inside ${PROJECT_SOURCE_DIR}/bench/walk_inside.cpp ${PROJECT_SOURCE_DIR}/bench/typed/drop_inside.cpp)
-add_library(quarn_bench_inside SHARED ${inside})
+set(walk_inside ${PROJECT_SOURCE_DIR}/bench/walk_inside.cpp)
+add_library(quarn_bench_inside SHARED ${walk_inside})
 target_include_directories(quarn_bench_inside PRIVATE ${PROJECT_SOURCE_DIR})
 target_link_libraries(quarn_bench_inside PRIVATE quarn_container_flags quarn_asn1_static quarn_util_static)
 target_link_options(quarn_bench_inside PRIVATE -Wl,--exclude-libs,ALL)
@@ -28,7 +28,7 @@ add_custom_command(OUTPUT ${corpus}/199.crt
 
 file(GLOB sources CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/bench/*.cpp ${PROJECT_SOURCE_DIR}/bench/typed/*.cpp)
-list(REMOVE_ITEM sources ${inside})
+list(REMOVE_ITEM sources ${walk_inside})
 set(optional_peers)
 if(GNUTLS_FOUND)
   list(APPEND optional_peers PkgConfig::GNUTLS)

@@ -2,7 +2,6 @@
 // extensions stay octets until they are asked for.
 #include <cstring>
 
-#include "bench/typed/drop.h"
 #include "bench/typed/typed.h"
 #include "quarn_asn1/types.h"
 #include "quarn_asn1/x500.h"
@@ -114,10 +113,10 @@ std::size_t encode(void *certificate) {
   return count;
 }
 
-// Encoding keeps what it wrote, so that it has to be dropped each time: that is a part of what is
+// Encoding keeps what it wrote, so that it has to be forgotten each time: that is a part of what is
 // measured.
 std::size_t encode_anew(void *certificate) {
-  drop_kept_octets(QUARN_ASN1_X509PUBKEYCERT, certificate);
+  quarn_asn1_forget_octets(QUARN_ASN1_X509PUBKEYCERT, certificate);
   return encode(certificate);
 }
 

@@ -954,8 +954,8 @@ QUARN_ASN1_API quarn_semanticsinformation *quarn_semanticsinformation_new(
  *
  *     OctetStrings ::= SEQUENCE OF OCTET STRING
  *
- * Type id QUARN_ASN1_OCTETSTRINGS (250). A quarn_asn1_list of OCTET STRING
- * (quarn_asn1_octetstring).
+ * Type ids QUARN_ASN1_OCTETSTRINGS (250), QUARN_ASN1_ERS_PARTIALHASHTREE (269). A quarn_asn1_list
+ * of OCTET STRING (quarn_asn1_octetstring).
  */
 QUARN_ASN1_API void quarn_octetstrings_free(quarn_asn1_list *value);
 

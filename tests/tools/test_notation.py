@@ -66,6 +66,9 @@ Shape ::= CHOICE {
 --- What it is called.
 --@ type id=103 strings
 Name ::= CHOICE { utf8 UTF8String, plain PrintableString }
+--- Another.
+--@ type id=107 strings
+Short ::= CHOICE { a UTF8String }
 """
 
 
@@ -121,7 +124,7 @@ class Output(unittest.TestCase):
 
     def test_words_for_whole_types(self):
         kept = resolved("--- N.\n--@ type id=101 keep=encoding\nN ::= SEQUENCE OF line UTF8String\n"
-                        "--- S.\n--@ type id=100 keep=body\nS ::= SEQUENCE {\na O, --@ through\nb NULL\n}\n"
+                        "--- S.\n--@ type id=100 keep=body\n--@ also id=105\nS ::= SEQUENCE {\na O, --@ through\nb NULL\n}\n"
                         "--- O.\n--@ type id=106 wire=sequence accessors=own\nO ::= SEQUENCE {\nc N OPTIONAL,\nd N --@ has=dd\n}\n"
                         "--- C.\n--@ type id=104 codec=kC\nC ::= SET { a INTEGER }")
         self.has(rows.rows(kept[0]), 'field("line", QUARN_ASN1_U9)', "keep_encoding());", "keep_body());")
@@ -164,7 +167,9 @@ class Mistakes(unittest.TestCase):
                 ("id 2 has the codec 'own'", "--- T.\n--@ type id=2\nT ::= SEQUENCE { x INTEGER }"),
                 ("there is no id 999", "--- T.\n--@ type id=999\nT ::= SEQUENCE { x INTEGER }"),
                 ("two components are called x", "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER, x NULL }"),
-                ("quarn_point_getx is made twice", "--- T.\n--@ type id=100\nT ::= SEQUENCE {\nx INTEGER,\n"
+                ("row 105 (spot) has the stem Point of T and no definition",
+                 "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER }"),
+                ("quarn_point_getx is made twice", "--- T.\n--@ type id=100\n--@ also id=105\nT ::= SEQUENCE {\nx INTEGER,\n"
                                                    "y NULL --@ get=x\n}"),
                 ("the default of x is no OCTET STRING",
                  "--- T.\n--@ type id=100\nT ::= SEQUENCE { x OCTET STRING DEFAULT 0 }"),
@@ -184,8 +189,7 @@ class Mistakes(unittest.TestCase):
                    "--- T.\n--@ type id=101\nT ::= SEQUENCE {\nx Bag --@ id=100\n}")
         self.stops("has the stem Point of Point", POINT.replace("--@ also id=105 check=kSpot\n", "").replace(
             "--@ id=105", ""), "--- T.\n--@ type id=105\nT ::= SEQUENCE { x INTEGER }")
-        short = "--- T.\n--@ type id=107 strings\nShort ::= CHOICE { a UTF8String }"
-        self.assertIn("typedef struct quarn_name quarn_short;", api.section(resolved(POINT + SHAPE, short)[1].definitions[0]))
+        self.assertIn("typedef struct quarn_name quarn_short;", api.section(resolved(POINT, SHAPE)[1].definitions[2]))
 
 
 if __name__ == "__main__":

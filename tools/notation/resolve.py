@@ -42,6 +42,7 @@ class Resolver:
             self.shape(definition)
         for definition in definitions:
             self.sharing(definition)
+        self.claims()
         self.headers()
         return self.modules
 
@@ -105,6 +106,14 @@ class Resolver:
             return
         definition.fail(f"row {definition.row.id} has the stem {definition.row.stem} of {owner.name} and so its free "
                         "function; write it as a row of that definition: '--@ also'")
+
+    def claims(self):
+        """A row that shares the stem, and so the free function, of a definition is described by it or by another."""
+        for row in self.rows:
+            owner = self.by_stem.get(row.stem)
+            if owner is not None and row.codec == "-" and row.id not in self.by_id:
+                owner.fail(f"row {row.id} ({row.name}) has the stem {row.stem} of {owner.name} and no definition; "
+                           f"write '--@ also id={row.id}'")
 
     # ---- Components
 
