@@ -4,8 +4,9 @@
     tools/generate.py           writes the files
     tools/generate.py --check   writes nothing; exits 1 and names each file that is not up to date
 
-Sources are modules/*.asn1, modules/registry.tsv, core/messages.tsv and cli/oids.tsv. Only Python's standard library is
-used, and a build does not need this program: its outputs are checked in.
+Sources are modules/*.asn1, modules/registry.tsv, core/messages.tsv, cli/oids.tsv and, for the codes of the support
+library, include/quarn_util.h. Only Python's standard library is used, and a build does not need this program: its
+outputs are checked in.
 """
 
 import functools
@@ -16,7 +17,6 @@ import sys
 from notation import api, functions, model, parser, resolve, rows, samples
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-CLASS_BITS = {"universal": 0x00, "application": 0x40}
 FORM_NUMBERS = {"primitive": 1, "constructed": 0, "either": -1}
 
 
@@ -144,7 +144,7 @@ def registry_table():
         wire = row.id in described() and "wire" in described()[row.id][0].notes
         tag, form = (16, "constructed") if wire else (row.tag, row.form)
         parts = [c_string(row.name), codec_reference(row), str(tag), f"{row.code:#x}",
-                 f"{CLASS_BITS[row.tag_class]:#x}", str(FORM_NUMBERS[form]), *(["true"] if wire else [])]
+                 f"{model.CLASS_BITS[row.tag_class]:#x}", str(FORM_NUMBERS[form]), *(["true"] if wire else [])]
         lines.append("    {" + ", ".join(parts) + f"}},  // {row.id}\n")
     return "".join(lines) + "};\n"
 
@@ -179,8 +179,8 @@ def errors_page():
 
 def oid_names():
     """In the order of the strings, for a binary search."""
-    rows = sorted(line if len(line) == 3 else [*line, ""] for line in rows_of("cli/oids.tsv"))
-    body = "".join("    {" + ", ".join(c_string(text) for text in row) + "},\n" for row in rows)
+    names = sorted(line if len(line) == 3 else [*line, ""] for line in rows_of("cli/oids.tsv"))
+    body = "".join("    {" + ", ".join(c_string(text) for text in name) + "},\n" for name in names)
     return made_from("cli/oids.tsv") + "constexpr OidName kOidNames[] = {\n" + body + "};\n"
 
 
@@ -192,9 +192,9 @@ def support_codes():
 
 
 def error_uses():
-    rows = list(support_codes())
-    rows += [(code, f"QUARN_ASN1_ERROR_{name}", use) for code, _, name, use in messages() if name != "-"]
-    body = "".join(f"    {{{code:#x}, {c_string(name)}, {c_string(use)}}},\n" for code, name, use in rows)
+    uses = list(support_codes())
+    uses += [(code, f"QUARN_ASN1_ERROR_{name}", use) for code, _, name, use in messages() if name != "-"]
+    body = "".join(f"    {{{code:#x}, {c_string(name)}, {c_string(use)}}},\n" for code, name, use in uses)
     return (made_from("core/messages.tsv and include/quarn_util.h") +
             "constexpr CodeUse kCodeUses[] = {\n" + body + "};\n")
 

@@ -4,7 +4,7 @@ import re
 import textwrap
 
 from .functions import functions_of
-from .layout import WIDTH, block, call, comment, declaration, paragraphs
+from .layout import WIDTH, call, comment, declaration, paragraphs
 
 CONVENTIONS = [
     "Constructors copy their arguments and return null when a mandatory one is null or memory is short. Getters lend: "
@@ -45,7 +45,7 @@ def header(module, modules):
     guard = f"QUARN_ASN1_{module.header.upper()}_H"
     definitions = in_order(module)
     includes = "".join(f'#include "{name}.h"\n' for name in sorted(["types", *needed(module, modules)]))
-    head = block([*paragraphs(module.head), *CONVENTIONS])
+    head = comment([*paragraphs(module.head), *CONVENTIONS])
     parts = [f"{head}\n#ifndef {guard}\n#define {guard}\n\n{includes}\n"
              '#ifdef __cplusplus\nextern "C" {\n#endif\n']
     parts += [section(definition) for definition in definitions]
@@ -55,14 +55,14 @@ def header(module, modules):
 
 def section(definition):
     described = [*paragraphs(definition.text), source(definition), identity(definition)]
-    text = f"/* ---- {definition.name} */\n\n{block(described)}\n"
+    text = f"/* ---- {definition.name} */\n\n{comment(described)}\n"
     if definition.struct != "quarn_asn1_list":
         owner = definition.owner.struct
         text += f"typedef struct {owner} {definition.struct};\n"
     for function in functions_of(definition):
         # The text of a list, which has no struct, goes before its free function.
         if not text.endswith("*/\n"):
-            text += (comment(function.text[0]) if len(function.text) == 1 else block(function.text)) + "\n"
+            text += comment(function.text) + "\n"
         text += declaration(f"QUARN_ASN1_API {function.result}{function.name}(", function.parameters, ");") + "\n"
     return text
 

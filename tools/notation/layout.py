@@ -40,17 +40,10 @@ def call(opening, items, closing):
     return "\n".join(lines)
 
 
-def comment(text, indent=""):
-    """A documentation comment of one paragraph."""
-    line = f"{indent}/** {text} */"
-    if len(line) <= WIDTH:
-        return line
-    lines = textwrap.wrap(text, WIDTH - len(indent) - 3, break_on_hyphens=False)
-    return "\n".join([f"{indent}/**", *(f"{indent} * {one}" for one in lines), f"{indent} */"])
-
-
-def block(parts):
+def comment(parts):
     """A documentation comment of paragraphs; a list of lines stands as it is. Lines that start with @ follow close."""
+    if len(parts) == 1 and len(parts[0]) <= WIDTH - len("/**  */"):
+        return f"/** {parts[0]} */"
     lines = ["/**"]
     for position, part in enumerate(parts):
         tagged = [isinstance(one, str) and one.startswith("@") for one in parts[max(position - 1, 0):position + 1]]

@@ -4,6 +4,9 @@ import dataclasses
 import re
 
 
+CLASS_BITS = {"universal": 0x00, "application": 0x40}
+
+
 class NotationError(Exception):
     """A mistake in a source file, with its place."""
 

@@ -93,8 +93,7 @@ class Resolver:
             if variant is definition.variants[0]:
                 definition.owner = owner
         bare = definition.is_list and "keep" not in definition.notes and "codec" not in definition.notes
-        definition.struct = ("quarn_asn1_list" if bare else
-                             "quarn_" + definition.notes.get("value", definition.variants[0].prefix))
+        definition.struct = "quarn_asn1_list" if bare else f"quarn_{definition.variants[0].prefix}"
 
     @staticmethod
     def sharing(definition):

@@ -6,10 +6,11 @@ least one. A CHOICE has a full sample of each alternative instead. What lies dee
 
 import dataclasses
 
+from .model import CLASS_BITS
+from .resolve import ANY_ID, TIME_ID
+
 CONTEXT, UNIVERSAL = 0x80, 0x00
-CLASSES = {"universal": UNIVERSAL, "application": 0x40}
-ANY, TIME, UTC_TIME = 23, 20, 21
-OCTET_STRING = 4
+OCTET_STRING_ID, UTC_TIME_ID = 4, 21
 LISTS_OF_ANY = {24: 0, 25: 1, 26: 0, 27: 1}  # and the elements that they have at least
 
 # What a check of a row refuses.
@@ -17,7 +18,7 @@ ABSENT = {"kPkixAttributeTypeAndValue": {"primaryDistinguished", "valuesWithCont
           "kPkcs10Attribute": {"valuesWithContext"},
           "kPkixNameConstraints": {"requiredNameForms"}}
 # The type that a check of a row demands of the open types in it.
-OPEN = {"kCmsSignedData": OCTET_STRING}
+OPEN = {"kCmsSignedData": OCTET_STRING_ID}
 
 
 def letter(salt):
@@ -84,21 +85,21 @@ class Sampler:
             return UNIVERSAL, type_id in LISTS_OF_ANY, row.tag
         if "wire" in self.described[type_id][0].notes:
             return UNIVERSAL, True, 16
-        return CLASSES[row.tag_class], True, row.tag
+        return CLASS_BITS[row.tag_class], True, row.tag
 
     def element(self, type_id, look):
         definition = self.described.get(type_id, [None])[0]
         if definition and definition.kind == "choice":
             return self.alternative(definition, definition.fields[look.salt % len(definition.fields)], look)
-        if type_id == ANY:
+        if type_id == ANY_ID:
             return self.element(look.open or [9, 2][look.salt % 2], look)
-        if type_id == TIME:
-            return self.element(UTC_TIME, look)
+        if type_id == TIME_ID:
+            return self.element(UTC_TIME_ID, look)
         return tlv(*self.header(type_id), self.content(type_id, look))
 
     def content(self, type_id, look):
         if type_id in LISTS_OF_ANY:
-            return self.elements(ANY, max(look.elements, LISTS_OF_ANY[type_id]), look)
+            return self.elements(ANY_ID, max(look.elements, LISTS_OF_ANY[type_id]), look)
         if type_id not in self.described:
             return CONTENTS.get(type_id, letter)(look.salt)
         definition, variant = self.described[type_id]
