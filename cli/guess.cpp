@@ -206,14 +206,18 @@ std::string notation_of(std::int64_t type_id) {
   return quarn_asn1_type_shape(type_id, &shape) == 1 ? shape.name : "?";
 }
 
+std::int64_t find_type(const std::string &name) {
+  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    if (name == std::to_string(id) || same_word(name, registered_name(id))) return id;
+  }
+  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    if (supported(id) && same_word(name, notation_of(id))) return id;
+  }
+  return -1;
+}
+
 std::int64_t type_named(const std::string &command, const std::string &name) {
-  std::int64_t found = -1;
-  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT && found < 0; id++) {
-    if (name == std::to_string(id) || same_word(name, registered_name(id))) found = id;
-  }
-  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT && found < 0; id++) {
-    if (supported(id) && same_word(name, notation_of(id))) found = id;
-  }
+  const std::int64_t found = find_type(name);
   if (found < 0) throw no_such_type(command, name);
   if (supported(found)) return found;
   throw UsageError(command, "this version cannot decode the type " + in_quotes(name));
