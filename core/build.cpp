@@ -37,6 +37,7 @@ void *build_record(quarn_asn1_type_id id, std::span<const void *const> parts) {
     if (!made) return nullptr;
     // Nobody could decode it again: there, it would be the end.
     if (schema.kind != Kind::open_tail && is_end_of_contents(field, *component)) return nullptr;
+    if (!has_size(field, *component)) return nullptr;
   }
   return record.release();
 }

@@ -102,6 +102,8 @@ inline bool is_kept(const Schema &schema, const void *value) {
 [[nodiscard]] bool take_default(const Field &field, void **component);
 // Whether a component is left out of the encoding: absent, or equal in meaning to its default.
 bool left_out(const Field &field, void *component);
+// Whether the value of a component, if it is there, has as many octets as it must.
+bool has_size(const Field &field, const void *component);
 // Whether a value may be used for its type. Decoding and encoding record it when not.
 inline bool allowed(const Schema &schema, const void *value) {
   return schema.restriction == nullptr || schema.restriction->allows(value);

@@ -109,8 +109,12 @@ class RecordDecoder {
     void **component = components_;
     for (const Field &field : schema_.fields) {
       if (positions != nullptr) *positions++ = position();
-      const Status status = take(field, component++);
+      Status status = take(field, component);
+      if (status && !has_size(field, *component)) {
+        status = named(field, fail(schema_, in_, QUARN_ASN1_ERROR_SIZE));
+      }
       if (!status) return status;
+      component++;
     }
     const Status status = finish();
     if (positions != nullptr) *positions = static_cast<std::int64_t>(taken());

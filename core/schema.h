@@ -45,7 +45,8 @@ struct Field {
   const std::uint8_t *default_octets;  // DER encoding of a default that is neither of the two below
   std::uint16_t type_id;
   std::uint16_t tag;  // n of [n]; plain: the universal tag that is written, 0 for the type's
-  std::int16_t default_value;  // 0 and 1 for FALSE and TRUE; how many default_octets there are
+  std::int8_t default_value;  // 0 and 1 for FALSE and TRUE; how many default_octets there are
+  std::int8_t size;  // octets of a string; negative: it has at least as many; 0: any number
   Tagging tagging;
   Presence presence;
 
@@ -63,7 +64,7 @@ enum class Kind : std::uint8_t {
 };
 
 // The longest encoding that a default may have: values are compared with it on the stack.
-constexpr std::int16_t kMostDefaultOctets = 64;
+constexpr std::int8_t kMostDefaultOctets = 64;
 
 // What a value keeps of the octets that it was decoded from or last encoded to, so that it encodes
 // to the same ones again.
@@ -110,8 +111,11 @@ struct Tag {
 };
 struct Occurrence {
   Presence presence;
-  std::int16_t value;
+  std::int8_t value;
   const std::uint8_t *octets = nullptr;
+};
+struct Size {
+  std::int8_t octets;
 };
 struct PrimitiveForm {};
 struct AtLeast {
@@ -129,6 +133,9 @@ constexpr void note(Field &field, Occurrence occurrence) {
   field.presence = occurrence.presence;
   field.default_value = occurrence.value;
   field.default_octets = occurrence.octets;
+}
+constexpr void note(Field &field, Size size) {
+  field.size = size.octets;
 }
 constexpr void note(Field &field, PrimitiveForm /*form*/) {
   field.tagging = Tagging::implicit_primitive;
@@ -185,12 +192,19 @@ constexpr notation::Occurrence defaults_to(bool value) {
   return {Presence::default_boolean, value};
 }
 constexpr notation::Occurrence defaults_to(int value) {
-  return {Presence::default_integer, static_cast<std::int16_t>(value)};
+  return {Presence::default_integer, static_cast<std::int8_t>(value)};
 }
 // A default of any type, by its DER encoding.
 template <std::size_t kCount>
 constexpr notation::Occurrence default_encoding(const std::uint8_t (&octets)[kCount]) {
-  return {Presence::default_encoding, static_cast<std::int16_t>(kCount), octets};
+  return {Presence::default_encoding, std::int8_t{kCount}, octets};
+}
+// A string of so many octets, or of at least as many. Decoders and constructors refuse others.
+constexpr notation::Size octets(std::int8_t count) {
+  return {count};
+}
+constexpr notation::Size at_least_octets(std::int8_t count) {
+  return {static_cast<std::int8_t>(-count)};
 }
 
 // Of a type.
@@ -217,7 +231,7 @@ constexpr notation::NumberedFrom numbered_from(std::uint8_t number) {
 template <typename... Notes>
 constexpr Field field(const char *name, quarn_asn1_type_id type, Notes... notes) {
   Field made{
-      name, nullptr, static_cast<std::uint16_t>(type), 0, 0, Tagging::plain, Presence::mandatory};
+      name, nullptr, static_cast<std::uint16_t>(type), 0, 0, 0, Tagging::plain, Presence::mandatory};
   (notation::note(made, notes), ...);
   return made;
 }

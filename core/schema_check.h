@@ -50,6 +50,7 @@ class SchemaCheck {
                               (field.tagging == Tagging::plain && field.tag != 0);
     if (replaces_tag && !has_own_tag(field)) return false;
     if (field.tagging == Tagging::implicit_primitive && row(field).form != 0) return false;
+    if (field.size != 0 && !is_string(field)) return false;
     if (field.presence == Presence::default_boolean) return field.type_id == QUARN_ASN1_BOOLEAN;
     if (field.presence == Presence::default_integer) return field.type_id == QUARN_ASN1_INTEGER;
     if (field.presence == Presence::default_encoding) {
@@ -132,10 +133,15 @@ class SchemaCheck {
            fields[1].presence == Presence::optional;
   }
 
+  static constexpr bool is_character_string(const Field &field) {
+    return field.type_id >= QUARN_ASN1_UTF8STRING && field.type_id <= QUARN_ASN1_BMPSTRING;
+  }
+  static constexpr bool is_string(const Field &field) {
+    return field.type_id == QUARN_ASN1_OCTETSTRING || is_character_string(field);
+  }
   static constexpr bool are_strings(std::span<const Field> alternatives) {
     for (const Field &field : alternatives) {
-      if (field.type_id < QUARN_ASN1_UTF8STRING || field.type_id > QUARN_ASN1_BMPSTRING)
-        return false;
+      if (!is_character_string(field)) return false;
     }
     return true;
   }

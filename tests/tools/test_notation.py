@@ -43,6 +43,8 @@ POINT = """
 Point ::= SEQUENCE {
     x          INTEGER,
     y-Axis     [0] EXPLICIT INTEGER DEFAULT 7,                --@ get=height
+    iv         OCTET STRING (SIZE (8)),
+    text       [3] IMPLICIT UTF8String (SIZE (1..MAX)) OPTIONAL,
     dNSName    [1] IMPLICIT OCTET STRING OPTIONAL,            -- a remark
     colour     [2] IMPLICIT Bag DEFAULT '3100'H,
     new        ANY OPTIONAL                                   --@ get=none
@@ -82,6 +84,8 @@ class Output(unittest.TestCase):
         self.has(rows.rows(modules[0]),
                  'field("x", QUARN_ASN1_U2),',
                  'field("y-Axis", QUARN_ASN1_U2, explicit_tag(0), defaults_to(7)),',
+                 'field("iv", QUARN_ASN1_U4, octets(8)),',
+                 'field("text", QUARN_ASN1_U9, implicit_tag(3), optional(), at_least_octets(1)),',
                  'field("dNSName", QUARN_ASN1_U4, implicit_tag(1), optional()),',
                  "constexpr std::uint8_t kPointColourDefault[] = {0x31, 0x00};",
                  'field("colour", QUARN_ASN1_BAG, implicit_tag(2), default_encoding(kPointColourDefault)),',
@@ -101,7 +105,7 @@ class Output(unittest.TestCase):
                  "const quarn_asn1_octetstring *dns_name,", "const quarn_asn1_any *new_)",
                  "return quarn::asn1::part<quarn_asn1_integer>(value, 1);",
                  "int quarn_pt_hasdnsname(const quarn_pt *value) {\n"
-                 "  return quarn::asn1::has_part(value, 2);",
+                 "  return quarn::asn1::has_part(value, 4);",
                  "void quarn_bag_free(quarn_asn1_list *value)")
         for absent in ("getnew", "hasnew", "quarn_pt_move", "hasheight", "quarn_spot"):
             self.assertNotIn(absent, api.bodies(modules[0]))
@@ -116,7 +120,7 @@ class Output(unittest.TestCase):
                  " *         dNSName    [1] IMPLICIT OCTET STRING OPTIONAL,\n",
                  "Type ids QUARN_ASN1_POINT (100), QUARN_ASN1_SPOT (105).", "typedef struct quarn_pt quarn_pt;",
                  "/** Moves it away. */\nQUARN_ASN1_API int quarn_pt_move(quarn_pt *value, const quarn_asn1_integer *by);",
-                 "A quarn_asn1_list of Point (quarn_pt).", "\n * From its components. Null leaves out dns_name and new_, and stands for the default of")
+                 "A quarn_asn1_list of Point (quarn_pt).", "\n * From its components. Null leaves out text, dns_name and new_, and stands for the default of")
         text = api.header(modules[1], modules)
         self.has(text, '#include "h0.h"\n#include "types.h"\n')
         self.assertLess(text.index("typedef struct quarn_name"), text.index("typedef struct quarn_shape"))
@@ -190,6 +194,10 @@ class Mistakes(unittest.TestCase):
                                                    "y NULL --@ get=x\n}"),
                 ("the default of x is no OCTET STRING",
                  "--- T.\n--@ type id=100\nT ::= SEQUENCE { x OCTET STRING DEFAULT 0 }"),
+                ("SIZE is for strings in a record",
+                 "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER (SIZE (8)) }"),
+                ("the default of x is not between -128 and 127",
+                 "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER DEFAULT 128 }"),
                 ("the tags of T do not follow one another",
                  "--- T.\n--@ type id=102\nT ::= CHOICE { a [0] IMPLICIT NULL, b [2] IMPLICIT NULL }"),
                 ("a SEQUENCE inside a component is a definition of its own",

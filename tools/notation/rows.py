@@ -33,6 +33,8 @@ def field(definition, component):
         notes.append(f"default_encoding({default_constant(definition, component)})")
     elif component.presence == "default":
         notes.append(f"defaults_to({str(component.default).lower()})")
+    if component.size is not None:
+        notes.append(f"{'at_least_octets' if component.size[1] else 'octets'}({component.size[0]})")
     if "written" in component.notes:
         notes.append(f"written_tag({component.notes['written']})")
     if component.notes.get("form") == "primitive":

@@ -64,6 +64,7 @@ class Look:
     salt: int = 0  # makes values differ
     depth: int = 0
     open: int = None  # the type of what is open
+    octets: int = 1  # of a string
 
     def inside(self, salt):
         return Look(self.optional and self.depth < 2, min(self.elements, 1), self.salt + salt, self.depth + 1,
@@ -101,7 +102,7 @@ class Sampler:
         if type_id in LISTS_OF_ANY:
             return self.elements(ANY_ID, max(look.elements, LISTS_OF_ANY[type_id]), look)
         if type_id not in self.described:
-            return CONTENTS.get(type_id, letter)(look.salt)
+            return CONTENTS.get(type_id, letter)(look.salt) * look.octets
         definition, variant = self.described[type_id]
         if definition.is_list:
             return self.elements(definition.fields[0].row.id, max(look.elements, definition.at_least), look)
@@ -123,6 +124,8 @@ class Sampler:
 
     def component(self, component, look, as_written=False):
         type_id = component.row.id
+        if component.size is not None:
+            look = dataclasses.replace(look, octets=component.size[0])
         if component.tag is None:
             octets = self.element(type_id, look) if component.default is not True else tlv(*self.header(1), b"\0")
             written = component.notes.get("written") if as_written else None
