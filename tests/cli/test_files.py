@@ -233,7 +233,8 @@ class Files(unittest.TestCase):
         self.check_rows([self.folder / name for name in sorted(self.made)[::2]])
 
     def test_every_ber_form_of_a_file_means_the_same(self):
-        for sample in ("strange", *{name.split("-")[0]: name for name in self.made if "indef" not in name}.values()):
+        in_der = [name for name in self.made if b"\x30\x80" not in self.made[name]]
+        for sample in {name.split("-")[0]: name for name in in_der}.values():  # one of each type
             with self.subTest(sample):
                 files = {"der": self.made[sample], **variants(self.made[sample])}
                 folder = write_all(self.path / f"ber-{sample}", files)
