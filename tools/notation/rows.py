@@ -66,7 +66,7 @@ def schema(definition, variant, unit, array):
     if definition.kind == "choice" and not definition.is_strings and definition.first:
         arguments.append(f"numbered_from({definition.first})")
     if "keep" in notes:
-        arguments.append(f"keep_{notes['keep']}()")
+        arguments.append(f"keep_{notes['keep'].replace('alone', '_alone')}()")
     if "check" in variant.notes:
         arguments.append(f"restricted_by({variant.notes['check']})")
     opening = f"constexpr Schema {schema_of(definition, variant)} ="
