@@ -8,7 +8,7 @@ from .model import Alias, Component, Definition, Export, Module, NotationError, 
 NUMBER, CONSTANT, WORD = r"\d+", r"k[A-Za-z0-9]+", r"[A-Za-z0-9_]+"
 MODULE_NOTES = {"unit": WORD, "header": WORD}
 TYPE_NOTES = {"id": NUMBER, "prefix": WORD, "new": "none|own", "accessors": "own", "check": CONSTANT,
-              "keep": "encoding|body|positions", "codec": CONSTANT, "wire": "sequence", "first": NUMBER,
+              "keep": "encoding|body|bodyalone|positions", "codec": CONSTANT, "wire": "sequence", "first": NUMBER,
               "tail": "open", "strings": None}
 PLACES = "extension|attribute|qualifier|statement|parameters|capability|key|content|bag"
 ALSO_NOTES = {word: TYPE_NOTES[word] for word in ("id", "prefix", "check")} | {"open": PLACES}

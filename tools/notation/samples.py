@@ -17,6 +17,8 @@ LISTS_OF_ANY = {24: 0, 25: 1, 26: 0, 27: 1}  # and the elements that they have a
 ABSENT = {"kPkixAttributeTypeAndValue": {"primaryDistinguished", "valuesWithContext"},
           "kPkcs10Attribute": {"valuesWithContext"},
           "kPkixNameConstraints": {"requiredNameForms"}}
+# Contents that a check of a row demands: without the optional components, and with them.
+DEMANDED = {"kRsaVersion": {"version": (b"\0", b"\1")}, "kPbeSalt": {"salt": (bytes(8), bytes(8))}}
 # The type that a check of a row demands of the open types in it.
 OPEN = {"kCmsSignedData": OCTET_STRING_ID}
 
@@ -110,7 +112,10 @@ class Sampler:
         look = dataclasses.replace(look, open=OPEN.get(check, look.open))
         if check == "kUuidPair":
             return tlv(*self.header(4), bytes(range(16))) + tlv(*self.header(4), bytes(range(16, 32)))
-        return b"".join(self.component(component, look.inside(salt)) for salt, component in enumerate(definition.fields)
+        demanded = DEMANDED.get(check, {})
+        return b"".join(tlv(*self.header(component.row.id), demanded[component.name][look.optional])
+                        if component.name in demanded else self.component(component, look.inside(salt))
+                        for salt, component in enumerate(definition.fields)
                         if component.name not in ABSENT.get(check, ())
                         and (look.optional or component.presence == "mandatory"))
 
