@@ -174,7 +174,7 @@ class Types(Case):
     def test_what_fits_no_type_or_not_the_one_named_is_explained(self):
         data = bytes.fromhex("300a0203010203" + "0c03616263")
         run = Run("decode", data=data)
-        self.check(run, 1, "none of the", "tried     ", "offset 2", "found INTEGER")
+        self.check(run, 1, "none of the", "tried     ", "offset 7", "found UTF8String")
         self.assertEqual(run.lines, ["SEQUENCE", "  INTEGER 66051", "  UTF8String 'abc'"])
         self.assertEqual(Run("decode", "--json", data=data).out, "")
         error = Run("decode", "--lines", data=data).records()[0]["error"]
