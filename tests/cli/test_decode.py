@@ -178,7 +178,7 @@ class Types(Case):
         self.assertEqual(run.lines, ["SEQUENCE", "  INTEGER 66051", "  UTF8String 'abc'"])
         self.assertEqual(Run("decode", "--json", data=data).out, "")
         error = Run("decode", "--lines", data=data).records()[0]["error"]
-        self.assertIn({"offset": 2}, [{"offset": each["offset"]} for each in error["tried"]])
+        self.assertIn({"offset": 7}, [{"offset": each["offset"]} for each in error["tried"]])
         run = Run("decode", "-t", "Extension", data=data)
         self.check(run, 1, "offset 2 (0x2): found INTEGER", "path      extnID",
                    "expected  OBJECT IDENTIFIER, in a value of Extension", "0x1020a")
