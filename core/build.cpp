@@ -60,24 +60,6 @@ void *build_null_alternative(quarn_asn1_type_id type, std::uint64_t number) {
   return build_alternative(type, number, null_value());
 }
 
-void *build_empty_list(quarn_asn1_type_id id) {
-  const Type &type = type_of(id);
-  quarn_asn1_list *list = quarn_asn1_list_new();
-  if (type.schema->keep == Keep::nothing || list == nullptr) return list;
-  void *record = new_record(*type.schema);
-  if (record == nullptr) {
-    quarn_asn1_list_free(list, type.schema->element());
-  } else {
-    components(record)[0] = list;
-  }
-  return record;
-}
-
-void *copy_of(quarn_asn1_type_id type, const void *value) {
-  void *copy = nullptr;
-  return value != nullptr && copy_into(type_of(type), value, &copy) ? copy : nullptr;
-}
-
 void *part_of(const void *value, std::size_t index) {
   return component(value, index);
 }

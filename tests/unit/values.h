@@ -55,6 +55,32 @@ Value<T, kType> decoded(const Octets &octets) {
   return Value<T, kType>(static_cast<T *>(value));
 }
 
+// A value of any type, which frees itself; null when the octets do not decode.
+class Held {
+ public:
+  Held(std::int64_t type, void *value) : type_(type), value_(value) {}
+  Held(std::int64_t type, const Octets &octets) : type_(type) {
+    const auto count = static_cast<std::int64_t>(octets.size());
+    quarn_asn1_mem_decode(octets.data(), count, type, &value_);
+  }
+  Held(std::int64_t type, const char *octets) : Held(type, hex(octets)) {}
+  Held(const Held &) = delete;
+  Held &operator=(const Held &) = delete;
+  ~Held() { quarn_asn1_value_free(type_, value_); }
+
+  std::int64_t type() const { return type_; }
+  void *get() const { return value_; }
+  template <typename T>
+  T *as() const {
+    return static_cast<T *>(value_);
+  }
+  Octets encoding() const { return encoding_of(type_, value_); }
+
+ private:
+  std::int64_t type_;
+  void *value_ = nullptr;
+};
+
 }  // namespace quarn::test
 
 #endif
