@@ -76,14 +76,13 @@ QUARN_ASN1_API int quarn_asn1_decode_pkcs7signeddata_ex(quarn_stream *stream,
 /**
  * A new stream of the content of the element that begins at an offset of a source: of an OCTET
  * STRING the octets of its segments, joined, of another element those between its header and its
- * end.
+ * end. An element [0] is taken for an OCTET STRING under an implicit tag, as encryptedContent is.
  *
  * It is read once, from start to end, and has no length. An element that is not right, or comes to
  * its end early, is a failure of the read that finds it. Freed with quarn_stream_free().
  *
  * @param source  a stream that can seek, which must outlive the new one; each read moves it
  * @param offset  from the start of source: the offset of a quarn_asn1_content_place, if the message
- *                began there. Of an implicitly tagged OCTET STRING it is refused when constructed.
  * @return null, with a record, when no element begins there
  */
 QUARN_ASN1_API quarn_stream *quarn_asn1_contentstream_new(quarn_stream *source,
