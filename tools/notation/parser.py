@@ -13,7 +13,7 @@ TYPE_NOTES = {"id": NUMBER, "prefix": WORD, "new": "none|own", "accessors": "own
 PLACES = "extension|attribute|qualifier|statement|parameters|capability|key|content|bag"
 ALSO_NOTES = {word: TYPE_NOTES[word] for word in ("id", "prefix", "check")} | {"open": PLACES}
 COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive|exact",
-                   "through": None, "open": PLACES}
+                   "through": None, "content": None, "open": PLACES}
 
 TWO_WORDS = {"BIT": "STRING", "OCTET": "STRING", "OBJECT": "IDENTIFIER"}
 WITH_NAMES = ("INTEGER", "ENUMERATED", "BIT STRING")
