@@ -19,6 +19,12 @@ struct PlacedOpening {
   Opening opening;
 };
 
+struct DataComponent {
+  std::int64_t record;
+  std::string_view component;
+  Opening opening;
+};
+
 struct NamedComponent {
   std::int64_t record;
   std::string_view component;
@@ -62,15 +68,22 @@ const Opening *find_opening(Place place, std::string_view dotted) {
 
 std::vector<std::string> identifiers_of(std::int64_t type_id) {
   // In the order of Place.
-  constexpr const char *kPlaces[] = {"attribute",  "bag",       "capability",
-                                     "content",    "extension", "key",
-                                     "parameters", "qualifier", "statement"};
+  constexpr const char *kPlaces[] = {"attribute", "bag",      "capability", "content",
+                                     "extension", "key",      "parameters", "private key",
+                                     "qualifier", "response", "statement"};
   std::vector<std::string> found;
   for (const PlacedOpening &row : kOpenings) {
     if (row.opening.type_id != type_id) continue;
     found.push_back(kPlaces[static_cast<std::size_t>(row.place)] + (" " + std::string(row.dotted)));
   }
   return found;
+}
+
+const Opening *data_opening(std::int64_t record_type, std::string_view component) {
+  for (const DataComponent &row : kData) {
+    if (row.record == record_type && row.component == component) return &row.opening;
+  }
+  return nullptr;
 }
 
 const char *component_names(std::int64_t record_type, std::string_view component) {

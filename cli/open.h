@@ -22,7 +22,9 @@ enum class Place {
   extension,
   key,
   parameters,
+  private_key,
   qualifier,
+  response,
   statement
 };
 
@@ -39,6 +41,7 @@ const OpenRecord *open_record(std::int64_t type_id);
 
 struct Opening {
   std::int64_t type_id;
+  bool contained;  // in an OCTET STRING, in a place for any type
   const char
       *names;  // of bits or numbers, from 0 on, separated by commas; null when they have none
 };
@@ -47,6 +50,9 @@ const Opening *find_opening(Place place, std::string_view dotted);
 
 // "extension 2.5.29.15" for each identifier that tells a type.
 std::vector<std::string> identifiers_of(std::int64_t type_id);
+
+// What a message of the type data contains where it is a component; null when it may be anything.
+const Opening *data_opening(std::int64_t record_type, std::string_view component);
 
 // The names of the bits or numbers of a component; null when they have none.
 const char *component_names(std::int64_t record_type, std::string_view component);

@@ -13,6 +13,8 @@ namespace {
 // is decoded into memory of its own, so that their number must not be the input's to choose.
 constexpr int kMostOpenings = 8;
 
+constexpr std::string_view kData = "1.2.840.113549.1.7.1";
+
 struct Level {
   Node node;
   std::int64_t count = 0;
@@ -23,7 +25,9 @@ struct Level {
   const OpenRecord *record = nullptr;
   bool elements = false;
   std::string oid;
+  const Opening *data = nullptr;  // what it contains if it is a message of the type data
   // Kept for as long as the level is walked.
+  Decoded string;
   Decoded opened;
   std::vector<std::uint8_t> octets;
 };
@@ -45,6 +49,7 @@ class Walker {
   void handle(Level level);
   void push(Level level);
   static void resolve(Node &node);
+  static void unwrap(Level &level);
   static void open(Level &level, const Level &parent);
   static bool is_place(const Level &parent, std::int64_t index);
 
@@ -78,16 +83,36 @@ bool Walker::is_place(const Level &parent, std::int64_t index) {
   return parent.elements || (parent.record->value == index && !parent.record->elements);
 }
 
+// How what a level holds is to be opened; null when nothing tells.
+const Opening *opening_in(const Level &parent) {
+  const bool data = parent.record->place == Place::content && parent.oid == kData;
+  if (data && parent.data != nullptr) return parent.data;
+  return find_opening(parent.record->place, parent.oid);
+}
+
+// Puts the OCTET STRING in an ANY in its place. Left alone when it holds something else: PKCS #7
+// has contents as they are.
+void Walker::unwrap(Level &level) {
+  Node &node = level.node;
+  Decoded string(QUARN_ASN1_OCTETSTRING, octets_of(node.type_id, node.value));
+  if (string.get() == nullptr) return;
+  level.string = std::move(string);
+  node.type_id = QUARN_ASN1_OCTETSTRING;
+  node.value = level.string.get();
+  resolve(node);
+}
+
 // Puts what the string or ANY of a level holds in its place.
 void Walker::open(Level &level, const Level &parent) {
   Node &node = level.node;
+  const Opening *opening = opening_in(parent);
+  if (opening != nullptr && opening->contained && node.shape.base == QUARN_ASN1_ANY) unwrap(level);
   const std::int64_t holder = node.shape.base;
   if (holder != QUARN_ASN1_ANY && holder != QUARN_ASN1_OCTETSTRING &&
       holder != QUARN_ASN1_BITSTRING) {
     return;
   }
   node.place = true;
-  const Opening *opening = find_opening(parent.record->place, parent.oid);
   if (opening == nullptr) return;
   level.octets = octets_of(node.type_id, node.value);
   Octets octets(level.octets);
@@ -134,6 +159,7 @@ void Walker::step() {
   node.names = component_names(node.parent_type, component.name);
   note_tag(node.tags, component);
   resolve(node);
+  level.data = data_opening(node.parent_type, component.name);
   if (is_place(parent, index)) open(level, parent);
   if (parent.record != nullptr && parent.record->elements && !parent.elements &&
       parent.record->value == index && node.list()) {
@@ -152,12 +178,16 @@ void Walker::handle(Level level) {
   if (visitor_.enter(node, level.count)) push(std::move(level));
 }
 
-// The identifier of a record, also where an AlgorithmIdentifier stands in its place.
-std::string identifier_of(const Node &node) {
-  const quarn_asn1_component first = component_of(node, 0);
-  if (first.value == nullptr || first.type_id == QUARN_ASN1_OID) return oid_text(first.value);
-  const quarn_asn1_component algorithm = component_of(first.type_id, first.value, 0);
-  return algorithm.type_id == QUARN_ASN1_OID ? oid_text(algorithm.value) : "";
+// The first identifier among the components of a record, or the algorithm of the first that has
+// one.
+std::string identifier_of(const Node &node, std::int64_t count) {
+  for (std::int64_t i = 0; i < count; i++) {
+    const quarn_asn1_component component = component_of(node, i);
+    if (component.type_id == QUARN_ASN1_OID) return oid_text(component.value);
+    if (component.type_id != QUARN_ASN1_X509ALGORITHMID) continue;
+    return oid_text(component_of(component.type_id, component.value, 0).value);
+  }
+  return "";
 }
 
 void Walker::push(Level level) {
@@ -171,7 +201,7 @@ void Walker::push(Level level) {
       level.label_width = std::max(level.label_width, std::string_view(component.name).size());
     }
     level.record = open_record(node.type_id);
-    if (level.record != nullptr) level.oid = identifier_of(node);
+    if (level.record != nullptr) level.oid = identifier_of(node, level.count);
   }
   levels_.push_back(std::move(level));
 }

@@ -237,8 +237,11 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_ocsp_responsebytes_getresponse(
  * without. Its codes lie outside the messages, so that they have no text.
  *
  *     OCSPResponse ::= SEQUENCE {
- *         responseStatus  ENUMERATED,
+ *         responseStatus  OCSPResponseStatus,
  *         responseBytes   [0] EXPLICIT ResponseBytes OPTIONAL
+ *     }
+ *     OCSPResponseStatus ::= ENUMERATED {
+ *         successful(0), malformedRequest(1), internalError(2), tryLater(3), sigRequired(5), unauthorized(6)
  *     }
  *
  * Type id QUARN_ASN1_OCSP_OCSPRESPONSE (175).
@@ -295,7 +298,11 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_ocsp_responderid_getbykey(
  *
  *     RevokedInfo ::= SEQUENCE {
  *         revocationTime    GeneralizedTime,
- *         revocationReason  [0] EXPLICIT ENUMERATED OPTIONAL
+ *         revocationReason  [0] EXPLICIT CRLReason OPTIONAL
+ *     }
+ *     CRLReason ::= ENUMERATED {
+ *         unspecified(0), keyCompromise(1), cACompromise(2), affiliationChanged(3), superseded(4),
+ *         cessationOfOperation(5), certificateHold(6), removeFromCRL(8), privilegeWithdrawn(9), aACompromise(10)
  *     }
  *
  * Type id QUARN_ASN1_OCSP_REVOKEDINFO (177).

@@ -97,7 +97,7 @@ QUARN_ASN1_API void quarn_pkcs1otherprimeinfos_free(quarn_asn1_list *value);
  * encoding and the constructor refuse another.
  *
  *     RSAPrivateKey ::= SEQUENCE {
- *         version          INTEGER,
+ *         version          INTEGER { two-prime(0), multi(1) },
  *         modulus          INTEGER,
  *         publicExponent   INTEGER,
  *         privateExponent  INTEGER,

@@ -95,10 +95,16 @@ QUARN_ASN1_API void quarn_pkifreetext_free(quarn_asn1_list *value);
  * How a request went (RFC 3161, 2.4.2).
  *
  *     PKIStatusInfo ::= SEQUENCE {
- *         status        INTEGER,
+ *         status        PKIStatus,
  *         statusString  PKIFreeText OPTIONAL,
- *         failInfo      BIT STRING OPTIONAL
+ *         failInfo      PKIFailureInfo OPTIONAL
  *     }
+ *     PKIStatus ::= INTEGER {
+ *         granted(0), grantedWithMods(1), rejection(2), waiting(3), revocationWarning(4), revocationNotification(5)
+ *     }
+ *     PKIFailureInfo ::= BIT STRING {
+ *         badAlg(0), badRequest(2), badDataFormat(5), timeNotAvailable(14), unacceptedPolicy(15),
+ *         unacceptedExtension(16), addInfoNotAvailable(17), systemFailure(25)
  *
  * Type id QUARN_ASN1_TSP_PKISTATUSINFO (189).
  */

@@ -150,14 +150,14 @@ class Output(unittest.TestCase):
     def test_names_and_openings(self):
         modules = resolved("Colours ::= BIT STRING { red(0), blue(2) }\n"
                            "--- P (RFC 1, 2).\n--@ type id=100 new=own\n--@ also id=105 open=key\n"
-                           "P ::= SEQUENCE {\na INTEGER { one(1) },\nb [0] IMPLICIT Colours OPTIONAL,\n"
+                           "P ::= SEQUENCE {\na INTEGER { one(1) }, --@ data=P\nb [0] IMPLICIT Colours OPTIONAL,\n"
                            "c SET OF ANY --@ open=bag\n}\n"
-                           "second BAG ::= { 1.2.3 P }  --@ id=105\nfirst BAG ::= { 1.2.10 Colours }")
+                           "second BAG ::= { 1.2.3 OCTET STRING (CONTAINING P) }  --@ id=105\nfirst BAG ::= { 1.2.10 Colours }")
         self.has(openings.tables(modules), '{QUARN_ASN1_POINT, 2, Place::bag, true}',
                  '{QUARN_ASN1_SPOT, 2, Place::key, true}', '{QUARN_ASN1_POINT, "a", ",one"}',
-                 '{QUARN_ASN1_POINT, "b", "red,,blue"}',
-                 '{Place::bag, "1.2.10", {QUARN_ASN1_U3, "red,,blue"}},\n'
-                 '    {Place::bag, "1.2.3", {QUARN_ASN1_SPOT, nullptr}},')
+                 '{QUARN_ASN1_POINT, "b", "red,,blue"}', '{QUARN_ASN1_POINT, "a", {QUARN_ASN1_POINT, true, nullptr}}',
+                 '{Place::bag, "1.2.10", {QUARN_ASN1_U3, false, "red,,blue"}},\n'
+                 '    {Place::bag, "1.2.3", {QUARN_ASN1_SPOT, true, nullptr}},')
         self.has(api.header(modules[0], modules), " *     Colours ::= BIT STRING { red(0), blue(2) }\n")
         definition = modules[0].definitions[0]
         types = catalogue.Catalogue([definition.row], modules, {100: (definition, definition.variants[0])})

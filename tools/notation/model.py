@@ -57,6 +57,7 @@ class Component:
     row: Row = None
     c_type: str = ""
     number: int = 0  # of an alternative
+    data: Row = None  # of what a message of the type data in it contains
     record: object = None  # the definition whose getters are given for the whole value too
 
     @property
@@ -109,6 +110,7 @@ class Object:
     dotted: str
     type: TypeName
     line: int
+    contained: bool = False  # in an OCTET STRING
     notes: dict = dataclasses.field(default_factory=dict)
     # Filled in by resolve.py.
     row: Row = None

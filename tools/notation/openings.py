@@ -5,7 +5,11 @@ from .layout import c_string
 
 def tables(modules):
     definitions = [definition for module in modules for definition in module.definitions]
-    return "\n".join([open_records(definitions), objects(modules), named(definitions)])
+    return "\n".join([open_records(definitions), objects(modules), data(definitions), named(definitions)])
+
+
+def place_constant(place):
+    return "Place::" + {"private": "private_key"}.get(place, place)
 
 
 def array(name, kind, lines):
@@ -22,7 +26,7 @@ def open_records(definitions):
             for variant in definition.variants:
                 place = variant.notes.get("open", component.notes["open"])
                 elements = str(" OF " in component.type.name).lower()
-                rows[variant.id] = f"{variant.row.constant}, {index}, Place::{place}, {elements}"
+                rows[variant.id] = f"{variant.row.constant}, {index}, {place_constant(place)}, {elements}"
     return array("kRecords", "OpenRecord", [rows[number] for number in sorted(rows)])
 
 
@@ -31,9 +35,17 @@ def objects(modules):
     rows = []
     for module in modules:
         for one in module.objects:
-            rows.append((one.place, one.dotted, f"Place::{one.place}, {c_string(one.dotted)}, "
-                                                f"{{{one.row.constant}, {names(one.type)}}}"))
+            rows.append((one.place, one.dotted, f"{place_constant(one.place)}, {c_string(one.dotted)}, "
+                                                f"{{{one.row.constant}, {str(one.contained).lower()}, {names(one.type)}}}"))
     return array("kOpenings", "PlacedOpening", [text for _, _, text in sorted(rows)])
+
+
+def data(definitions):
+    """What messages of the type data contain where they are components."""
+    return array("kData", "DataComponent",
+                 [f"{variant.row.constant}, {c_string(component.name)}, {{{component.data.constant}, true, nullptr}}"
+                  for definition in definitions for variant in definition.variants
+                  for component in definition.fields if component.data])
 
 
 def named(definitions):

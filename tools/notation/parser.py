@@ -10,10 +10,10 @@ MODULE_NOTES = {"unit": WORD, "header": WORD}
 TYPE_NOTES = {"id": NUMBER, "prefix": WORD, "new": "none|own", "accessors": "own", "check": CONSTANT,
               "keep": "encoding|body|bodyalone|positions", "codec": CONSTANT, "wire": "sequence", "first": NUMBER,
               "tail": "open", "strings": None}
-PLACES = "extension|attribute|qualifier|statement|parameters|capability|key|content|bag"
+PLACES = "attribute|bag|capability|content|extension|key|parameters|private|qualifier|response|statement"
 ALSO_NOTES = {word: TYPE_NOTES[word] for word in ("id", "prefix", "check")} | {"open": PLACES}
 COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive|exact",
-                   "through": None, "content": None, "open": PLACES}
+                   "through": None, "content": None, "open": PLACES, "data": r"[A-Z][A-Za-z0-9-]*"}
 
 TWO_WORDS = {"BIT": "STRING", "OCTET": "STRING", "OBJECT": "IDENTIFIER"}
 WITH_NAMES = ("INTEGER", "ENUMERATED", "BIT STRING")
@@ -180,6 +180,11 @@ class Parser:
         self.take("{")
         dotted = self.take_name(r"[0-2](\.\d+)+", "an object identifier").text
         made = Object(name.text, place, dotted, self.type_name(), name.line)
+        if made.type.name == "OCTET STRING" and self.accept("("):
+            self.take("CONTAINING")
+            made.contained = True
+            made.type = self.type_name()
+            self.take(")")
         self.take("}")
         return self.noted(made, {"id": NUMBER})
 

@@ -4,7 +4,7 @@ import dataclasses
 import difflib
 import re
 
-from .model import NotationError
+from .model import Component, NotationError, TypeName
 
 BUILTIN = {
     "BOOLEAN": (1, "boolean"), "INTEGER": (2, "integer"), "BIT STRING": (3, "bitstring"),
@@ -127,6 +127,9 @@ class Resolver:
         if alias is not None:
             definition.aliases += [line for line in alias.source if line not in definition.aliases]
         component.row = self.named(component, definition.path)
+        if "data" in component.notes:
+            held = Component("", TypeName(component.notes["data"], component.line), component.line)
+            component.data = self.named(held, definition.path)
         target = self.by_name.get(component.type.name)
         c_name = BUILTIN[component.type.name][1] if target is None else None
         component.c_type = target.struct if target else f"quarn_asn1_{c_name}" if c_name else "void"
