@@ -174,11 +174,11 @@ class Types(Case):
     def test_what_fits_no_type_or_not_the_one_named_is_explained(self):
         data = bytes.fromhex("300a0203010203" + "0c03616263")
         run = Run("decode", data=data)
-        self.check(run, 1, "none of the", "tried     ", "offset 2", "found INTEGER")
+        self.check(run, 1, "none of the", "tried     ", "offset 7", "found UTF8String")
         self.assertEqual(run.lines, ["SEQUENCE", "  INTEGER 66051", "  UTF8String 'abc'"])
         self.assertEqual(Run("decode", "--json", data=data).out, "")
         error = Run("decode", "--lines", data=data).records()[0]["error"]
-        self.assertIn({"offset": 2}, [{"offset": each["offset"]} for each in error["tried"]])
+        self.assertIn({"offset": 7}, [{"offset": each["offset"]} for each in error["tried"]])
         run = Run("decode", "-t", "Extension", data=data)
         self.check(run, 1, "offset 2 (0x2): found INTEGER", "path      extnID",
                    "expected  OBJECT IDENTIFIER, in a value of Extension", "0x1020a")

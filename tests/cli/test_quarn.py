@@ -359,6 +359,13 @@ class Tables(Case):
         self.assertEqual(len(run.lines), 421)
         self.assertEqual(Run("types", "BOOL").lines[1].split()[:6],
                          ["1", "boolean", "1", "primitive", "0x1020d", "0x1020e"])
+        validity = Run("types", "validity").out
+        for text in ("    Validity ::= SEQUENCE {\n", "stands in   TBSCertificate.validity", "quarn_x509validity_new"):
+            self.assertIn(text, validity)
+        clearance, = json.loads(Run("types", "--json", "Clearance").out)
+        self.assertIn("attribute 2.5.4.55", clearance["named_by"])
+        self.assertEqual(clearance["components"][1],
+                         {"name": "classList", "type_id": 3, "type": "BIT STRING", "tag": "", "presence": ""})
         rows = json.loads(Run("types", "--json", "*Time").out)
         self.assertEqual([row["name"] for row in rows][:3], ["time", "utctime", "gentime"])
         self.check(Run("types", "zzz"), 1, "no type's name matches 'zzz'")

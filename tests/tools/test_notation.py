@@ -86,9 +86,13 @@ class Mistakes(unittest.TestCase):
                 ("quarn_point_getx is made twice", "--- T.\n--@ type id=100\n--@ also id=105\nT ::= SEQUENCE {\nx INTEGER,\n"
                                                    "y NULL --@ get=x\n}"),
                 ("the default of x is no OCTET STRING", SEQUENCE + "{ x OCTET STRING DEFAULT 0 }"),
-                ("the tags of T do not follow one another",
-                 "--- T.\n--@ type id=102\nT ::= CHOICE { a [0] IMPLICIT NULL, b [2] IMPLICIT NULL }"),
+                ("SIZE is for strings in a record", SEQUENCE + "{ x INTEGER (SIZE (8)) }"),
+                ("the default of x is not between -128 and 127", SEQUENCE + "{ x INTEGER DEFAULT 128 }"),
                 ("a SEQUENCE inside a component is a definition of its own", SEQUENCE + "{ x SEQUENCE OF INTEGER }"),
+                ("unknown type Colour", "a BAG ::= { 1.2 Colour }"),
+                ("1.2 is there twice as bag", "a BAG ::= { 1.2 NULL }\nb BAG ::= { 1.2 ANY }"),
+                ("y has the number of x", "C ::= INTEGER { x(1), y(1) }"),
+                ("where the object identifier stands expected, not 'BOX'", "a BOX ::= { 1.2 NULL }"),
                 ("',' expected, not 'y'", SEQUENCE + "{ x INTEGER y NULL }"),
                 ("',' expected, not 'END'", SEQUENCE + "{ x INTEGER")):
             with self.subTest(message):
