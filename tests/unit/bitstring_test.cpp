@@ -15,25 +15,12 @@ Octets encoding_of(const Bits &value) {
   return test::encoding_of(3, value.get());
 }
 
-Bits decode(const Octets &octets) {
-  quarn_asn1_bitstring *value = nullptr;
-  const Stream s = memory_stream(octets);
-  quarn_asn1_decode_bitstring(s.get(), &value, nullptr, nullptr);
-  return Bits(value);
-}
-
 // A value over the store.
 Bits decode_into(const Octets &octets, quarn_stream *destination) {
   quarn_asn1_bitstring *value = nullptr;
   const Stream s = memory_stream(octets);
   quarn_asn1_decode_bitstring_ex(s.get(), destination, &value, nullptr, nullptr);
   return Bits(value);
-}
-
-Octets concatenation(std::initializer_list<Octets> parts) {
-  Octets all;
-  for (const Octets &part : parts) all.insert(all.end(), part.begin(), part.end());
-  return all;
 }
 
 TEST(BitString, named_bits_end_with_the_highest) {
@@ -57,41 +44,43 @@ TEST(BitString, unused_bits_of_a_new_value_are_cleared) {
 }
 
 TEST(BitString, bits_are_asked_by_number_and_unused_ones_are_not_there) {
-  const Octets octets{0x03, 3, 7, 0x41, 0x81};
+  const Octets octets = hex("03 03 07 41 81");
   Store store;
   const Stream destination = store.stream();
-  for (const Bits &value : {decode(octets), decode_into(octets, destination.get())}) {
+  const Held memory(3, octets);
+  const Bits over = decode_into(octets, destination.get());
+  for (auto *value : {memory.as<quarn_asn1_bitstring>(), over.get()}) {
     std::vector<std::int64_t> set;
     for (std::int64_t i = -2; i < 20; i++) {
-      if (quarn_asn1_bitstring_getbit(value.get(), i) == 1) set.push_back(i);
+      if (quarn_asn1_bitstring_getbit(value, i) == 1) set.push_back(i);
     }
     EXPECT_EQ(set, (std::vector<std::int64_t>{1, 7, 8}));
     std::uint8_t octet = 0;
     std::uint64_t count = 0;
-    EXPECT_EQ(quarn_asn1_bitstring_getbit(value.get(), 1), 1);
-    EXPECT_EQ(quarn_asn1_bitstring_get(value.get(), 2, &octet, 1, &count, nullptr), 1);
+    EXPECT_EQ(quarn_asn1_bitstring_getbit(value, 1), 1);
+    EXPECT_EQ(quarn_asn1_bitstring_get(value, 2, &octet, 1, &count, nullptr), 1);
     EXPECT_EQ(octet, 0x81) << "reading goes on behind the octet of the bit";
     std::uint32_t unused = 0;
-    EXPECT_EQ(quarn_asn1_bitstring_getunusedbits(value.get(), &unused), 1);
+    EXPECT_EQ(quarn_asn1_bitstring_getunusedbits(value, &unused), 1);
     EXPECT_EQ(unused, 7u);
-    EXPECT_EQ(quarn_asn1_bitstring_getlength(value.get()), 2);
+    EXPECT_EQ(quarn_asn1_bitstring_getlength(value), 2);
     Octets all(2);
-    EXPECT_EQ(quarn_asn1_bitstring_getall(value.get(), all.data()), 1);
-    EXPECT_EQ(all, (Octets{0x41, 0x81}));
+    EXPECT_EQ(quarn_asn1_bitstring_getall(value, all.data()), 1);
+    EXPECT_EQ(all, hex("41 81"));
   }
 }
 
 TEST(BitString, bit_sets_go_both_ways) {
-  for (const Octets &octets : {Octets{0x03, 1, 0}, Octets{0x03, 3, 6, 0xA0, 0x40}}) {
-    quarn_bitset *set = quarn_asn1_bitstring_getbitset(decode(octets).get());
+  for (const char *octets : {"03 01 00", "03 03 06 A0 40"}) {
+    quarn_bitset *set = quarn_asn1_bitstring_getbitset(Held(3, octets).as<quarn_asn1_bitstring>());
     ASSERT_NE(set, nullptr);
-    EXPECT_EQ(encoding_of(Bits(quarn_asn1_bitstring_newbitset(set))), octets);
+    EXPECT_EQ(encoding_of(Bits(quarn_asn1_bitstring_newbitset(set))), hex(octets));
     quarn_bitset_free(set);
   }
 }
 
 TEST(BitString, only_the_last_segment_has_the_unused_bits) {
-  const Octets encoding = concatenation({{0x03, 0x82, 0x27, 0x11, 3}, Octets(10000, 0xF8)});
+  const Octets encoding = hex("03 82 27 11 03 (F8)*10000");
   Store store;
   const Stream stream = store.stream();
   const Bits value = decode_into(encoding, stream.get());
@@ -100,12 +89,8 @@ TEST(BitString, only_the_last_segment_has_the_unused_bits) {
   EXPECT_EQ(quarn_asn1_bitstring_getlength(value.get()), QUARN_ASN1_INDEFINITE);
   EXPECT_EQ(quarn_asn1_bitstring_getbit(value.get(), 0), 0);
   EXPECT_EQ(quarn_asn1_bitstring_getall(value.get(), store.octets.data()), 0);
-  const Octets segments = concatenation({{0x23, 0x80, 0x03, 0x82, 0x20, 0x01, 0},
-                                         Octets(8192, 0xF8),
-                                         {0x03, 0x82, 0x07, 0x11, 3},
-                                         Octets(1808, 0xF8),
-                                         {0, 0}});
-  EXPECT_EQ(encoding_of(value), segments);
+  EXPECT_EQ(encoding_of(value),
+            hex("23 80 03 82 20 01 00 (F8)*8192 03 82 07 11 03 (F8)*1808 00 00"));
   store.octets.clear();
   store.size = 0;
   EXPECT_EQ(encoding_of(value), (Octets{0x23, 0x80, 0, 0})) << "no segment of no octets";

@@ -37,7 +37,7 @@ TEST(OctetString, constructors_copy_and_refuse_what_is_none) {
   Octets octets{'@'};
   const String copy = string_of(octets);
   octets[0] = 0;
-  EXPECT_EQ(encoding_of(QUARN_ASN1_BMPSTRING, copy.get()), (Octets{0x1E, 1, '@'}));
+  EXPECT_EQ(encoding_of(QUARN_ASN1_BMPSTRING, copy.get()), hex("1E 01 40"));
 }
 
 TEST(OctetString, octets_are_read_in_pieces_of_any_size) {
@@ -80,11 +80,10 @@ TEST(OctetString, all_octets_at_once_leave_the_position_of_memory) {
 }
 
 TEST(OctetString, an_object_inside_must_be_all_there_is) {
-  const std::pair<Octets, Codes> cases[] = {{{0x04, 1, 7}, {}},
-                                            {{0x04, 1, 7, 0}, {0x1027f}},
-                                            {{0x04, 2, 7}, {0x10103, 0x10219, 0x10219}}};
+  const std::pair<const char *, Codes> cases[] = {
+      {"04 01 07", {}}, {"04 01 07 00", {0x1027f}}, {"04 02 07", {0x10103, 0x10219, 0x10219}}};
   for (const auto &[octets, codes] : cases) {
-    const Places places(octets);
+    const Places places(hex(octets));
     for (const String &value : places.values) {
       const Context ctx(quarn_err_ctx_new());
       void *object = nullptr;
@@ -109,12 +108,7 @@ TEST(OctetString, large_content_outside_memory_is_written_in_segments) {
   EXPECT_EQ(quarn_asn1_octetstring_length(value.get()), QUARN_ASN1_INDEFINITE);
   EXPECT_EQ(quarn_asn1_octetstring_getblob(value.get()), nullptr);
   EXPECT_EQ(quarn_asn1_octetstring_getall(value.get(), encoding.data()), 0);
-  Octets expected{0x24, 0x80};
-  for (int i = 0; i < 640; i++) {
-    expected.insert(expected.end(), {0x04, 0x82, 0x20, 0x00});
-    expected.resize(expected.size() + 8192);
-  }
-  expected.resize(expected.size() + 2);
+  const Octets expected = hex("24 80 (04 82 20 00 (00)*8192)*640 00 00");
   EXPECT_TRUE(encoding_of(4, value.get()) == expected);
 }
 
@@ -123,7 +117,7 @@ TEST(OctetString, content_of_unknown_length_is_written_in_octetstring_segments) 
   store.knows_length = false;
   const Stream source = store.stream();
   const String value(quarn_asn1_octetstring_newstream(source.get()));
-  const Octets expected{0x33, 0x80, 0x04, 2, 'a', 'b', 0, 0};
+  const Octets expected = hex(R"(33 80 04 02 "ab" 00 00)");
   EXPECT_EQ(encoding_of(QUARN_ASN1_PRINTABLESTRING, value.get()), expected);
   EXPECT_EQ(encoding_of(QUARN_ASN1_PRINTABLESTRING, value.get()), expected) << "once more";
   store.seekable = false;
@@ -152,9 +146,7 @@ TEST(OctetString, a_length_that_is_not_true_is_noticed) {
 
 TEST(OctetString, a_value_can_be_written_to_the_stream_that_holds_it) {
   const Octets content(300, 'x');
-  Octets expected = content;
-  expected.insert(expected.end(), {0x04, 0x82, 0x01, 0x2C});
-  expected.insert(expected.end(), content.begin(), content.end());
+  const Octets expected = hex(R"(("x")*300 04 82 01 2C ("x")*300)");
   const Stream memory = growable(content);
   const String value(quarn_asn1_octetstring_newstream(memory.get()));
   EXPECT_EQ(quarn_asn1_encode(memory.get(), 4, value.get(), nullptr, nullptr), 1);

@@ -140,19 +140,22 @@ TEST(Time, every_edit_of_one_character_is_judged_by_the_grammar) {
 }
 
 TEST(Time, constructors_choose_form_and_text) {
-  const auto text = [](quarn_asn1_time *v) { return text_of(Time(v)); };
-  EXPECT_EQ(text(quarn_asn1_utctime_new(1999, 12, 31, 23, 59, 58)), "23 991231235958Z");
-  EXPECT_EQ(text(quarn_asn1_utctime_new(2005, 1, 2, 3, 4, 60)), "23 050102030459Z");
-  EXPECT_EQ(text(quarn_asn1_utctime_new(1949, 12, 31, 0, 0, 0)), "null");
-  EXPECT_EQ(text(quarn_asn1_utctime_new(2050, 1, 1, 0, 0, 0)), "null");
-  EXPECT_EQ(text(quarn_asn1_gentime_new(2024, 2, 29, 12, 0, 0, 0)), "24 20240229120000Z");
-  EXPECT_EQ(text(quarn_asn1_gentime_new(2024, 2, 29, 12, 0, 0, 1)), "24 20240229120000.000000001Z");
-  EXPECT_EQ(text(quarn_asn1_gentime_new(1582, 1, 1, 0, 0, 60, 120300)),
-            "24 15820101000060.0001203Z");
-  EXPECT_EQ(text(quarn_asn1_gentime_new(10000, 1, 1, 0, 0, 0, 0)), "null");
-  EXPECT_EQ(text(quarn_asn1_time_new(1950, 1, 1, 0, 0, 0, 5)), "23 500101000000Z");
-  EXPECT_EQ(text(quarn_asn1_time_new(2049, 12, 31, 23, 59, 59, 0)), "23 491231235959Z");
-  EXPECT_EQ(text(quarn_asn1_time_new(1949, 1, 1, 0, 0, 0, 0)), "24 19490101000000Z");
+  const auto utctime = quarn_asn1_utctime_new;
+  const auto gentime = quarn_asn1_gentime_new;
+  const auto either = quarn_asn1_time_new;
+  const std::pair<quarn_asn1_time *, const char *> cases[] = {
+      {utctime(1999, 12, 31, 23, 59, 58), "23 991231235958Z"},
+      {utctime(2005, 1, 2, 3, 4, 60), "23 050102030459Z"},
+      {utctime(1949, 12, 31, 0, 0, 0), "null"},
+      {utctime(2050, 1, 1, 0, 0, 0), "null"},
+      {gentime(2024, 2, 29, 12, 0, 0, 0), "24 20240229120000Z"},
+      {gentime(2024, 2, 29, 12, 0, 0, 1), "24 20240229120000.000000001Z"},
+      {gentime(1582, 1, 1, 0, 0, 60, 120300), "24 15820101000060.0001203Z"},
+      {gentime(10000, 1, 1, 0, 0, 0, 0), "null"},
+      {either(1950, 1, 1, 0, 0, 0, 5), "23 500101000000Z"},
+      {either(2049, 12, 31, 23, 59, 59, 0), "23 491231235959Z"},
+      {either(1949, 1, 1, 0, 0, 0, 0), "24 19490101000000Z"}};
+  for (const auto &[value, text] : cases) EXPECT_EQ(text_of(Time(value)), text);
 }
 
 TEST(Time, flags_choose_the_form_of_a_time_object) {
