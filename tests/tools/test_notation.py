@@ -83,6 +83,7 @@ class Mistakes(unittest.TestCase):
                 ("there is no id 999", "--- T.\n--@ type id=999\nT ::= SEQUENCE { x INTEGER }"),
                 ("two components are called x", SEQUENCE + "{ x INTEGER, x NULL }"),
                 ("row 105 (spot) has the stem Point of T and no definition", SEQUENCE + "{ x INTEGER }"),
+                ("content is for an OPTIONAL component under a tag", SEQUENCE + "{ x NULL OPTIONAL --@ content\n}"),
                 ("quarn_point_getx is made twice", "--- T.\n--@ type id=100\n--@ also id=105\nT ::= SEQUENCE {\nx INTEGER,\n"
                                                    "y NULL --@ get=x\n}"),
                 ("the default of x is no OCTET STRING", SEQUENCE + "{ x OCTET STRING DEFAULT 0 }"),
