@@ -22,6 +22,7 @@ QUARN = os.environ.get("QUARN", "quarn")
 CORPUS = pathlib.Path(os.environ.get("QUARN_CORPUS", "corpus"))
 STRINGS = ("PRINTABLESTRING", "UTF8STRING", "IA5STRING", "BMPSTRING", "NUMERICSTRING", "UNIVERSALSTRING")
 EXTENSION_REQUEST = "1.2.840.113549.1.9.14"
+UNKNOWN = ("1.2.840.113549.1.9.16.1.9", "1.2.840.113549.1.9.16.1.23")  # compressed and authenticated-enveloped data
 BODIES = {"x509pubkeycert": "tbsCertificate", "x509crl": "tbsCertList", "pkcs10certreq": "certificationRequestInfo"}
 
 
@@ -179,23 +180,49 @@ def leaves(value):
             yield from leaves(item)
     elif isinstance(value, dict) and isinstance(value.get("oid"), str):
         yield {oid_hex(value)}
+    elif isinstance(value, dict) and value.get("type") == "OID":
+        yield {oid_hex({"oid": value["value"]})}
+    elif isinstance(value, dict) and "unused bits" in value:
+        yield {f"{value['unused bits']:02X}{value['value']}"}
+    elif value == {"type": "NULL"}:
+        yield {""}
+    elif isinstance(value, dict) and "TAGGEDTYPE" in value.values():
+        yield from leaves(value["value"])
     elif isinstance(value, dict) and "number" in value:
         yield from leaves(value["number"])
     elif isinstance(value, dict) and "bits" in value:
         yield {f"{-value['bits'] % 8:02X}" + value["hex"].upper()}
     elif isinstance(value, dict) and "hex" in value:
-        yield {value["hex"].upper()}
+        yield {value["hex"].upper(), "00" + value["hex"].upper()}  # of a BIT STRING, or another
     elif isinstance(value, dict):
         for key, item in value.items():
             if key not in ("rfc4514", "type") or isinstance(item, dict):
                 yield from leaves(item)
     elif value is True or value is False:
         yield {"FF" if value else "00"}
-    elif isinstance(value, int) or re.match("-?0x", value):
+    elif isinstance(value, int) or re.match("-?0[xX]", value):
         yield {der.Element(der.integer(integer(value))).content.hex().upper()}
     else:
         digits = value.replace("-", "").replace("T", "").replace(":", "")
-        yield {text.encode().hex().upper() for text in (value, digits)} | {value.upper()}
+        yield {text.encode().hex().upper() for text in (value, digits, digits[2:])} | {value.upper()}
+
+
+def named(value, name=""):
+    """(name, value) of each component, as oracle.py has them of messages."""
+    if isinstance(value, list):
+        for item in value:
+            yield from named(item, name)
+    elif not isinstance(value, dict):
+        yield name, str(integer(value)) if name in ("version", "serialNumber") else value.lower()
+    elif "signatureValue" in value:
+        yield "certificate", value["signatureValue"]["hex"]
+    elif found := [value[key] for key in ("oid", "rfc4514", "hex") if isinstance(value.get(key), str)]:
+        yield name, found[0]
+    elif name == "content" and "value" in value:
+        yield from named(value["value"], name)
+    elif not value.keys() <= {"type", "value"}:  # else it is of an open type
+        for key, item in value.items():
+            yield from named(item, key)
 
 
 def shown(value):
@@ -271,15 +298,31 @@ class Corpus(unittest.TestCase):
     def test_requests(self):
         self.check("pkcs10certreq")
 
+    def check_strings(self, name, value, expected):
+        """All leaves against the contents of all primitive elements."""
+        found = list(leaves(shown(value)))
+        for place, (candidates, content) in enumerate(zip(found, expected)):
+            self.assertIn(content, candidates, f"{name}: leaf {place}")
+        self.assertEqual(len(found), len(expected), name)
+
     def test_attribute_certificates(self):
         for name, record in self.records("attributecertificate").items():
-            found = list(leaves(shown(record["value"])))
-            expected = self.facts[name]
             with self.subTest(name):
-                self.assertEqual(len(found), len(expected))
-                for place, (candidates, content) in enumerate(zip(found, expected)):
-                    self.assertIn(content, candidates, f"{name}: leaf {place}")
+                self.check_strings(name, record["value"], self.facts[name])
             self.counts["attributecertificate"] += 1
+
+    def test_messages(self):
+        for name, record in self.records("pkcs7contentinfo").items():
+            with self.subTest(name):
+                value, facts = record["value"], self.facts[name]
+                self.check_strings(name, value, facts["strings"])
+                kind = value["contentType"]["oid"]
+                if kind in UNKNOWN:  # what is in it is shown as elements
+                    self.assertEqual(([kind], "SEQUENCE"), ([facts["printed"][0][1]], value["content"]["type"]))
+                elif facts["printed"]:
+                    self.assertEqual(list(map(list, named(value))), facts["printed"], name)
+                    self.counts["fields"] += len(facts["printed"])
+                self.counts["messages of type " + value["contentType"]["name"]] += 1
 
 
 if __name__ == "__main__":
