@@ -34,6 +34,7 @@ enum class Presence : std::uint8_t {
   mandatory,
   optional,
   optional_exact,  // in another form than its type's, what comes is another component
+  content,         // optional: what a message carries, which may be decoded apart from the rest
   default_boolean,
   default_integer,
   default_encoding
@@ -180,6 +181,10 @@ constexpr notation::Occurrence optional() {
 // another form is a failure of theirs.
 constexpr notation::Occurrence optional_exact() {
   return {Presence::optional_exact, 0};
+}
+// An optional component under a tag, of type ANY or OCTET STRING: the content of a message.
+constexpr notation::Occurrence content() {
+  return {Presence::content, 0};
 }
 constexpr notation::Occurrence defaults_to(bool value) {
   return {Presence::default_boolean, value};

@@ -37,6 +37,7 @@
 #include "quarn_asn1/extension.h"
 #include "quarn_asn1/inspect.h"
 #include "quarn_asn1/json.h"
+#include "quarn_asn1/message.h"
 #include "quarn_asn1/pkcs10.h"
 #include "quarn_asn1/stream.h"
 #include "quarn_asn1/types.h"

@@ -12,7 +12,7 @@ TYPE_NOTES = {"id": NUMBER, "prefix": WORD, "new": "none|own", "accessors": "own
               "tail": "open", "strings": None}
 ALSO_NOTES = {word: TYPE_NOTES[word] for word in ("id", "prefix", "check")}
 COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive|exact",
-                   "through": None}
+                   "through": None, "content": None}
 
 TWO_WORDS = {"BIT": "STRING", "OCTET": "STRING", "OBJECT": "IDENTIFIER"}
 WITH_NAMES = ("INTEGER", "ENUMERATED", "BIT STRING")

@@ -175,11 +175,14 @@ class Resolver:
             definition.fail("tail=open is for a mandatory component and ANY OPTIONAL", definition.variants[0].line)
         for component in fields:
             for word, kind in (("new", "choice"), ("written", "choice"), ("form", "record"), ("has", "record"),
-                               ("through", "record")):
+                               ("through", "record"), ("content", "record")):
                 if word in component.notes and definition.kind != kind:
                     definition.fail(f"{word} is for components of a {KINDS[kind]}", component.line)
             if component.notes.get("form") == "exact" and (component.presence != "optional" or component.tag):
                 definition.fail("form=exact is for OPTIONAL components without a tag", component.line)
+            if "content" in component.notes and (component.presence != "optional" or component.tag is None or
+                                                 component.type.name not in ("ANY", "OCTET STRING")):
+                definition.fail("content is for an OPTIONAL component under a tag, ANY or OCTET STRING", component.line)
             if definition.is_strings and component.row.id not in CHARACTER_STRINGS:
                 definition.fail(f"{component.name} is no character string", component.line)
         if definition.kind == "choice":

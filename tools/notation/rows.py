@@ -28,7 +28,8 @@ def field(definition, component):
     if component.tag is not None:
         notes.append(f"{component.tag[1]}_tag({component.tag[0]})")
     if component.presence == "optional":
-        notes.append("optional_exact()" if component.notes.get("form") == "exact" else "optional()")
+        exact = component.notes.get("form") == "exact"
+        notes.append("content()" if "content" in component.notes else "optional_exact()" if exact else "optional()")
     elif isinstance(component.default, bytes):
         notes.append(f"default_encoding({default_constant(definition, component)})")
     elif component.presence == "default":
