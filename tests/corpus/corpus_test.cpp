@@ -2,6 +2,7 @@
 // comes back octet for octet, from what a value keeps and from its components alone.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -192,47 +193,75 @@ TEST_F(Corpus, every_file_comes_back_octet_for_octet) {
 
 using Numbers = std::vector<std::int64_t>;
 
-// What the one-pass decoder tells: form, octets, where contentInfo and signerInfos are.
-Numbers places_of_message(const Stream &stream) {
+// What the one-pass decoder tells: form, octets, where contentInfo and signerInfos are; and, when
+// it decodes apart from the content, where that is and how much.
+Numbers places_in(const Stream &stream, bool apart, quarn_stream *content = nullptr) {
   quarn_pkcs7signeddata *message = nullptr;
+  quarn_asn1_content_place place{};
   std::uint64_t consumed = 0;
-  const int result = quarn_asn1_decode_pkcs7signeddata(stream.get(), &message, &consumed, nullptr);
-  const Numbers places{quarn_pkcs7signeddata_gettype(message), static_cast<std::int64_t>(consumed),
-                       quarn_pkcs7signeddata_getcontentinfooffset(message),
-                       quarn_pkcs7signeddata_getcontentinfoendoffset(message),
-                       quarn_pkcs7signeddata_getsignerinfosoffset(message)};
+  const int result =
+      apart ? quarn_asn1_decode_pkcs7signeddata_ex(stream.get(), content, &message, &place,
+                                                   &consumed, nullptr)
+            : quarn_asn1_decode_pkcs7signeddata(stream.get(), &message, &consumed, nullptr);
+  Numbers places{quarn_pkcs7signeddata_gettype(message), static_cast<std::int64_t>(consumed),
+                 quarn_pkcs7signeddata_getcontentinfooffset(message),
+                 quarn_pkcs7signeddata_getcontentinfoendoffset(message),
+                 quarn_pkcs7signeddata_getsignerinfosoffset(message)};
+  if (apart) places.insert(places.end(), {place.offset, place.end, place.length});
   quarn_pkcs7signeddata_free(message);
   return result == 1 ? places : Numbers{};
+}
+
+// The content as it arrives, and as it is read where it lies.
+std::string content_in(const Octets &octets, const Numbers &places) {
+  const Stream source = memory_stream(octets);
+  const Stream content(quarn_stream_new_mem(0, nullptr));
+  EXPECT_EQ(places_in(source, true, content.get()), places);
+  const std::string found = rest_of(content);
+  if (places[5] >= 0) {
+    const auto offset = static_cast<std::uint64_t>(places[5]);
+    EXPECT_EQ(rest_of(Stream(quarn_asn1_contentstream_new(source.get(), offset, nullptr))), found);
+  }
+  return found;
 }
 
 // In every form and with lengths of every kind, from memory, from one stream over the file that
 // holds them all, and octet by octet.
 TEST_F(Corpus, places_in_signed_messages_are_those_that_openssl_finds) {
   const Octets all = read_file(folder() / "signed");
-  const Stream file(quarn_stream_new_file((folder() / "signed").c_str(), "r", nullptr));
-  SlowSource slow(all);
-  const Stream slow_stream = slow.stream();
+  const Octets contents = read_file(folder() / "contents");
   std::ifstream list(folder() / "signed.txt");
-  std::string name;
-  Numbers places(8);
+  SlowSource slow[2] = {SlowSource(all), SlowSource(all)};
+  Stream files[2], slow_streams[2];
+  for (int i = 0; i < 2; i++) {
+    files[i].reset(quarn_stream_new_file((folder() / "signed").c_str(), "r", nullptr));
+    slow_streams[i] = slow[i].stream();
+  }
   auto next = all.begin();
+  auto content = contents.begin();
   int messages = 0;
-  while (list >> name && messages++ < 10000) {
+  Numbers places(8);
+  for (std::string name; list >> name; messages++) {
     for (std::int64_t &place : places) list >> place;
     SCOPED_TRACE(name);
     const Octets octets(next, next + places[1]);
+    const std::string held(content, content + std::max<std::int64_t>(places[7], 0));
+    const Numbers first(places.begin(), places.begin() + 5);
+    ASSERT_EQ(content_in(octets, places), held);
+    ASSERT_EQ(places_in(memory_stream(octets), false), first);
+    for (const Stream *streams : {files, slow_streams}) {
+      ASSERT_EQ(places_in(streams[false], false), first);
+      ASSERT_EQ(places_in(streams[true], true), places);
+    }
     next += places[1];
-    const Numbers expected(places.begin(), places.begin() + 5);
-    ASSERT_EQ(places_of_message(memory_stream(octets)), expected);
-    ASSERT_EQ(places_of_message(file), expected);
-    ASSERT_EQ(places_of_message(slow_stream), expected);
+    content += static_cast<std::ptrdiff_t>(held.size());
   }
   done_ = "places found in " + std::to_string(messages) + " messages, each from three streams";
   EXPECT_GE(messages, 1000);
-  EXPECT_TRUE(next == all.end());
+  EXPECT_TRUE(next == all.end() && content == contents.end());
   for (const char *other : {"digest_sha1.der", "for_rsa_aes128.der", "compressed.der"}) {
     const Octets octets = read_file(folder() / "pkcs7contentinfo" / other);
-    EXPECT_EQ(places_of_message(memory_stream(octets)), Numbers{}) << other;
+    EXPECT_EQ(places_in(memory_stream(octets), false), Numbers{}) << other;
   }
 }
 
