@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "core/engine.h"
+#include "types/null.h"
 
 namespace quarn::asn1 {
 
@@ -37,7 +38,10 @@ void *build_record(quarn_asn1_type_id id, std::span<const void *const> parts) {
     if (!made) return nullptr;
     // Nobody could decode it again: there, it would be the end.
     if (schema.kind != Kind::open_tail && is_end_of_contents(field, *component)) return nullptr;
+    if (!has_size(field, *component)) return nullptr;
   }
+  const bool checked = schema.restriction != nullptr && !schema.restriction->decode_only;
+  if (checked && !allowed(schema, record.get())) return nullptr;
   return record.release();
 }
 
@@ -52,22 +56,8 @@ void *build_alternative(quarn_asn1_type_id id, std::uint64_t number, const void 
   return choice.release();
 }
 
-void *build_empty_list(quarn_asn1_type_id id) {
-  const Type &type = type_of(id);
-  quarn_asn1_list *list = quarn_asn1_list_new();
-  if (type.schema->keep == Keep::nothing || list == nullptr) return list;
-  void *record = new_record(*type.schema);
-  if (record == nullptr) {
-    quarn_asn1_list_free(list, type.schema->element());
-  } else {
-    components(record)[0] = list;
-  }
-  return record;
-}
-
-void *copy_of(quarn_asn1_type_id type, const void *value) {
-  void *copy = nullptr;
-  return value != nullptr && copy_into(type_of(type), value, &copy) ? copy : nullptr;
+void *build_null_alternative(quarn_asn1_type_id type, std::uint64_t number) {
+  return build_alternative(type, number, null_value());
 }
 
 void *part_of(const void *value, std::size_t index) {

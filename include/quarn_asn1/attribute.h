@@ -2,11 +2,11 @@
 /**
  * Attribute certificates and the values that they carry (RFC 5755).
  *
- * Constructors copy their arguments and return null when a mandatory one is null or memory is
- * short. Getters lend: what they return lives as long as the value. Null for the value gives null
- * from a getter and 0 from a test. A component with a DEFAULT is always there once a value has been
- * made or decoded. An end-of-contents is no value for a component that may be of any type:
- * constructors return null.
+ * Constructors copy their arguments and return null when a mandatory one is null, one has another
+ * SIZE than the definition says, or memory is short. Getters lend: what they return lives as long
+ * as the value. Null for the value gives null from a getter and 0 from a test. A component with a
+ * DEFAULT is always there once a value has been made or decoded. An end-of-contents is no value for
+ * a component that may be of any type: constructors return null.
  *
  * A value is decoded, encoded, copied and freed under its type id by the functions of
  * quarn_asn1/core.h; free functions are there for each type as well. Lists are of the type
@@ -29,7 +29,7 @@ extern "C" {
  * The digest of a key or a certificate (RFC 5755, 4.2.2).
  *
  *     ObjectDigestInfo ::= SEQUENCE {
- *         digestedObjectType  ENUMERATED,
+ *         digestedObjectType  ENUMERATED { publicKey(0), publicKeyCert(1), otherObjectTypes(2) },
  *         otherObjectTypeID   OBJECT IDENTIFIER OPTIONAL,
  *         digestAlgorithm     AlgorithmIdentifier,
  *         objectDigest        BIT STRING
@@ -228,7 +228,7 @@ QUARN_ASN1_API void quarn_acattributes_free(quarn_asn1_list *value);
  * The part of an attribute certificate that its issuer signs (RFC 5755, 4.1).
  *
  *     AttributeCertificateInfo ::= SEQUENCE {
- *         version                 INTEGER,
+ *         version                 INTEGER { v2(1) },
  *         holder                  Holder,
  *         issuer                  AttCertIssuer,
  *         signature               AlgorithmIdentifier,
@@ -604,8 +604,11 @@ QUARN_ASN1_API void quarn_ac_securitycategories_free(quarn_asn1_list *value);
  *
  *     Clearance ::= SEQUENCE {
  *         policyId            OBJECT IDENTIFIER,
- *         classList           BIT STRING,
+ *         classList           ClassList,
  *         securityCategories  SecurityCategories OPTIONAL
+ *     }
+ *     ClassList ::= BIT STRING {
+ *         unmarked(0), unclassified(1), restricted(2), confidential(3), secret(4), topSecret(5)
  *     }
  *
  * Type id QUARN_ASN1_AC_CLEARANCE (287).
