@@ -93,10 +93,17 @@ class Element:
         return found
 
 
-def openssl(*arguments, cwd=None, data=b""):
-    """Runs the command; its output, or an error that shows what it says."""
-    done = subprocess.run(["openssl", *map(str, arguments)], input=data, capture_output=True, cwd=cwd,
-                          timeout=60, check=False)
+def run(*command, cwd=None, data=b""):
+    """Runs a command; its output, or an error that shows what it says."""
+    command = [str(word) for word in command]
+    try:
+        done = subprocess.run(command, input=data, capture_output=True, cwd=cwd, timeout=60, check=False)
+    except FileNotFoundError as error:
+        raise RuntimeError(str(error)) from error
     if done.returncode != 0:
-        raise RuntimeError(f"openssl {' '.join(map(str, arguments))}: {done.stderr.decode()}")
+        raise RuntimeError(f"{' '.join(command)}: {done.stderr.decode()}")
     return done.stdout
+
+
+def openssl(*arguments, **options):
+    return run("openssl", *arguments, **options)

@@ -23,8 +23,12 @@ import oracle
 from der import openssl
 
 HERE = pathlib.Path(__file__).parent
-TYPES = ("x509pubkeycert", "x509crl", "pkcs10certreq", "attributecertificate")
-LEAST = (400, 25, 25, 20)  # of each; other versions of openssl may lack a few kinds
+TYPES = ("x509pubkeycert", "x509crl", "pkcs10certreq", "attributecertificate", messages.FOLDERS[0])
+# How commands begin that do not take the file they write as most of openssl do.
+COMMANDS = {"ca": "openssl ca", "certtool": "certtool --outder --outfile {0}",
+            "gpgsm": "gpgsm --batch --yes --disable-dirmngr --disable-crl-checks --pinentry-mode loopback"
+                     " --passphrase-fd 0 --homedir keyring --output {0}"}
+LEAST = (400, 25, 25, 20, 150)  # of each; other versions of openssl may lack a few kinds
 
 # Name, arguments of `openssl genpkey`.
 KEYS = [
@@ -112,7 +116,7 @@ class Maker:
     def __init__(self, folder):
         self.folder, self.work = folder, folder / "work"
         shutil.rmtree(folder, ignore_errors=True)
-        for name in ("work", *TYPES, *messages.FOLDERS):
+        for name in ("work", *TYPES, *messages.HELD.values()):
             (folder / name).mkdir(parents=True)
         self.config, self.jobs, self.refused = [(HERE / "sections.cnf").read_text(encoding="utf-8")], [], []
 
@@ -124,7 +128,10 @@ class Maker:
         return title
 
     def job(self, kind, name, command, *more):
-        self.jobs.append((f"-outform DER -out ../{kind}/{name}.der " if command[:2] != "ca" else "", command, more))
+        """A command of openssl, or of another tool if it begins with the name of one."""
+        tool, _, rest = command.partition(" ")
+        head = COMMANDS.get(tool, f"openssl {tool} -outform DER -out {{0}}").format(f"../{kind}/{name}.der")
+        self.jobs.append([*head.split(), *rest.split(), *more])
 
     def certificate(self, name, *more, key="ec", issuer="ec"):
         """A certificate of a key, issued by the authority that has another one."""
@@ -228,9 +235,9 @@ class Maker:
             self.job("x509pubkeycert", f"dates{number}", "ca -batch -notext -preserveDN -config corpus.cnf"
                      f" -in request.pem -name dates{number} -startdate {start} -enddate {end} -out dates{number}.crt")
 
-    def messages(self):
+    def messages(self, recipes):
         (self.work / "text").write_text("some text\n" * 100)
-        for name, command in messages.recipes():
+        for name, command in recipes:
             self.job(messages.FOLDERS[0], name, command)
 
     def prepare(self, pool):
@@ -250,10 +257,8 @@ class Maker:
         self.openssl("req -new -key ec.key -subj /CN=dates -config corpus.cnf -out request.pem")
 
     def run(self, job):
-        out, command, more = job
-        name, _, rest = command.partition(" ")
         try:
-            self.openssl(f"{name} {out}{rest}", *more)
+            der.run(*job, cwd=self.work, data=messages.PASSPHRASE)
         except RuntimeError as error:
             self.refused.append(str(error).strip().replace("\n", " | "))
 
@@ -273,6 +278,8 @@ class Maker:
         key = der.Element(from_pem(self.work / "ec.pub")).octets
         for kind, name, body in built.bodies(key):
             (self.folder / kind / f"{name}.der").write_bytes(sign(body))
+        for name, message in messages.built(self.folder, self.work):
+            (self.folder / messages.FOLDERS[0] / f"{name}.der").write_bytes(message)
 
     def make(self, source):
         self.section("req", "distinguished_name = person")
@@ -282,18 +289,25 @@ class Maker:
         self.section("authority_extensions", "subjectKeyIdentifier = hash", "basicConstraints = critical, CA:TRUE",
                      "subjectAltName = email:ca@example.com, URI:http://example.com/")
         for recipes in (self.extensions, self.keys, self.signatures, self.names, self.serials, self.validities,
-                        self.requests, self.crls, self.messages):
+                        self.requests, self.crls):
             recipes()
+        self.messages(messages.recipes())
         with ThreadPoolExecutor(4) as pool:
             self.prepare(pool)
+            with messages.keyring(self.work) as home:
+                self.messages(messages.of_gpgsm(home))
+                list(pool.map(self.run, self.jobs))
+            self.jobs = []
+            self.messages(messages.of_others())
             list(pool.map(self.run, self.jobs))
             self.collect()
-            messages.split(self.folder)
             self.build()
+            messages.split(self.folder)
             if source:
                 for path in sorted(pathlib.Path(source).glob("*.crt")):
                     (self.folder / TYPES[0] / f"published_{path.stem}.der").write_bytes(from_pem(path))
             facts = oracle.facts([self.folder / kind for kind in TYPES], pool)
+            messages.places(self.folder)
         (self.folder / "refused.txt").write_text("".join(each + "\n" for each in self.refused))
         shutil.rmtree(self.work)
         (self.folder / "facts.json").write_text(json.dumps(facts, indent=1))

@@ -1,8 +1,7 @@
 """What the openssl command prints about files, as fields.
 
-openssl prints the text of everything; the octets of names, keys, extensions and parameters are read with the
-small reader of der.py. Of attribute certificates, which openssl 3.0 cannot print, `openssl asn1parse` tells
-the elements. All certificates are printed by one process, and each name once: starting openssl is what costs.
+openssl prints the text of everything but attribute certificates, and `openssl asn1parse` the contents of all
+elements; the octets of names, keys and parameters are read with the small reader of der.py. All certificates are printed by one process, and each name once: starting openssl is what costs.
 """
 
 import base64
@@ -96,15 +95,6 @@ def signature(lines):
     return "".join(digits).upper()
 
 
-def extension_octets(listed):
-    """[OID octets, critical, value] in hex of each element of Extensions."""
-    found = []
-    for extension in listed.parts():
-        kind, *critical, value = extension.parts()
-        found.append([kind.content.hex().upper(), bool(critical), value.content.hex().upper()])
-    return found
-
-
 def key(lines, info):
     """What is printed of a key, and all of it."""
     parts = [hex_lines(lines, title) for title in ("pub:", "Modulus:")]
@@ -113,14 +103,10 @@ def key(lines, info):
 
 
 def certificate(lines, body):
-    tagged = {part.identifier: part for part in body if part.identifier in (0xA3, 0x81, 0x82)}
-    exts = extension_octets(tagged[0xA3].parts()[0]) if 0xA3 in tagged else []
     issuer, _, subject, info = [part for part in body if part.identifier == 0x30][1:]
     return {"serial": serial_number(lines), "issuer": name(issuer), "subject": name(subject),
             "notBefore": after(lines, "Not Before:"), "notAfter": after(lines, "Not After :"),
-            "issuerUniqueID": (after(lines, "Issuer Unique ID:") or "").replace(":", "").upper(),
-            "subjectUniqueID": (after(lines, "Subject Unique ID:") or "").replace(":", "").upper(),
-            "extensionOctets": exts, "extensions": extensions(lines, "X509v3 extensions:")} | key(lines, info)
+            "extensions": extensions(lines, "X509v3 extensions:")} | key(lines, info)
 
 
 def crl(lines, body):
@@ -135,12 +121,10 @@ def crl(lines, body):
     for found in entries:
         found["date"] = after(found["lines"], "Revocation Date:")
         found["extensions"] = extensions(found.pop("lines"), "CRL entry extensions:")
-    listed = [part.parts()[0] for part in body if part.identifier == 0xA0]
     next_update = after(lines, "Next Update:")
     issuer = [part for part in body if part.identifier == 0x30][1]
     return {"issuer": name(issuer), "thisUpdate": after(lines, "Last Update:"),
             "nextUpdate": None if next_update == "NONE" else next_update, "entries": entries,
-            "extensionOctets": extension_octets(listed[0]) if listed else [],
             "extensions": extensions(lines[:end], "CRL extensions:")}
 
 
@@ -153,19 +137,71 @@ def request(lines, body):
             "extensions": extensions(lines, "Requested Extensions:")} | key(lines, body[2])
 
 
-def asn1parse(path):
-    """Contents in hex of all primitive elements."""
-    octets = path.read_bytes()
-    pattern = re.compile(r" *(\d+):d=\d+ +hl=(\d+) +l= *(\d+) +prim: .*")
-    found = []
-    for line in openssl("asn1parse", "-inform", "DER", "-in", path).decode("utf-8", "replace").splitlines():
-        if match := pattern.fullmatch(line):
-            start = int(match[1]) + int(match[2])
-            found.append(octets[start:start + int(match[3])].hex().upper())
+class Parsed:
+    """An element as `openssl asn1parse` prints it, and those in it."""
+    PATTERN = re.compile(r" *(\d+):d=(\d+) +hl=(\d+) +l= *(\d+|inf) +(prim|cons): (.{0,18})")
+
+    def __init__(self, start, depth, header, length, form, what):
+        self.start, self.depth, self.content = int(start), int(depth), int(start) + int(header)
+        self.end = 0 if length == "inf" else self.content + int(length)
+        self.constructed, self.what, self.parts = form == "cons", what.strip(), []
+
+    def strings(self, octets):
+        """Contents in hex of all primitive elements; the segments of an OCTET STRING are joined."""
+        if not self.constructed:
+            return [octets[self.content:self.end].hex().upper()]
+        found = [string for part in self.parts if part.what != "EOC" for string in part.strings(octets)]
+        segments = {part.what for part in self.parts} == {"OCTET STRING", "EOC"}
+        return ["".join(found)] if segments or self.what == "OCTET STRING" else found
+
+
+def elements(octets):
+    """What openssl finds in encodings that follow one another."""
+    found, levels = [], []
+    for line in openssl("asn1parse", "-inform", "DER", data=octets).decode("utf-8", "replace").splitlines():
+        if match := Parsed.PATTERN.match(line):
+            element = Parsed(*match.groups())
+            del levels[element.depth:]
+            (levels[-1].parts if levels else found).append(element)
+            if element.what == "EOC" and levels:
+                levels[-1].end = element.end
+            levels.append(element)
     return found
 
 
-def printed(kind, paths):
+def strings(paths):
+    """Of each file the contents of all primitive elements."""
+    octets = b"".join(path.read_bytes() for path in paths)
+    return [element.strings(octets) for element in elements(octets)]
+
+
+# What openssl calls otherwise, and the names that it gives to parts whose octets are compared without their names.
+NAMES = {"eContentType": "contentType", "eContent": "content", "data": "content", "object": "type",
+         "publicKey": "subjectPublicKey", "keyIdentifier": "subjectKeyIdentifier", "crl": "certificate"}
+NAMELESS = ("parameter", "set")
+
+
+def message(path):
+    """[name, value] of all that is printed of a message. Of certificates and lists it is the signature."""
+    found, inside = [], 1000
+    if path.stem.startswith("authenticated"):
+        return {"printed": []}  # openssl takes the digest algorithm to be mandatory and not to be tagged
+    told = openssl("cms", *"-cmsout -noout -print -inform DER -nameopt RFC2253,utf8,-esc_msb -in".split(), path)
+    for line in told.decode("utf-8", "replace").split("\n"):
+        if octets := re.match(r" +[0-9a-f]{4,} - ((?:[0-9a-f]{2}[ -])+)", line):
+            found[-1][1] += re.sub("[ -]", "", octets[1])
+        elif match := re.match(r" *(?:d\.)?([a-z]\w*): *(.*)", line):
+            if indentation(line) > inside:
+                found[-1][1] = ""  # of the last part, the signature, what follows is kept
+                continue
+            name = NAMES.get(match[1], match[1])
+            inside = indentation(line) if name == "certificate" else 1000
+            value = re.sub(r"^(<\w+>|\(\d unused bits\))$|^.* \(([\d.]+)\)$", r"\2", match[2])
+            found.append([name, str(int(value, 0)) if name in ("version", "serialNumber") else value])
+    return {"printed": [[name, value] for name, value in found if value and name not in NAMELESS]}
+
+
+def texts(kind, paths):
     """The lines that openssl prints of each file."""
     if kind == "pkcs10certreq":
         texts = [openssl("req", "-inform", "DER", "-in", path, "-noout", "-text") for path in paths]
@@ -199,9 +235,10 @@ def facts(folders, pool):
     found = {}
     for folder in folders:
         paths = sorted(folder.glob("*.der"))
-        if folder.name == "attributecertificate":
-            results = pool.map(asn1parse, paths)
+        if folder.name in COMMANDS:
+            results = pool.map(fields, paths, texts(folder.name, paths))
         else:
-            results = pool.map(fields, paths, printed(folder.name, paths))
-        found |= {f"{folder.name}/{path.name}": result for path, result in zip(paths, results)}
+            results = pool.map(message if folder.name == "pkcs7contentinfo" else lambda _: {}, paths)
+        for path, result, contents in zip(paths, results, strings(paths)):
+            found[f"{folder.name}/{path.name}"] = result | {"strings": contents}
     return found

@@ -15,13 +15,14 @@ import unittest
 
 import der
 import openssl_text
-import oracle
 from openssl_text import integer
 
 QUARN = os.environ.get("QUARN", "quarn")
 CORPUS = pathlib.Path(os.environ.get("QUARN_CORPUS", "corpus"))
 STRINGS = ("PRINTABLESTRING", "UTF8STRING", "IA5STRING", "BMPSTRING", "NUMERICSTRING", "UNIVERSALSTRING")
+WIDE = {"BMPSTRING": 0x1E, "UNIVERSALSTRING": 0x1C}
 EXTENSION_REQUEST = "1.2.840.113549.1.9.14"
+UNKNOWN = ("1.2.840.113549.1.9.16.1.9", "1.2.840.113549.1.9.16.1.23")  # compressed and authenticated-enveloped data
 BODIES = {"x509pubkeycert": "tbsCertificate", "x509crl": "tbsCertList", "pkcs10certreq": "certificationRequestInfo"}
 
 
@@ -75,17 +76,14 @@ class Reading:
         getattr(self, kind)(body)
 
     def algorithm(self, value, octets):
-        kind, *parameters = der.Element(bytes.fromhex(octets)).parts()
-        self.fields.setdefault("algorithms", []).append([oid_hex(value["algorithm"]), "parameters" in value])
-        self.facts.setdefault("algorithms", []).append([kind.content.hex().upper(), bool(parameters)])
+        _, *parameters = der.Element(bytes.fromhex(octets)).parts()
         if parameters:
             self.open.append((value["parameters"], parameters[0].octets.hex()))
 
     def key(self, info):
-        algorithm, bits = der.Element(bytes.fromhex(self.facts.pop("key"))).parts()
+        algorithm = der.Element(bytes.fromhex(self.facts.pop("key"))).parts()[0]
         self.algorithm(info["algorithm"], algorithm.octets.hex())
         found = hex_of(info["subjectPublicKey"])
-        self.fields["key bits"], self.facts["key bits"] = found, bits.content[1:].hex().upper()
         self.fields["keyAlgorithm"] = openssl_text.long_name(info["algorithm"]["algorithm"])
         self.fields["keyParts"] = [part for part in self.facts["keyParts"] if part in found]
 
@@ -105,7 +103,7 @@ class Reading:
         self.fields["text of " + key], self.facts["text of " + key] = map(list, zip(*same)) if same else ([], [])
 
     def extensions(self, listed, texts):
-        """Octets of all, and texts of those that are typed."""
+        """Texts of those that are typed."""
         for extension, facts in zip(listed, texts):
             writer = openssl_text.WRITERS.get(extension["extnID"]["oid"])
             self.typed = getattr(self, "typed", 0) + bool(writer)
@@ -113,22 +111,16 @@ class Reading:
         return [[openssl_text.long_name(each["extnID"]), each["critical"], None if facts[2] is None else text_of(each)]
                 for each, facts in zip(listed, texts)]
 
-    def octets(self, listed):
-        return [[oid_hex(each["extnID"]), each["critical"], hex_of(each["extnValue"])] for each in listed]
-
     def x509pubkeycert(self, body):
         listed = body.get("extensions", [])
         self.fields |= {"serial": integer(body["serialNumber"]),
                         **{key: openssl_text.time(body["validity"][key]) for key in ("notBefore", "notAfter")},
-                        **{key: hex_of(body.get(key, "")) for key in ("issuerUniqueID", "subjectUniqueID")},
-                        "extensionOctets": self.octets(listed),
                         "extensions": self.extensions(listed, self.facts["extensions"])}
 
     def x509crl(self, body):
         listed, entries = body.get("crlExtensions", []), body.get("revokedCertificates", [])
         self.fields |= {"thisUpdate": openssl_text.time(body["thisUpdate"]),
                         "nextUpdate": openssl_text.time(body["nextUpdate"]) if "nextUpdate" in body else None,
-                        "extensionOctets": self.octets(listed),
                         "extensions": self.extensions(listed, self.facts["extensions"]),
                         "entries": [{"serial": integer(entry["userCertificate"]),
                                      "date": openssl_text.time(entry["revocationDate"]),
@@ -145,22 +137,18 @@ class Reading:
         return found
 
     def pkcs10certreq(self, body):
-        """Attributes: types and number of values of all, texts of those that are text, extensions of the rest."""
+        """Attributes: texts of those that are text, extensions of the rest."""
         expected, found = self.facts.pop("attributeOctets"), body["attributes"]
-        self.fields["attribute types"] = [[oid_hex(each["type"]), len(each["values"])] for each in found]
-        self.facts["attribute types"] = [[kind, len(values)] for kind, values in expected]
-        listed, self.facts["extensionOctets"], self.fields["attributes"] = [], [], []
+        listed, self.fields["attributes"] = [], []
         for attribute, (_, values) in zip(found, expected):
             if attribute["type"]["oid"] == EXTENSION_REQUEST:
                 listed = attribute["values"][0]["value"]
-                self.facts["extensionOctets"] = oracle.extension_octets(der.Element(bytes.fromhex(values[0])))
             else:
                 self.open += list(zip(attribute["values"], values))
                 self.fields["attributes"].append([openssl_text.long_name(attribute["type"]),
                                                   attribute["values"][0]["value"]])
         texts = zip(self.fields["attributes"], self.facts["attributes"])  # a T61String is shown as octets
         self.facts["attributes"] = [ours if isinstance(ours[1], dict) else theirs for ours, theirs in texts]
-        self.fields["extensionOctets"] = self.octets(listed)
         self.fields["extensions"] = self.extensions(listed, self.facts["extensions"])
 
 
@@ -179,23 +167,51 @@ def leaves(value):
             yield from leaves(item)
     elif isinstance(value, dict) and isinstance(value.get("oid"), str):
         yield {oid_hex(value)}
+    elif isinstance(value, dict) and value.get("type") == "OID":
+        yield {oid_hex({"oid": value["value"]})}
+    elif isinstance(value, dict) and "unused bits" in value:
+        yield {f"{value['unused bits']:02X}{value['value']}"}
+    elif isinstance(value, dict) and str(value.get("type")) in WIDE:
+        yield {der.Element(der.text(value["value"], WIDE[value["type"]])).content.hex().upper()}
+    elif value == {"type": "NULL"}:
+        yield {""}
+    elif isinstance(value, dict) and "TAGGEDTYPE" in value.values():
+        yield from leaves(value["value"])
     elif isinstance(value, dict) and "number" in value:
         yield from leaves(value["number"])
     elif isinstance(value, dict) and "bits" in value:
         yield {f"{-value['bits'] % 8:02X}" + value["hex"].upper()}
     elif isinstance(value, dict) and "hex" in value:
-        yield {value["hex"].upper()}
+        yield {value["hex"].upper(), "00" + value["hex"].upper()}  # of a BIT STRING, or another
     elif isinstance(value, dict):
         for key, item in value.items():
             if key not in ("rfc4514", "type") or isinstance(item, dict):
                 yield from leaves(item)
     elif value is True or value is False:
         yield {"FF" if value else "00"}
-    elif isinstance(value, int) or re.match("-?0x", value):
+    elif isinstance(value, int) or re.match("-?0[xX]", value):
         yield {der.Element(der.integer(integer(value))).content.hex().upper()}
     else:
         digits = value.replace("-", "").replace("T", "").replace(":", "")
-        yield {text.encode().hex().upper() for text in (value, digits)} | {value.upper()}
+        yield {text.encode().hex().upper() for text in (value, digits, digits[2:])} | {value.upper()}
+
+
+def named(value, name=""):
+    """(name, value) of each component, as oracle.py has them of messages."""
+    if isinstance(value, list):
+        for item in value:
+            yield from named(item, name)
+    elif not isinstance(value, dict):
+        yield name, str(integer(value)) if name in ("version", "serialNumber") else value.lower()
+    elif "signatureValue" in value:
+        yield "certificate", value["signatureValue"]["hex"]
+    elif found := [value[key] for key in ("oid", "rfc4514", "hex") if isinstance(value.get(key), str)]:
+        yield name, found[0]
+    elif name == "content" and "value" in value:
+        yield from named(value["value"], name)
+    elif not value.keys() <= {"type", "value"}:  # else it is of an open type
+        for key, item in value.items():
+            yield from named(item, key)
 
 
 def shown(value):
@@ -205,7 +221,8 @@ def shown(value):
     if not isinstance(value, dict):
         return value
     return {key: shown(item) for key, item in value.items()
-            if not (key == "critical" and item is False or key == "primaryDistinguished")}
+            if not (key == "critical" and item is False or key == "primaryDistinguished"
+                    or key == "version" and item == 0 and "validity" in value)}
 
 
 @unittest.skipUnless((CORPUS / "facts.json").exists(), "no corpus")
@@ -249,6 +266,7 @@ class Corpus(unittest.TestCase):
         for name, record in self.records(kind).items():
             with self.subTest(name):
                 facts = self.facts[name]
+                self.check_strings(name, record["value"], facts["strings"])
                 reading = Reading(kind, record["value"], facts)
                 for key in ("notBefore", "notAfter", "thisUpdate", "nextUpdate"):
                     facts[key] = in_words(facts.get(key))
@@ -271,15 +289,31 @@ class Corpus(unittest.TestCase):
     def test_requests(self):
         self.check("pkcs10certreq")
 
+    def check_strings(self, name, value, expected):
+        """All leaves against the contents of all primitive elements."""
+        found = list(leaves(shown(value)))
+        for place, (candidates, content) in enumerate(zip(found, expected)):
+            self.assertIn(content, candidates, f"{name}: leaf {place}")
+        self.assertEqual(len(found), len(expected), name)
+
     def test_attribute_certificates(self):
         for name, record in self.records("attributecertificate").items():
-            found = list(leaves(shown(record["value"])))
-            expected = self.facts[name]
             with self.subTest(name):
-                self.assertEqual(len(found), len(expected))
-                for place, (candidates, content) in enumerate(zip(found, expected)):
-                    self.assertIn(content, candidates, f"{name}: leaf {place}")
+                self.check_strings(name, record["value"], self.facts[name]["strings"])
             self.counts["attributecertificate"] += 1
+
+    def test_messages(self):
+        for name, record in self.records("pkcs7contentinfo").items():
+            with self.subTest(name):
+                value, facts = record["value"], self.facts[name]
+                self.check_strings(name, value, facts["strings"])
+                kind = value["contentType"]["oid"]
+                if kind in UNKNOWN:  # what is in it is shown as elements
+                    self.assertEqual(([kind], "SEQUENCE"), ([facts["printed"][0][1]], value["content"]["type"]))
+                elif facts["printed"]:
+                    self.assertEqual(list(map(list, named(value))), facts["printed"], name)
+                    self.counts["fields"] += len(facts["printed"])
+                self.counts["messages of type " + value["contentType"]["name"]] += 1
 
 
 if __name__ == "__main__":
