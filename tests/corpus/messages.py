@@ -4,7 +4,6 @@ import contextlib
 import hmac
 import itertools
 import pathlib
-import shutil
 import tempfile
 import zlib
 
@@ -96,21 +95,22 @@ def of_others():
 
 @contextlib.contextmanager
 def keyring(work):
-    """A home of GnuPG with the key called rsa; the fingerprint of its certificate."""
-    home = tempfile.mkdtemp(prefix="corpus")  # the path of a socket in it must not be long
-    (work / "keyring").symlink_to(home)
-    user = der.openssl("x509", "-in", "ca_rsa.pem", "-noout", "-fingerprint", "-sha1", cwd=work).decode()
-    user = user.split("=")[1].strip()
-    pathlib.Path(home, "trustlist.txt").write_text(user + " S relax\n")
-    der.openssl("pkcs12", "-export", "-in", "ca_rsa.pem", "-inkey", "rsa.key", "-passout", "stdin", "-out", "rsa.p12",
-                *"-keypbe PBE-SHA1-3DES -certpbe PBE-SHA1-3DES -macalg sha1".split(), cwd=work, data=PASSPHRASE)
-    with contextlib.suppress(RuntimeError):  # no gpgsm, no messages of it
-        der.run("gpgsm", "--homedir", home, *"--batch --pinentry-mode loopback --passphrase-fd 0 --import rsa.p12".split(),
-                cwd=work, data=PASSPHRASE)
-    yield user.replace(":", "")
-    with contextlib.suppress(RuntimeError):
-        der.run("gpgconf", "--homedir", home, "--kill", "all")
-    shutil.rmtree(home)
+    """A home of GnuPG with the key called rsa; the fingerprint of its certificate. Sockets in it want a short path."""
+    with tempfile.TemporaryDirectory(prefix="corpus", ignore_cleanup_errors=True) as home:
+        def run(command):
+            return der.run(*command.split(), cwd=work, data=PASSPHRASE).decode()
+        (work / "keyring").symlink_to(home)
+        user = run("openssl x509 -in ca_rsa.pem -noout -fingerprint -sha1").split("=")[1].strip()
+        pathlib.Path(home, "trustlist.txt").write_text(user + " S relax\n")
+        run("openssl pkcs12 -export -in ca_rsa.pem -inkey rsa.key -passout stdin -out rsa.p12"
+            " -keypbe PBE-SHA1-3DES -certpbe PBE-SHA1-3DES -macalg sha1")
+        with contextlib.suppress(RuntimeError):  # without gpgsm its messages will be refused
+            run("gpgsm --homedir keyring --batch --pinentry-mode loopback --passphrase-fd 0 --import rsa.p12")
+        try:
+            yield user.replace(":", "")
+        finally:
+            with contextlib.suppress(RuntimeError):
+                run("gpgconf --homedir keyring --kill gpg-agent")
 
 
 # ---- What openssl can sign, digest or encrypt, but not put together

@@ -1,7 +1,8 @@
 """What the openssl command prints about files, as fields.
 
 openssl prints the text of everything but attribute certificates, and `openssl asn1parse` the contents of all
-elements; the octets of names, keys and parameters are read with the small reader of der.py. All certificates are printed by one process, and each name once: starting openssl is what costs.
+elements; the octets of names, keys and parameters are read with the small reader of der.py. All certificates are
+printed by one process, and each name once: starting openssl is what costs.
 """
 
 import base64
