@@ -78,7 +78,8 @@ class Reading:
     def algorithm(self, value, octets):
         _, *parameters = der.Element(bytes.fromhex(octets)).parts()
         if parameters:
-            self.open.append((value["parameters"], parameters[0].octets.hex()))
+            if "type" in value["parameters"]:  # else it is an alternative of EcpkParameters
+                self.open.append((value["parameters"], parameters[0].octets.hex()))
 
     def key(self, info):
         algorithm = der.Element(bytes.fromhex(self.facts.pop("key"))).parts()[0]
@@ -214,15 +215,29 @@ def named(value, name=""):
             yield from named(item, key)
 
 
+def algorithm(dotted, name, parameters=None):
+    return {"algorithm": {"oid": dotted, "name": name}} | ({"parameters": parameters} if parameters else {})
+
+
+NULL = {"type": "NULL"}
+SHA1, SHA256 = algorithm("1.3.14.3.2.26", "sha1", NULL), algorithm("2.16.840.1.101.3.4.2.1", "sha256")
+DEFAULTS = {"critical": False, "primaryDistinguished": True, "saltLength": 20, "trailerField": 1,
+            "hashAlgorithm": SHA1, "prf": algorithm("1.2.840.113549.2.7", "hmacWithSHA1", NULL),
+            "maskGenAlgorithm": algorithm("1.2.840.113549.1.1.8", "mgf1",
+                                           {"type": "AlgorithmIdentifier", "value": SHA1}),
+            "pSourceAlgorithm": algorithm("1.2.840.113549.1.1.9", "pSpecified",
+                                           {"type": "OCTET STRING", "value": ""})}
+
+
 def shown(value):
     """Without components that hold their defaults, which are not in the encoding."""
     if isinstance(value, list):
         return [shown(item) for item in value]
     if not isinstance(value, dict):
         return value
-    return {key: shown(item) for key, item in value.items()
-            if not (key == "critical" and item is False or key == "primaryDistinguished"
-                    or key == "version" and item == 0 and "validity" in value)}
+    defaults = DEFAULTS | ({"version": 0} if "validity" in value else {}) | (
+        {"hashAlgorithm": SHA256} if "certHash" in value else {})
+    return {key: shown(item) for key, item in value.items() if key not in defaults or defaults[key] != item}
 
 
 @unittest.skipUnless((CORPUS / "facts.json").exists(), "no corpus")
