@@ -101,7 +101,7 @@ void compare_in_place(const Exact &input,
   must(same(held_by(out), content));
 }
 
-// The element of the content encodes the octets: header, segments or not.
+// What both decoders make of the same octets.
 void compare(const Exact &input, std::int64_t type) {
   const Stream whole(quarn_stream_new_romem(input.data(), input.size(), 0, nullptr));
   const Stream again(quarn_stream_new_romem(input.data(), input.size(), 0, nullptr));

@@ -46,7 +46,8 @@ if [ "$printed" != "$expected" ]; then
 fi
 echo "typed example: good"
 
-cmake -S examples/signed_message -B "$work/signed" -DCMAKE_PREFIX_PATH="$work/usr" -DCMAKE_C_FLAGS="-Wall -Wextra -Wpedantic -Werror" >/dev/null
+cmake -S examples/signed_message -B "$work/signed" -DCMAKE_PREFIX_PATH="$work/usr" \
+  -DCMAKE_C_FLAGS="-Wall -Wextra -Wpedantic -Werror" >/dev/null
 cmake --build "$work/signed" >/dev/null
 export LD_LIBRARY_PATH="$libdir"
 openssl req -x509 -newkey ec -pkeyopt ec_paramgen_curve:P-256 -nodes -subj /CN=signer -keyout "$work/key.pem" \
