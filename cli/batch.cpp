@@ -2,53 +2,19 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <filesystem>
 #include <new>
 
 #include "cli/diagnosis.h"
 #include "cli/input.h"
 #include "cli/output.h"
+#include "cli/progress.h"
 
 namespace quarn::cli {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::chrono::seconds kQuietTime{1};
-constexpr std::chrono::milliseconds kBetweenLines{200};
-
-// Progress of a long run, for somebody who watches a terminal.
-class Progress {
- public:
-  explicit Progress(std::size_t total)
-      : total_(total), shown_(isatty(STDERR_FILENO) == 1 && isatty(STDOUT_FILENO) == 0) {}
-  ~Progress() { clear(); }
-  Progress(const Progress &) = delete;
-  Progress &operator=(const Progress &) = delete;
-
-  void step(std::size_t done) {
-    const auto now = std::chrono::steady_clock::now();
-    if (!shown_ || now - start_ < kQuietTime || now - last_ < kBetweenLines) return;
-    last_ = now;
-    put("\r\033[K" + std::to_string(done) + " of " + std::to_string(total_) + " files");
-  }
-  void clear() {
-    if (last_ != start_) put("\r\033[K");
-    last_ = start_;
-  }
-
- private:
-  static void put(const std::string &text) {
-    static_cast<void>(!::write(STDERR_FILENO, text.data(), text.size()));
-  }
-
-  std::size_t total_;
-  bool shown_;
-  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
-  std::chrono::steady_clock::time_point last_ = start_;
-};
 
 // A run over all inputs.
 class Batch {
@@ -130,9 +96,11 @@ void Batch::visit_file(const std::string &path) {
 }
 
 int Batch::run() {
-  Progress progress(files_.size());
+  Progress progress(isatty(STDOUT_FILENO) == 0);
   for (std::size_t i = 0; i < files_.size(); i++) {
-    progress.step(i);
+    if (progress.due()) {
+      progress.show(std::to_string(i) + " of " + std::to_string(files_.size()) + " files");
+    }
     visit_file(files_[i]);
   }
   if (failures_ == 0) return kGood;

@@ -11,6 +11,7 @@ namespace quarn::cli {
 int run_json(const Arguments &arguments);
 int run_der(const Arguments &arguments);
 int run_decode(const Arguments &arguments);
+int run_cms(const Arguments &arguments);
 int run_dump(const Arguments &arguments);
 int run_check(const Arguments &arguments);
 int run_convert(const Arguments &arguments);

@@ -147,11 +147,23 @@ Report refused(Octets octets, const std::string &otherwise) {
 
 }  // namespace
 
+void add_window(Report &report, Octets octets, std::uint64_t before) {
+  if (report.offset < before || report.offset - before > octets.size()) return;
+  report.offset -= before;
+  cut_window(report, octets);
+  report.offset += before;
+  report.window_offset += before;
+}
+
 Failure failure_of(Report report, Octets octets, const std::string &message) {
   cut_window(report, octets);
   if (report.records.empty() && report.tried.empty()) {
     static_cast<void>(decodes(octets, QUARN_ASN1_ANY, report.records));
   }
+  return failure_of(std::move(report), message);
+}
+
+Failure failure_of(Report report, const std::string &message) {
   const std::string text = !message.empty()
                                ? message
                                : "offset " + std::to_string(report.offset) + " (" +
@@ -168,6 +180,11 @@ std::vector<Record> records_of(const quarn_err_ctx *ctx) {
         {record->code, record->message, record->file, record->line, quarn_err_ctx_offset(ctx, i)});
   }
   return records;
+}
+
+const Record &innermost(const std::vector<Record> &records) {
+  return *std::max_element(records.begin(), records.end(),
+                           [](const Record &a, const Record &b) { return a.offset < b.offset; });
 }
 
 void place_at(Report &report, Octets octets, std::uint64_t offset) {
@@ -214,7 +231,7 @@ std::string details(const Report &report) {
     window += marked ? " [" + octet + "]" : " " + octet;
   }
   if (report.offset == report.window_offset + report.window.size()) window += " [end]";
-  line("octets    ", hex_number(report.window_offset) + ":" + window);
+  if (!window.empty()) line("octets    ", hex_number(report.window_offset) + ":" + window);
   for (const Tried &tried : report.tried) {
     line("tried     ", tried.type + ": offset " + std::to_string(tried.offset) + ": " +
                            (tried.path.empty() ? "" : tried.path + ": ") + tried.reason);

@@ -45,6 +45,9 @@ struct Report {
 };
 
 std::vector<Record> records_of(const quarn_err_ctx *ctx);
+// The innermost failure: before it may stand records of what was noted and accepted further in
+// front. There is at least one record.
+const Record &innermost(const std::vector<Record> &records);
 
 // The failure of octets that should have been one encoding. When a walk over them finds no fault,
 // `otherwise` says why they are refused.
@@ -54,6 +57,10 @@ Failure failure_at(const Walk &walk, Octets octets);
 
 // The same for a report that a caller has made; what it lacks of window and records is added.
 Failure failure_of(Report report, Octets octets, const std::string &message = "");
+// The same for a report that lacks nothing.
+Failure failure_of(Report report, const std::string &message = "");
+// Adds the window of octets, which are those behind the first `before` ones of the object.
+void add_window(Report &report, Octets octets, std::uint64_t before);
 // Puts the report at the element in which an offset of well-formed octets lies: its own offset and
 // path, and its tag as what was found.
 void place_at(Report &report, Octets octets, std::uint64_t offset);

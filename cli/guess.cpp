@@ -82,31 +82,17 @@ std::string full_name(std::int64_t type_id) {
   return first == type_id ? name : name + " (" + registered_name(type_id) + ")";
 }
 
-// The type that should have stood where a decoder failed: that of the first record which is about a
-// type, for which layers leave the code of the component that failed.
-std::string expected_of(const Decoded &tried) {
-  const std::string whole = full_name(tried.type_id());
-  for (const Record &record : tried.records()) {
-    for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
-      quarn_asn1_type_description type{};
-      static_cast<void>(quarn_asn1_type_describe(id, &type));
-      if (type.error_code + 1 == record.code) return notation_of(id) + ", in a value of " + whole;
-    }
-  }
-  return "a value of " + whole;
-}
-
 // Where octets stop being what a type demands, and why.
 Report report_of(const Decoded &tried, Octets octets) {
   Report report;
   report.records = tried.records();
-  report.expected = expected_of(tried);
+  report.expected = expected_of(tried.type_id(), tried.records());
   if (report.records.empty()) {
     report.found = tried.reason();
     return report;
   }
   place_at(report, octets,
-           static_cast<std::uint64_t>(std::max<std::int64_t>(report.records[0].offset, 0)));
+           static_cast<std::uint64_t>(std::max<std::int64_t>(innermost(report.records).offset, 0)));
   if (!tried.path().empty()) report.path = tried.path();
   return report;
 }
@@ -121,7 +107,7 @@ bool try_type(Guess &result, std::int64_t type_id, Octets octets) {
   if (value.get() == nullptr) {
     const Report report = report_of(value, octets);
     const std::string rule =
-        report.records.empty() ? "" : ", " + printable(report.records[0].message);
+        report.records.empty() ? "" : ", " + printable(innermost(report.records).message);
     result.failed.push_back(
         {notation_of(type_id), report.offset, report.path, "found " + report.found + rule});
     return false;
@@ -151,6 +137,18 @@ UsageError no_such_type(const std::string &command, const std::string &name) {
 }
 
 }  // namespace
+
+std::string expected_of(std::int64_t type_id, const std::vector<Record> &records) {
+  const std::string whole = full_name(type_id);
+  for (const Record &record : records) {
+    for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
+      quarn_asn1_type_description type{};
+      static_cast<void>(quarn_asn1_type_describe(id, &type));
+      if (type.error_code + 1 == record.code) return notation_of(id) + ", in a value of " + whole;
+    }
+  }
+  return "a value of " + whole;
+}
 
 Guess guess(Octets octets, const std::string &label) {
   Guess result;

@@ -29,6 +29,10 @@ Decoded recognise(Octets octets, const std::string &label);
 // The failure of octets that fit none of the types tried.
 Failure no_type(const Guess &guess, Octets octets);
 
+// The type that should have stood where a decoder failed: that of the first record which is about a
+// type, for which layers leave the code of the component that failed.
+std::string expected_of(std::int64_t type_id, const std::vector<Record> &records);
+
 // The octets as a value of one type. Throws Failure with the place of the fault.
 Decoded decode_as(std::int64_t type_id, Octets octets);
 

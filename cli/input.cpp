@@ -75,14 +75,6 @@ HexText read_hex(Octets text) {
   return result;
 }
 
-bool has_begin_line(std::string_view text) {
-  for (std::size_t at = text.find(kBegin); at != std::string_view::npos;
-       at = text.find(kBegin, at + 1)) {
-    if (at == 0 || text[at - 1] == '\n' || text[at - 1] == '\r') return true;
-  }
-  return false;
-}
-
 // Text of hexadecimal digits only, an octet of them at least. Digits alone are many a number too,
 // so that a file of base64 may pass: it then has no even count, or other characters soon.
 bool hex_text(Octets text) {
@@ -131,17 +123,6 @@ bool text_of_encodings(Octets text) {
          well_formed(read_base64(text).octets);
 }
 
-// UTF-8 with no controls but blanks, at the start at least.
-bool ordinary_text(Octets text) {
-  const Octets start = text.first(std::min<std::size_t>(text.size(), 512));
-  const bool blanks = std::all_of(start.begin(), start.end(), [](std::uint8_t c) {
-    return (c >= 0x20 && c != 0x7F) || blank(c);
-  });
-  std::size_t whole = start.size();  // without a character that is cut off
-  while (whole > 0 && start.size() - whole < 4 && start[whole - 1] >= 0x80) whole--;
-  return blanks && quarn_utf8_valid(start.data(), static_cast<std::int64_t>(whole)) == 1;
-}
-
 // Letters and digits are identifiers and lengths too, so that one text of base64 in a hundred is
 // well-formed itself; that an encoding reads as the text of another one does not happen.
 Form recognise(Octets text) {
@@ -171,6 +152,24 @@ std::string first_record(const quarn_err_ctx *ctx) {
 }
 
 }  // namespace
+
+bool has_begin_line(std::string_view text) {
+  for (std::size_t at = text.find(kBegin); at != std::string_view::npos;
+       at = text.find(kBegin, at + 1)) {
+    if (at == 0 || text[at - 1] == '\n' || text[at - 1] == '\r') return true;
+  }
+  return false;
+}
+
+bool ordinary_text(Octets text) {
+  const Octets start = text.first(std::min<std::size_t>(text.size(), 512));
+  const bool blanks = std::all_of(start.begin(), start.end(), [](std::uint8_t c) {
+    return (c >= 0x20 && c != 0x7F) || blank(c);
+  });
+  std::size_t whole = start.size();  // without a character that is cut off
+  while (whole > 0 && start.size() - whole < 4 && start[whole - 1] >= 0x80) whole--;
+  return blanks && quarn_utf8_valid(start.data(), static_cast<std::int64_t>(whole)) == 1;
+}
 
 std::string Source::name() const {
   return path_ == "-" ? "standard input" : printable(path_);

@@ -75,6 +75,11 @@ class Visitor {
 // Shows every object of the operands to the visitor, and returns the exit code.
 int visit_inputs(const Arguments &arguments, Visitor &visitor);
 
+// Whether a line of the text begins a PEM block.
+bool has_begin_line(std::string_view text);
+// UTF-8 with no controls but blanks, at the start at least.
+bool ordinary_text(Octets text);
+
 // A line about an object, for people who look at several.
 std::string object_heading(const Source &source, const Object &object);
 // The JSON object of a line about an object, as far as it is the same whatever is said of it:

@@ -143,12 +143,6 @@ std::string bits_json(const Node &node, Octets content) {
   return text + "}";
 }
 
-std::string oid_json(const std::string &dotted) {
-  const OidName *name = find_oid(dotted);
-  return "{\"oid\":" + json_string(dotted) +
-         (name == nullptr ? "" : ",\"name\":" + json_string(name->name)) + "}";
-}
-
 // Text where the octets are text beyond doubt, else the octets.
 std::string string_json(const Node &node, Octets content) {
   const std::optional<std::string> text = utf8_text(header_of(node).tag_number, content);
@@ -161,6 +155,12 @@ std::string octets_json(const Node &node, Octets content) {
 }
 
 }  // namespace
+
+std::string oid_json(const std::string &dotted) {
+  const OidName *name = find_oid(dotted);
+  return "{\"oid\":" + json_string(dotted) +
+         (name == nullptr ? "" : ",\"name\":" + json_string(name->name)) + "}";
+}
 
 std::string plain_hex(Octets octets) {
   constexpr char kDigits[] = "0123456789abcdef";

@@ -17,6 +17,9 @@ std::string leaf_json(const Node &node);
 // A Name on one line (RFC 4514). What would not be plainly visible is escaped as octets.
 std::string name_text(const Node &name);
 
+// An object identifier as a JSON value.
+std::string oid_json(const std::string &dotted);
+
 // Lower-case digits without blanks.
 std::string plain_hex(Octets octets);
 

@@ -73,7 +73,8 @@ constexpr const char *kErrors =
     "`quarn error` explains their codes. With `--lines` the same is written as JSON.";
 
 constexpr const char *kMemory =
-    "All commands hold each input file in memory, one at a time. `json` and `der` hold the "
+    "All commands but `cms`, which leaves out the content of a message, hold each input file in "
+    "memory, one at a time. `json` and `der` hold the "
     "document too, some tens of times the octets; `dump` needs memory only for the depth of "
     "the nesting, and so does `check` where it knows no type. Nesting may be of any depth, but "
     "`json` takes fewer than 128 elements of "

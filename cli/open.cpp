@@ -40,7 +40,7 @@ bool decodable(std::int64_t type_id) {
 
 std::string reason_of(const std::vector<Record> &records, const std::string &path) {
   if (records.empty()) return "nested too deep";
-  const Record &first = records.front();
+  const Record &first = innermost(records);
   const std::string place = first.offset < 0 ? "" : "offset " + std::to_string(first.offset) + ": ";
   return place + (path.empty() ? "" : path + ": ") + printable(first.message);
 }

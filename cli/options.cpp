@@ -43,6 +43,9 @@ constexpr Option kOptions[] = {
     {Opt::type, "-t,--type", "TYPE", nullptr,
      "The type of the input: a name of ASN.1, such as Certificate, or a name or id that `quarn "
      "types` lists. Without it the type is found by the label of a PEM block, or by trying."},
+    {Opt::content, "--content", "FILE", nullptr,
+     "Write the content of the message to FILE, which is replaced only when everything went well. "
+     "With - the content, and nothing else, goes to the standard output."},
 };
 
 constexpr const char *kInputText =
@@ -110,6 +113,29 @@ std::vector<Command> encoding_commands() {
        0,
        SIZE_MAX,
        run_dump}};
+}
+
+// Commands for what is too large to be held.
+std::vector<Command> message_commands() {
+  return {
+      {"cms",
+       "[FILE]",
+       "Show a signed or encrypted message of any size, and cut its content out",
+       "Reads a message of CMS or PKCS #7 once, from its start to its end, and shows all but its "
+       "content: versions, algorithms, signers and recipients, attributes by their names, "
+       "certificates and revocation lists in short, and at which octets content and signer infos "
+       "stand. Nothing is verified and nothing decrypted: the content of an encrypted message is "
+       "what it was encrypted to. Memory does not grow with the content, from a pipe either. "
+       "FILE is DER or BER, or PEM with the label CMS or PKCS7, with one message; - or no FILE is "
+       "the standard input. Messages in the form of mail (S/MIME) are not read.",
+       {Opt::content, Opt::json, Opt::compact, Opt::width},
+       {{"quarn cms signed.p7m", "who signed what, and with which algorithms"},
+        {"quarn cms --content document.pdf signed.p7m", "the content of a signed document"},
+        {"quarn cms --json signed.p7m | jq '.places.content'", "where the content stands"},
+        {"curl -s URL | quarn cms --content - | tar x", "from pipe to pipe"}},
+       0,
+       1,
+       run_cms}};
 }
 
 // Commands that judge encodings, or carry them from one form of text to another.
@@ -188,6 +214,7 @@ std::vector<Command> reference_commands() {
 const std::vector<Command> &table() {
   static const std::vector<Command> all = [] {
     std::vector<Command> list = encoding_commands();
+    for (Command &command : message_commands()) list.push_back(std::move(command));
     for (Command &command : form_commands()) list.push_back(std::move(command));
     for (Command &command : reference_commands()) list.push_back(std::move(command));
     return list;

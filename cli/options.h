@@ -28,7 +28,8 @@ enum class Opt {
   depth,
   width,
   json,
-  type
+  type,
+  content
 };
 
 struct Option {

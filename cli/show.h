@@ -23,6 +23,16 @@ class TextShow : public TypedVisitor {
   // An encoding of any type, as its elements.
   void tree(Octets octets) const;
 
+ protected:
+  // What is to be said of a record or list behind its type.
+  virtual std::string remark(const Node & /*node*/) const { return ""; }
+  // The components come no further to the right than the value itself.
+  void enter_silently() { indents_.push_back(indent()); }
+  // A line of its type, the text and the remark.
+  void summary(const Node &node, const std::string &text) const;
+  std::size_t depth() const { return indents_.size(); }
+  std::size_t width() const { return width_; }
+
  private:
   std::size_t indent() const { return indents_.empty() ? 0 : indents_.back(); }
   std::string head(const Node &node) const;
@@ -49,6 +59,14 @@ class JsonShow : public TypedVisitor {
   void leave() override;
   void leaf(const Node &node) override;
 
+ protected:
+  // A member of the object that is open, or an object that becomes open.
+  void member(const char *name, const std::string &json);
+  void open(const char *name);
+  // A value of which the JSON is this.
+  void whole(const Node &node, const std::string &json);
+  std::size_t depth() const { return levels_.size(); }
+
  private:
   struct Level {
     bool object;
@@ -57,6 +75,7 @@ class JsonShow : public TypedVisitor {
   };
   // Writes all that comes before the value itself, and gives what comes after it.
   std::string begin(const Node &node);
+  void next_member(const std::string &name);
   void new_line() const;
 
   std::size_t indent_;

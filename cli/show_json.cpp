@@ -63,15 +63,33 @@ void JsonShow::new_line() const {
   standard_output().write("\n" + std::string(std::min(levels_.size(), kMostIndent) * indent_, ' '));
 }
 
+void JsonShow::next_member(const std::string &name) {
+  Level &level = levels_.back();
+  if (!level.empty) standard_output().write(",");
+  level.empty = false;
+  new_line();
+  if (level.object) standard_output().write(json_string(name) + (indent_ == 0 ? ":" : ": "));
+}
+
+void JsonShow::member(const char *name, const std::string &json) {
+  next_member(name);
+  standard_output().write(json);
+}
+
+void JsonShow::open(const char *name) {
+  if (!levels_.empty()) next_member(name);
+  standard_output().write("{");
+  levels_.push_back({true, true, "}"});
+}
+
+void JsonShow::whole(const Node &node, const std::string &json) {
+  const std::string end = begin(node);
+  standard_output().write(json + end);
+}
+
 std::string JsonShow::begin(const Node &node) {
+  if (!levels_.empty()) next_member(node.label);
   std::string text;
-  if (!levels_.empty()) {
-    Level &level = levels_.back();
-    if (!level.empty) standard_output().write(",");
-    level.empty = false;
-    new_line();
-    if (level.object) text += json_string(node.label) + (indent_ == 0 ? ":" : ": ");
-  }
   std::string end;
   for (const char *alternative : node.alternatives) {
     text += "{" + json_string(alternative) + ":";

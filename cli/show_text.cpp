@@ -102,6 +102,10 @@ void TextShow::line(const Node &node, const std::string &text) const {
   standard_output().write(head(node) + text + trouble_text(node) + mark + "\n");
 }
 
+void TextShow::summary(const Node &node, const std::string &text) const {
+  line(node, type_text(node) + " " + text + remark(node));
+}
+
 void TextShow::pair(const Node &node, const quarn_asn1_component &attribute) const {
   const quarn_asn1_component type = component_of(attribute.type_id, attribute.value, 0);
   const quarn_asn1_component value = component_of(attribute.type_id, attribute.value, 1);
@@ -131,7 +135,7 @@ bool TextShow::enter(const Node &node, std::int64_t count) {
   } else if (node.list()) {
     text += painted(Paint::dim, ", " + counted(static_cast<std::uint64_t>(count), "element"));
   }
-  line(node, text);
+  line(node, text + remark(node));
   indents_.push_back(indent() + 1);
   return true;
 }

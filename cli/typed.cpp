@@ -32,6 +32,26 @@ struct Level {
   std::vector<std::uint8_t> octets;
 };
 
+void note_tag(std::vector<ContextTag> &tags, const quarn_asn1_component &component) {
+  if (component.tagging == QUARN_ASN1_TAGGING_NONE) return;
+  tags.push_back({static_cast<std::uint64_t>(component.tag),
+                  component.tagging == QUARN_ASN1_TAGGING_EXPLICIT});
+}
+
+// Goes behind a CHOICE. Time and the CHOICEs of strings show in the type of the alternative.
+void resolve(Node &node) {
+  for (;;) {
+    static_cast<void>(quarn_asn1_type_shape(node.type_id, &node.shape));
+    const bool strings = node.shape.kind == QUARN_ASN1_KIND_STRINGS;
+    if (!strings && node.shape.kind != QUARN_ASN1_KIND_CHOICE) return;
+    const quarn_asn1_component chosen = component_of(node, 0);
+    if (!strings && node.type_id != QUARN_ASN1_TIME) node.alternatives.push_back(chosen.name);
+    note_tag(node.holder < 0 ? node.tags : node.held_tags, chosen);
+    node.type_id = chosen.type_id;
+    node.value = chosen.value;
+  }
+}
+
 class Walker {
  public:
   explicit Walker(TypedVisitor &visitor) : visitor_(visitor) {}
@@ -48,7 +68,6 @@ class Walker {
   void step();
   void handle(Level level);
   void push(Level level);
-  static void resolve(Node &node);
   static void unwrap(Level &level);
   static void open(Level &level, const Level &parent);
   static bool is_place(const Level &parent, std::int64_t index);
@@ -56,26 +75,6 @@ class Walker {
   TypedVisitor &visitor_;
   std::vector<Level> levels_;
 };
-
-void note_tag(std::vector<ContextTag> &tags, const quarn_asn1_component &component) {
-  if (component.tagging == QUARN_ASN1_TAGGING_NONE) return;
-  tags.push_back({static_cast<std::uint64_t>(component.tag),
-                  component.tagging == QUARN_ASN1_TAGGING_EXPLICIT});
-}
-
-// Goes behind a CHOICE. Time and the CHOICEs of strings show in the type of the alternative.
-void Walker::resolve(Node &node) {
-  for (;;) {
-    static_cast<void>(quarn_asn1_type_shape(node.type_id, &node.shape));
-    const bool strings = node.shape.kind == QUARN_ASN1_KIND_STRINGS;
-    if (!strings && node.shape.kind != QUARN_ASN1_KIND_CHOICE) return;
-    const quarn_asn1_component chosen = component_of(node, 0);
-    if (!strings && node.type_id != QUARN_ASN1_TIME) node.alternatives.push_back(chosen.name);
-    note_tag(node.holder < 0 ? node.tags : node.held_tags, chosen);
-    node.type_id = chosen.type_id;
-    node.value = chosen.value;
-  }
-}
 
 // Whether octets to be opened are component number index.
 bool Walker::is_place(const Level &parent, std::int64_t index) {
@@ -210,6 +209,23 @@ void Walker::push(Level level) {
 
 void walk_value(std::int64_t type_id, const void *value, TypedVisitor &visitor) {
   Walker(visitor).show(type_id, value);
+}
+
+Node node_of(std::int64_t type_id, const void *value) {
+  Node node;
+  node.type_id = type_id;
+  node.value = value;
+  if (value != nullptr) resolve(node);
+  return node;
+}
+
+Node part_of(const Node &node, std::string_view name) {
+  const std::int64_t count = quarn_asn1_component_count(node.type_id, node.value);
+  for (std::int64_t i = 0; i < count; i++) {
+    const quarn_asn1_component component = component_of(node, i);
+    if (component.name == name) return node_of(component.type_id, component.value);
+  }
+  return {};
 }
 
 quarn_asn1_component component_of(std::int64_t type_id, const void *value, std::int64_t index) {

@@ -16,6 +16,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/open.h"
@@ -72,6 +73,11 @@ class TypedVisitor {
 
 // Shows the value and everything in it. Memory grows with the nesting of the value only.
 void walk_value(std::int64_t type_id, const void *value, TypedVisitor &visitor);
+
+// A value outside a walk, seen behind every CHOICE; an empty one for null.
+Node node_of(std::int64_t type_id, const void *value);
+// What its component of this name holds, or an empty node.
+Node part_of(const Node &node, std::string_view name);
 
 // Component number index; its value is null when it is absent.
 quarn_asn1_component component_of(const Node &node, std::int64_t index);

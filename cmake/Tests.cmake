@@ -42,6 +42,8 @@ if(TARGET quarn_cli AND Python3_FOUND)
   set_tests_properties(decode PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
   add_test(NAME files COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_files.py)
   add_test(NAME check COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_check.py)
+  add_test(NAME cms COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_cms.py)
+  set_tests_properties(cms PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
   set_tests_properties(check PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
 endif()
 

@@ -66,7 +66,7 @@ class CommandLine(Case):
         self.assertRegex(run.lines[0], r"^quarn \d+\.\d+\.\d+$")
         self.assertRegex(run.lines[2], r"^libquarn_util \d")
         self.assertEqual(Run("json", "--help").out, Run("help", "json").out)
-        for command in ("json", "der", "decode", "dump", "check", "convert", "types", "error", "help"):
+        for command in ("json", "der", "decode", "cms", "dump", "check", "convert", "types", "error", "help"):
             self.assertIn(f"  {command} ", Run("--help").out)
             self.check(Run(command, "-h"), 0)
 
