@@ -14,14 +14,18 @@ import subprocess
 import unittest
 
 from test_files import PUBLISHED, encode, parse, variants, wrap
-from test_quarn import ENVIRONMENT, NULL, QUARN, Case, Run
+from test_quarn import ENVIRONMENT, NULL, QUARN, Case, Run, on_small_stack
+
+
+def found_in(octets, *arguments):
+    run = Run("check", "--json", "--in-form=der", *arguments, data=octets)
+    assert run.err == "" and run.code == (1 if run.out else 0), (run.code, run.err)
+    return [record["finding"] for record in run.records()]
 
 
 def findings(octets, *arguments):
     """[(offset, rule)] of one object."""
-    run = Run("check", "--json", "--in-form=der", *arguments, data=octets)
-    assert run.err == "" and run.code == (1 if run.out else 0), (run.code, run.err)
-    return [(record["finding"]["offset"], record["finding"]["rule"]) for record in run.records()]
+    return [(found["offset"], found["rule"]) for found in found_in(octets, *arguments)]
 
 
 def real(text):
@@ -115,9 +119,7 @@ IN_CERTIFICATE = ["version", "extensions[0].critical", "extensions[0].extnValue.
 
 def typed(octets, *arguments):
     """[(offset, path, rule)] of one object."""
-    run = Run("check", "--json", "--in-form=der", *arguments, data=octets)
-    assert run.err == "" and run.code == (1 if run.out else 0), (run.code, run.err)
-    return [(record["finding"]["offset"], record["finding"]["path"], record["finding"]["rule"]) for record in run.records()]
+    return [(found["offset"], found["path"], found["rule"]) for found in found_in(octets, *arguments)]
 
 
 class Typed(Case):
@@ -246,8 +248,7 @@ class Command(Case):
 
     def test_depth_and_number_of_findings_cost_linear_time_and_little_stack(self):
         for octets, count in [(b"\x30\x80" * 50000 + b"\0\0" * 50000, 50000), (wrap(b"\x30", b"\1\1\1" * 50000), 50000)]:
-            done = subprocess.run(["sh", "-c", 'ulimit -s 256; exec "$0" check --in-form=der', QUARN], input=octets,
-                                  capture_output=True, timeout=120, env=ENVIRONMENT, check=False)
+            done = on_small_stack(["check", "--in-form=der"], octets)
             self.assertEqual((done.returncode, done.stdout.count(b"\n")), (1, count))
 
     def test_conversion_says_what_it_needs(self):

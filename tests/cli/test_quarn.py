@@ -39,6 +39,11 @@ class Run:
         return [json.loads(line) for line in self.lines]
 
 
+def on_small_stack(command, octets):
+    return subprocess.run(["sh", "-c", 'ulimit -s 256; exec "$0" "$@"', QUARN, *command], input=octets,
+                          capture_output=True, timeout=300, env=ENVIRONMENT, check=False)
+
+
 class Case(unittest.TestCase):
     def setUp(self):
         self.folder = tempfile.TemporaryDirectory()
@@ -316,9 +321,6 @@ class Errors(Case):
                     self.assertEqual(error["path"], path)
 
     def test_deep_nesting_ends_well_on_a_small_stack(self):
-        def small_stack(command, octets):
-            return subprocess.run(["sh", "-c", 'ulimit -s 256; exec "$0" "$@"', QUARN, *command],
-                                  input=octets, capture_output=True, timeout=300, env=ENVIRONMENT, check=False)
         depth = 50000
         definite = b""
         for _ in range(depth):
@@ -326,13 +328,13 @@ class Errors(Case):
             count = (size.bit_length() + 7) // 8
             length = bytes([size]) if size < 128 else bytes([0x80 | count]) + size.to_bytes(count, "big")
             definite = b"\x30" + length + definite
-        text = small_stack(["json", "--compact"], definite).stdout
-        self.assertEqual(small_stack(["der"], text).stdout, definite)
+        text = on_small_stack(["json", "--compact"], definite).stdout
+        self.assertEqual(on_small_stack(["der"], text).stdout, definite)
         indefinite = b"\x30\x80" * depth + b"\0\0" * depth
-        done = small_stack(["dump", "--color=never"], indefinite)
+        done = on_small_stack(["dump", "--color=never"], indefinite)
         self.assertEqual((done.returncode, done.stdout.count(b"\n")), (0, 2 * depth + 1))
         self.assertLess(len(done.stdout), 130 * 2 * depth)
-        done = small_stack(["json"], indefinite)
+        done = on_small_stack(["json"], indefinite)
         self.assertEqual(done.returncode, 4)
         self.assertIn(b"128 elements of indefinite length", done.stderr)
 

@@ -7,11 +7,10 @@
 #include "quarn_asn1.h"
 #include "tests/support/allocation.h"
 #include "tests/support/streams.h"
+#include "tests/support/vector_file.h"
 
 namespace quarn::test {
 namespace {
-
-using Octets = std::vector<std::uint8_t>;
 
 struct Cost {
   std::uint64_t allocations;
@@ -35,10 +34,7 @@ Octets repeated(const Octets &unit, std::size_t times) {
 
 // An element of indefinite length around content.
 Octets wrapped(std::uint8_t identifier, const Octets &content) {
-  Octets octets;
-  octets.reserve(content.size() + 4);
-  octets.push_back(identifier);
-  octets.push_back(0x80);
+  Octets octets{identifier, 0x80};
   octets.insert(octets.end(), content.begin(), content.end());
   octets.resize(octets.size() + 2);
   return octets;
@@ -137,39 +133,33 @@ TEST(Work, a_stream_is_asked_for_each_octet_once) {
 }
 
 TEST(Work, a_small_value_is_one_block_or_exists_already) {
-  const std::pair<std::int64_t, Octets> values[] = {
-      {QUARN_ASN1_INTEGER, {2, 2, 0x12, 0x34}},
-      {QUARN_ASN1_ENUMERATED, {10, 1, 3}},
-      {QUARN_ASN1_BITSTRING, {3, 2, 0, 0x80}},
-      {QUARN_ASN1_OCTETSTRING, {4, 3, 1, 2, 3}},
-      {QUARN_ASN1_OID, {6, 6, 0x2A, 0x86, 0x48, 0x86, 0xF7, 0x0D}},
-      {QUARN_ASN1_UTF8STRING, {12, 2, 'a', 'b'}},
-      {QUARN_ASN1_UTCTIME,
-       {23, 13, '2', '4', '0', '2', '2', '9', '1', '2', '0', '0', '0', '0', 'Z'}},
-      {QUARN_ASN1_GENTIME,
-       {24, 15, '2', '0', '2', '4', '0', '2', '2', '9', '1', '2', '0', '0', '0', '0', 'Z'}},
-      {QUARN_ASN1_ANY, {0x30, 2, 5, 0}},
+  const struct {
+    std::int64_t type;
+    const char *octets;
+    std::uint64_t allocations;
+  } values[] = {
+      {QUARN_ASN1_INTEGER, "02 02 12 34", 1},
+      {QUARN_ASN1_ENUMERATED, "0A 01 03", 1},
+      {QUARN_ASN1_BITSTRING, "03 02 00 80", 1},
+      {QUARN_ASN1_OCTETSTRING, "04 03 01 02 03", 1},
+      {QUARN_ASN1_OID, "06 06 2A 86 48 86 F7 0D", 1},
+      {QUARN_ASN1_UTF8STRING, "0C 02 61 62", 1},
+      {QUARN_ASN1_UTCTIME, R"(17 0D "240229120000Z")", 1},
+      {QUARN_ASN1_GENTIME, R"(18 0F "20240229120000Z")", 1},
+      {QUARN_ASN1_ANY, "30 02 05 00", 1},
+      {QUARN_ASN1_BOOLEAN, "01 01 FF", 0},
+      {QUARN_ASN1_NULL, "05 00", 0},
+      {QUARN_ASN1_OID, "06 03 55 04 03", 0},
   };
-  const std::pair<std::int64_t, Octets> existing[] = {
-      {QUARN_ASN1_BOOLEAN, {1, 1, 0xFF}},
-      {QUARN_ASN1_NULL, {5, 0}},
-      {QUARN_ASN1_OID, {6, 3, 0x55, 0x04, 0x03}},
-  };
-  const auto allocations = [](std::int64_t type, const Octets &octets) {
-    return cost_of([&] {
-             void *value = nullptr;
-             EXPECT_GT(quarn_asn1_mem_decode(
-                           octets.data(), static_cast<std::int64_t>(octets.size()), type, &value),
-                       0);
-             quarn_asn1_value_free(type, value);
-           })
-        .allocations;
-  };
-  for (const auto &[type, octets] : values) {
-    EXPECT_EQ(allocations(type, octets), 1u) << "type " << type;
-  }
-  for (const auto &[type, octets] : existing) {
-    EXPECT_EQ(allocations(type, octets), 0u) << "type " << type;
+  for (const auto &[type, text, allocations] : values) {
+    const Octets octets = read_octets(text);
+    const Cost cost = cost_of([&] {
+      void *value = nullptr;
+      const auto count = static_cast<std::int64_t>(octets.size());
+      EXPECT_EQ(quarn_asn1_mem_decode(octets.data(), count, type, &value), count);
+      quarn_asn1_value_free(type, value);
+    });
+    EXPECT_EQ(cost.allocations, allocations) << text;
   }
 }
 

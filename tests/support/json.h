@@ -36,11 +36,14 @@ inline Json parse(const std::string &text) {
   return Json(quarn_json_parse(text.data(), text.size(), nullptr));
 }
 
-inline std::string printed(const Json &document, int indent = 0) {
+inline std::string printed(const quarn_json *document, int indent = 0) {
   char *text = nullptr;
   size_t length = 0;
-  if (quarn_json_print(document.get(), indent, &text, &length) != 1) return "null";
+  if (quarn_json_print(document, indent, &text, &length) != 1) return "null";
   return std::string(Memory<char>(text).get(), length);
+}
+inline std::string printed(const Json &document) {
+  return printed(document.get());
 }
 
 inline Json to_json(const std::string &octets) {

@@ -155,6 +155,23 @@ inline std::vector<int> codes_in(const quarn_err_ctx *ctx) {
   return codes;
 }
 
+inline int control(const Stream &s,
+                   int command,
+                   std::uint64_t *value = nullptr,
+                   quarn_err_ctx *ctx = nullptr) {
+  return quarn_stream_ctrl(s.get(), command, value, ctx);
+}
+
+inline int seek(const Stream &s, std::uint64_t position, quarn_err_ctx *ctx = nullptr) {
+  return control(s, QUARN_STREAM_SEEK, &position, ctx);
+}
+
+inline std::uint64_t length_of(const Stream &s) {
+  std::uint64_t length = 0;
+  control(s, QUARN_STREAM_LENGTH, &length);
+  return length;
+}
+
 // What a stream gives from its read position on.
 inline std::string rest_of(const Stream &s) {
   std::string rest;

@@ -2,13 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "core/type.h"
-#include "quarn_asn1.h"
-#include "tests/support/store.h"
+#include "tests/unit/values.h"
 
 namespace quarn::test {
 namespace {
-
-using Octets = std::vector<std::uint8_t>;
 
 TEST(Dispatch, an_id_without_a_row_is_refused) {
   for (const std::int64_t id : {std::int64_t{-1}, std::int64_t{420}, INT64_MIN}) {
@@ -21,7 +18,7 @@ TEST(Dispatch, an_id_without_a_row_is_refused) {
     EXPECT_EQ(quarn_asn1_decode_content(stream.get(), id, &value, 1, 0, nullptr, ctx.get()), 0);
     EXPECT_EQ(quarn_asn1_encode(stream.get(), id, &value, nullptr, ctx.get()), 0);
     EXPECT_EQ(quarn_asn1_encode_puterr(ctx.get(), id, "UNIT", 1), 1);
-    EXPECT_EQ(codes_in(ctx.get()), std::vector<int>(4, 0x1026b));
+    EXPECT_EQ(codes_in(ctx.get()), Codes(4, 0x1026b));
     EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 0)->file, "QUARN_ASN1");
     EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 3)->file, "UNIT");
     EXPECT_EQ(quarn_asn1_length(id, nullptr), -2);
@@ -30,12 +27,12 @@ TEST(Dispatch, an_id_without_a_row_is_refused) {
 }
 
 TEST(Dispatch, null_arguments_are_told_by_the_layer_that_meets_them) {
-  const std::vector<int> argument{0x10002};
-  const std::vector<int> header{0x10002, 0x102e5};
+  const Codes argument{0x10002};
+  const Codes header{0x10002, 0x102e5};
   const struct {
     std::int64_t id;
-    std::vector<int> decode;  // without a stream
-    std::vector<int> encode;  // without a value
+    Codes decode;  // without a stream
+    Codes encode;  // without a value
   } cases[] = {
       {QUARN_ASN1_EOC, argument, {}},
       {QUARN_ASN1_BOOLEAN, header, argument},
@@ -62,7 +59,7 @@ TEST(Dispatch, null_arguments_are_told_by_the_layer_that_meets_them) {
 }
 
 // The code that follows the stream's own when each write in turn fails; 0: none does.
-void expect_writing(std::int64_t id, void *value, const std::vector<int> &steps) {
+void expect_writing(std::int64_t id, void *value, const Codes &steps) {
   for (std::size_t step = 0; step <= steps.size(); step++) {
     SCOPED_TRACE(step);
     SlowSink sink;
@@ -71,7 +68,7 @@ void expect_writing(std::int64_t id, void *value, const std::vector<int> &steps)
     const Context ctx(quarn_err_ctx_new());
     const bool whole = step == steps.size();
     EXPECT_EQ(quarn_asn1_encode(out.get(), id, value, nullptr, ctx.get()), whole ? 1 : 0);
-    std::vector<int> codes(whole ? 0 : 1, 0x10102);
+    Codes codes(whole ? 0 : 1, 0x10102);
     if (!whole && steps[step] != 0) codes.push_back(steps[step]);
     EXPECT_EQ(codes_in(ctx.get()), codes);
   }
@@ -80,44 +77,35 @@ void expect_writing(std::int64_t id, void *value, const std::vector<int> &steps)
 TEST(Dispatch, each_write_that_fails_is_told_by_the_step_it_belongs_to) {
   const struct {
     std::int64_t id;
-    Octets element;
-    std::vector<int> steps;
+    const char *element;
+    Codes steps;
   } cases[] = {
-      {QUARN_ASN1_BOOLEAN, {0x01, 1, 0xFF}, {0x102e4, 0x102e6, 0}},
-      {QUARN_ASN1_BITSTRING, {0x03, 2, 3, 0xF8}, {0, 0x102e6, 0, 0}},
-      {QUARN_ASN1_OCTETSTRING, {0x04, 1, 'a'}, {0, 0x102e6, 0}},
-      {QUARN_ASN1_NULL, {0x05, 0}, {0}},
-      {QUARN_ASN1_UTF8STRING, {0x0C, 1, 'a'}, {0x102e4, 0x102e6, 0}},
-      {QUARN_ASN1_ANY, {0x05, 0}, {0}},
-      {QUARN_ASN1_ANYLIST, {0x30, 4, 0x30, 0x80, 0, 0}, {0x102e4, 0x102e6, 0x10235, 0x102e8}},
-      {QUARN_ASN1_LDAPUNBINDREQUEST, {0x42, 0}, {0x102e4, 0x102e6}},
+      {QUARN_ASN1_BOOLEAN, "01 01 FF", {0x102e4, 0x102e6, 0}},
+      {QUARN_ASN1_BITSTRING, "03 02 03 F8", {0, 0x102e6, 0, 0}},
+      {QUARN_ASN1_OCTETSTRING, "04 01 61", {0, 0x102e6, 0}},
+      {QUARN_ASN1_NULL, "05 00", {0}},
+      {QUARN_ASN1_UTF8STRING, "0C 01 61", {0x102e4, 0x102e6, 0}},
+      {QUARN_ASN1_ANY, "05 00", {0}},
+      {QUARN_ASN1_ANYLIST, "30 04 30 80 00 00", {0x102e4, 0x102e6, 0x10235, 0x102e8}},
+      {QUARN_ASN1_LDAPUNBINDREQUEST, "42 00", {0x102e4, 0x102e6}},
+      {QUARN_ASN1_TIME, R"(17 0D "240101000000Z")", {0x102e4, 0x10238, 0x102e6}},
   };
   for (const auto &[id, element, steps] : cases) {
     SCOPED_TRACE(id);
-    void *value = nullptr;
-    const auto count = static_cast<std::int64_t>(element.size());
-    ASSERT_EQ(quarn_asn1_mem_decode(element.data(), count, id, &value), count);
-    expect_writing(id, value, steps);
-    quarn_asn1_value_free(id, value);
+    expect_writing(id, Held(id, element).get(), steps);
   }
-  quarn_asn1_time *time = quarn_asn1_utctime_new(2024, 1, 1, 0, 0, 0);
-  expect_writing(QUARN_ASN1_TIME, time, {0x102e4, 0x10238, 0x102e6});
-  quarn_asn1_value_free(QUARN_ASN1_TIME, time);
 }
 
 TEST(Dispatch, each_write_of_a_segment_that_fails_is_told_by_its_step) {
   Store store({'a', 'b'});
   store.knows_length = false;
   const Stream held = store.stream();
-  quarn_asn1_octetstring *octets = quarn_asn1_octetstring_newstream(held.get());
-  expect_writing(4, octets, {0, 0x102e6, 0x102e4, 0x102e4, 0, 0x102e8});
-  quarn_asn1_value_free(4, octets);
-
+  const Held octets(4, quarn_asn1_octetstring_newstream(held.get()));
+  expect_writing(4, octets.get(), {0, 0x102e6, 0x102e4, 0x102e4, 0, 0x102e8});
   const Octets empty{0x03, 1, 0};
   quarn_asn1_bitstring *bits = nullptr;
   quarn_asn1_decode_bitstring_ex(memory_stream(empty).get(), held.get(), &bits, nullptr, nullptr);
-  expect_writing(3, bits, {0, 0x102e6, 0x102e4, 0x102e6, 0, 0, 0x102e8});
-  quarn_asn1_value_free(3, bits);
+  expect_writing(3, Held(3, bits).get(), {0, 0x102e6, 0x102e4, 0x102e6, 0, 0, 0x102e8});
 }
 
 TEST(Dispatch, rows_have_the_codes_that_callers_know) {
@@ -125,7 +113,7 @@ TEST(Dispatch, rows_have_the_codes_that_callers_know) {
   EXPECT_EQ(quarn_asn1_encode_puterr(ctx.get(), 38, "UNIT", 1), 1);
   EXPECT_EQ(quarn_asn1_decode_puterr(ctx.get(), 38, "UNIT", 1), 1);
   EXPECT_EQ(quarn_asn1_decode_puterr(ctx.get(), 49, "UNIT", 1), 1);
-  EXPECT_EQ(codes_in(ctx.get()), (std::vector<int>{0x10256, 0x10257, 0x30}));
+  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10256, 0x10257, 0x30}));
   EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 1)->message, "decode x509 tbscertificate fail");
   EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 2)->message, "") << "outside the table of messages";
 }

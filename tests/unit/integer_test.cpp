@@ -18,12 +18,12 @@ Octets octets_of(const Integer &v) {
   return octets;
 }
 
-Integer decoded(Octets content) {
-  content.insert(content.begin(), {0x02, static_cast<std::uint8_t>(content.size())});
-  void *value = nullptr;
-  quarn_asn1_mem_decode(content.data(), static_cast<std::int64_t>(content.size()),
-                        QUARN_ASN1_INTEGER, &value);
-  return Integer(static_cast<quarn_asn1_integer *>(value));
+std::int64_t number_of(const char *octets, int result) {
+  const Held value(QUARN_ASN1_INTEGER, octets);
+  std::int64_t n = 77;
+  EXPECT_EQ(quarn_asn1_enum_getlong(value.as<quarn_asn1_integer>(), &n), result) << octets;
+  EXPECT_EQ(quarn_asn1_integer_getlong(value.as<quarn_asn1_integer>(), &n), result) << octets;
+  return n;
 }
 
 Integer from_octets(const Octets &octets) {
@@ -64,17 +64,10 @@ TEST(Integer, numbers_have_their_fewest_octets_and_come_back) {
 }
 
 TEST(Integer, numbers_beyond_64_bits_are_refused_and_superfluous_octets_are_not) {
-  Octets padded(40, 0xFF);
-  padded.back() = 0xFE;
-  std::int64_t n = 77;
-  EXPECT_EQ(quarn_asn1_enum_getlong(decoded(padded).get(), &n), 1);
-  EXPECT_EQ(n, -2);
-  for (const Octets &content :
-       {Octets{0x00, 0x80, 0, 0, 0, 0, 0, 0, 0}, Octets{0x80, 0, 0, 0, 0, 0, 0, 0},
-        Octets{0xFF, 0x80, 0, 0, 0, 0, 0, 0, 0}, Octets{0xFF, 0x7F, 0, 0, 0, 0, 0, 0, 0},
-        Octets{0x01, 0, 0, 0, 0, 0, 0, 0, 0}, Octets(40, 0x80)}) {
-    EXPECT_EQ(quarn_asn1_integer_getlong(decoded(content).get(), &n), 0);
-    EXPECT_EQ(n, -2) << "untouched";
+  EXPECT_EQ(number_of("02 28 (FF)*39 FE", 1), -2);
+  for (const char *octets : {"02 09 00 80 (00)*7", "02 08 80 (00)*7", "02 09 FF 80 (00)*7",
+                             "02 09 FF 7F (00)*7", "02 09 01 (00)*8", "02 28 (80)*40"}) {
+    EXPECT_EQ(number_of(octets, 0), 77) << "untouched";
   }
 }
 

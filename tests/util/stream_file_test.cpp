@@ -21,16 +21,6 @@ Stream open_stream(const std::string &path, const char *mode, quarn_err_ctx *ctx
   return Stream(quarn_stream_new_file(path.c_str(), mode, ctx));
 }
 
-int control(const Stream &s, int command, uint64_t *value = nullptr, quarn_err_ctx *ctx = nullptr) {
-  return quarn_stream_ctrl(s.get(), command, value, ctx);
-}
-
-uint64_t length_of(const Stream &s) {
-  uint64_t length = 0;
-  EXPECT_EQ(control(s, QUARN_STREAM_LENGTH, &length), 1);
-  return length;
-}
-
 std::string pattern(std::size_t count) {
   std::string text;
   for (std::size_t i = 0; i < count; i++) text.push_back(static_cast<char>('a' + i * i % 23));
@@ -85,8 +75,7 @@ TEST_F(FileStream, reads_seeks_and_skips_across_its_buffer) {
   ASSERT_TRUE(s);
   EXPECT_EQ(length_of(s), content.size());
   for (const uint64_t target : {5u, 70000u, 69990u, 199999u, 0u, 65535u, 65536u}) {
-    uint64_t position = target;
-    ASSERT_EQ(control(s, QUARN_STREAM_SEEK, &position), 1);
+    ASSERT_EQ(seek(s, target), 1);
     char c = 0;
     ASSERT_EQ(quarn_stream_readn(s.get(), &c, 1, nullptr), 1);
     EXPECT_EQ(c, content[target]) << target;
@@ -163,8 +152,7 @@ TEST_F(FileStream, a_pipe_has_no_length_and_cannot_seek) {
   });
   const Stream s = open_stream("-", "r");
   EXPECT_EQ(length_of(s), UINT64_MAX);
-  uint64_t position = 1;
-  EXPECT_EQ(control(s, QUARN_STREAM_SEEK, &position), 0);
+  EXPECT_EQ(seek(s, 1), 0);
   EXPECT_EQ(quarn_stream_skip(s.get(), 100000, nullptr), 1);
   EXPECT_EQ(rest_of(s), content.substr(100000));
   EXPECT_EQ(control(s, QUARN_STREAM_ATEND), 1);

@@ -13,20 +13,6 @@
 namespace quarn::test {
 namespace {
 
-int seek(quarn_stream *s, uint64_t position, quarn_err_ctx *ctx = nullptr) {
-  return quarn_stream_ctrl(s, QUARN_STREAM_SEEK, &position, ctx);
-}
-
-uint64_t length_of(quarn_stream *s) {
-  uint64_t length = 0;
-  EXPECT_EQ(quarn_stream_ctrl(s, QUARN_STREAM_LENGTH, &length, nullptr), 1);
-  return length;
-}
-
-int at_end(quarn_stream *s, quarn_err_ctx *ctx = nullptr) {
-  return quarn_stream_ctrl(s, QUARN_STREAM_ATEND, nullptr, ctx);
-}
-
 TEST(MemoryStream, short_exact_read_keeps_position_and_a_short_read_does_not_fail) {
   const Context ctx(quarn_err_ctx_new());
   Stream s(quarn_stream_new_romem(octets_of("abcde"), 5, 0, ctx.get()));
@@ -49,35 +35,35 @@ TEST(MemoryStream, each_refusal_leaves_one_record) {
   EXPECT_EQ(quarn_stream_writen(s.get(), "x", 1, ctx.get()), 0);
   EXPECT_EQ(quarn_stream_readn(s.get(), &c, -1, ctx.get()), 0);
   EXPECT_EQ(quarn_stream_readn(nullptr, &c, 1, ctx.get()), 0);
-  EXPECT_EQ(quarn_stream_ctrl(s.get(), 3, nullptr, ctx.get()), 0);
-  EXPECT_EQ(seek(s.get(), 4, ctx.get()), 0);
+  EXPECT_EQ(control(s, 3, nullptr, ctx.get()), 0);
+  EXPECT_EQ(seek(s, 4, ctx.get()), 0);
   EXPECT_EQ(quarn_stream_new_mem(-1, ctx.get()), nullptr);
   EXPECT_EQ(codes_in(ctx.get()),
             (std::vector<int>{0x10104, 0x10001, 0x10002, 0x10105, 0x10106, 0x10001}));
 }
 
 TEST(MemoryStream, duplicates_are_snapshots_that_outlive_growth_detaching_and_the_original) {
-  quarn_stream *s = quarn_stream_new_mem(0, nullptr);
+  Stream s(quarn_stream_new_mem(0, nullptr));
   std::vector<Stream> duplicates;
   std::string content;
   for (int i = 0; i < 200; i++) {
-    ASSERT_EQ(quarn_stream_writen(s, "0123456789", i % 10, nullptr), 1);
+    ASSERT_EQ(quarn_stream_writen(s.get(), "0123456789", i % 10, nullptr), 1);
     content.append("0123456789", static_cast<size_t>(i % 10));
-    duplicates.emplace_back(quarn_memstream_dup_readonly(s, nullptr));
-    ASSERT_EQ(length_of(duplicates.back().get()), content.size());
+    duplicates.emplace_back(quarn_memstream_dup_readonly(s.get(), nullptr));
+    ASSERT_EQ(length_of(duplicates.back()), content.size());
   }
   duplicates.emplace_back(quarn_memstream_dup_readonly(duplicates.back().get(), nullptr));
   uint8_t *octets = nullptr;
   uint64_t count = 0;
-  ASSERT_EQ(quarn_memstreamdeatch(s, &octets, &count), 1);
+  ASSERT_EQ(quarn_memstreamdeatch(s.get(), &octets, &count), 1);
   const Memory<uint8_t> owner(octets);
   EXPECT_EQ(std::string(octets, octets + count), content);
   octets[0] = '#';  // shared with duplicates: what is handed out is a copy
   EXPECT_EQ(length_of(s), 0u);
-  ASSERT_EQ(quarn_stream_writen(s, "new", 3, nullptr), 1);
-  quarn_stream_free(s);
+  ASSERT_EQ(quarn_stream_writen(s.get(), "new", 3, nullptr), 1);
+  s.reset();
   for (const Stream &d : duplicates) {
-    EXPECT_EQ(rest_of(d), content.substr(0, length_of(d.get())));
+    EXPECT_EQ(rest_of(d), content.substr(0, length_of(d)));
     EXPECT_EQ(quarn_stream_writen(d.get(), "x", 1, nullptr), 0);
   }
 }
@@ -132,7 +118,7 @@ TEST(MemoryStream, lends_unread_octets_and_room) {
   EXPECT_EQ(quarn_memstream_peek(s.get(), &octets, &count), 1);
   EXPECT_EQ(std::string(octets, octets + count), std::string(size - 10, 'r'));
   EXPECT_EQ(quarn_memstream_reserve(s.get(), UINT64_MAX, &room, &size, nullptr), 0);
-  EXPECT_EQ(length_of(s.get()), count + 10);
+  EXPECT_EQ(length_of(s), count + 10);
 }
 
 TEST(MemoryStream, appends_itself_and_its_own_octets_as_they_were) {
@@ -149,11 +135,11 @@ TEST(MemoryStream, appends_itself_and_its_own_octets_as_they_were) {
     ASSERT_EQ(quarn_stream_writen(s.get(), own, static_cast<int64_t>(count), nullptr), 1);
     expected += expected.substr(expected.size() - count);
   }
-  EXPECT_EQ(quarn_stream_ctrl(s.get(), QUARN_STREAM_REWIND, nullptr, nullptr), 1);
-  EXPECT_EQ(at_end(s.get()), 0);
+  EXPECT_EQ(control(s, QUARN_STREAM_REWIND), 1);
+  EXPECT_EQ(control(s, QUARN_STREAM_ATEND), 0);
   EXPECT_EQ(rest_of(s), expected);
-  EXPECT_EQ(at_end(s.get()), 1);
-  EXPECT_EQ(seek(s.get(), 7), 1);
+  EXPECT_EQ(control(s, QUARN_STREAM_ATEND), 1);
+  EXPECT_EQ(seek(s, 7), 1);
   EXPECT_EQ(rest_of(s), expected.substr(7));
 }
 
@@ -185,12 +171,12 @@ TEST(CallbackStream, exact_reads_loop_over_short_ones) {
 TEST(CallbackStream, tells_the_end_without_a_length_and_loses_no_octet) {
   Store source = store_of("ab");
   const Stream s = source.stream(Store::Kind::read_only);
-  EXPECT_EQ(length_of(s.get()), UINT64_MAX);
-  EXPECT_EQ(at_end(s.get()), 0);
+  EXPECT_EQ(length_of(s), UINT64_MAX);
+  EXPECT_EQ(control(s, QUARN_STREAM_ATEND), 0);
   EXPECT_EQ(source.calls, 1u);
   EXPECT_EQ(quarn_stream_position(s.get()), 0u);
   EXPECT_EQ(rest_of(s), "ab");
-  EXPECT_EQ(at_end(s.get()), 1);
+  EXPECT_EQ(control(s, QUARN_STREAM_ATEND), 1);
 }
 
 TEST(CallbackStream, skips_by_seeking_or_else_by_reading_and_notices_the_end) {
@@ -201,7 +187,7 @@ TEST(CallbackStream, skips_by_seeking_or_else_by_reading_and_notices_the_end) {
       source.octets[4500] = 'y';
       source.piece = 1000;
       const Stream s = source.stream(seekable ? Store::Kind::all : Store::Kind::read_only);
-      EXPECT_EQ(at_end(s.get()), 0);  // may hold an octet back
+      EXPECT_EQ(control(s, QUARN_STREAM_ATEND), 0);  // may hold an octet back
       ASSERT_EQ(quarn_stream_skip(s.get(), 4500, nullptr), 1);
       EXPECT_LE(source.calls, seekable ? 3u : 8u);
       EXPECT_EQ(quarn_stream_position(s.get()), 4500u);
@@ -232,8 +218,8 @@ TEST(CallbackStream, missing_functions_are_reported) {
   char c = 0;
   EXPECT_EQ(quarn_stream_readn(s.get(), &c, 1, ctx.get()), 0);
   EXPECT_EQ(quarn_stream_writen(s.get(), "x", 1, ctx.get()), 0);
-  EXPECT_EQ(seek(s.get(), 0, ctx.get()), 0);
-  EXPECT_EQ(quarn_stream_ctrl(s.get(), QUARN_STREAM_REWIND, nullptr, ctx.get()), 0);
+  EXPECT_EQ(seek(s, 0, ctx.get()), 0);
+  EXPECT_EQ(control(s, QUARN_STREAM_REWIND, nullptr, ctx.get()), 0);
   EXPECT_EQ(codes_in(ctx.get()), (std::vector<int>{0x10101, 0x10104, 0x10107, 0x10109}));
 }
 
@@ -243,9 +229,9 @@ int exercise(Store &from, Store &to, quarn_err_ctx *ctx) {
   const Stream destination = to.stream();
   char buffer[4];
   int successes = quarn_stream_readn(source.get(), buffer, 4, ctx);
-  successes += seek(source.get(), 1, ctx);
+  successes += seek(source, 1, ctx);
   successes += quarn_stream_skip(source.get(), 1, ctx);
-  successes += quarn_stream_ctrl(source.get(), QUARN_STREAM_REWIND, nullptr, ctx);
+  successes += control(source, QUARN_STREAM_REWIND, nullptr, ctx);
   successes += quarn_stream_writefromstream(destination.get(), source.get(), ctx, nullptr);
   return 6 - successes - quarn_stream_flush(destination.get(), ctx);
 }
@@ -277,11 +263,11 @@ TEST(Stream, survives_lack_of_memory) {
     if (!s || !callback) return;
     quarn_stream_writen(s.get(), "abc", 3, nullptr);
     Stream duplicate(quarn_memstream_dup_readonly(s.get(), nullptr));
-    const uint64_t before = length_of(s.get());
+    const uint64_t before = length_of(s);
     uint64_t copied = 0;
     const int result = quarn_stream_writefromstream(s.get(), callback.get(), nullptr, &copied);
     EXPECT_TRUE(result == 1 || allocation.failed());
-    EXPECT_EQ(length_of(s.get()), before + copied);
+    EXPECT_EQ(length_of(s), before + copied);
     Stream last(quarn_memstream_dup_readonly(s.get(), nullptr));
     uint8_t *octets = nullptr;
     quarn_memstreamdeatch(s.get(), &octets, nullptr);

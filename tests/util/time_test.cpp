@@ -155,21 +155,6 @@ TEST(LeapSecond, table_is_that_of_the_installed_list) {
   EXPECT_GE(known, 27);
 }
 
-TEST(Time, objects_hold_their_fields_and_copies_go_their_own_way) {
-  quarn_time *t = quarn_time_newutctime(2024, 2, 29, 12, 34, 56, 789);
-  quarn_time *copy = quarn_time_dup(t);
-  EXPECT_EQ(quarn_time_addday(copy, 1), 1);
-  const Fields of_copy{quarn_time_getyear(copy),   quarn_time_getmonth(copy),
-                       quarn_time_getday(copy),    quarn_time_gethour(copy),
-                       quarn_time_getminute(copy), quarn_time_getsecond(copy),
-                       quarn_time_getns(copy)};
-  EXPECT_EQ(of_copy, (Fields{2024, 3, 1, 12, 34, 56, 789}));
-  EXPECT_EQ(quarn_time_getday(t), 29);
-  quarn_time_free(copy);
-  quarn_time_free(t);
-  EXPECT_EQ(quarn_time_newutctime(2024, 1, 1, 0, 300, 0, 0), nullptr);
-}
-
 TEST(Time, survives_lack_of_memory) {
   fail_each_allocation([](Allocation &) {
     quarn_time *t = quarn_time_newlocaltime(2024, 2, 29, 12, 34, 56, 789);
