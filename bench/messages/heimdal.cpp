@@ -1,0 +1,69 @@
+// Heimdal: C structures; the content of the ContentInfo stays octets, which are decoded in turn.
+// Certificates stay octets.
+#include "bench/messages/messages.h"
+
+// Its headers are written for C and for other warnings than ours.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wpedantic"
+extern "C" {
+#include <heimdal/asn1_err.h>
+// The rest after what it needs.
+#include <heimdal/cms_asn1.h>
+}
+#pragma GCC diagnostic pop
+
+namespace bench {
+
+namespace {
+
+template <typename T>
+using Decode = int(const unsigned char *, size_t, T *, size_t *);
+
+template <typename T>
+T *decode_in_content_info(const Octets &der, Decode<T> *decode) {
+  ContentInfo outer;
+  std::size_t size = 0;
+  require(decode_ContentInfo(der.data(), der.size(), &outer, &size) == 0 && outer.content,
+          "decode a message with Heimdal");
+  T *value = new T;
+  const int error = decode(static_cast<const unsigned char *>(outer.content->data),
+                           outer.content->length, value, &size);
+  free_ContentInfo(&outer);
+  require(error == 0, "decode the content of a message with Heimdal");
+  return value;
+}
+
+std::uint64_t signed_message(const Octets &der) {
+  SignedData *value = decode_in_content_info(der, decode_SignedData);
+  const std::uint64_t size = value->encapContentInfo.eContent->length;
+  free_SignedData(value);
+  delete value;
+  return size;
+}
+
+std::uint64_t enveloped(const Octets &der) {
+  EnvelopedData *value = decode_in_content_info(der, decode_EnvelopedData);
+  free_EnvelopedData(value);
+  delete value;
+  return 0;
+}
+
+std::size_t encode(void *message) {
+  const auto *value = static_cast<const EnvelopedData *>(message);
+  std::size_t size = length_EnvelopedData(value);
+  Octets octets(size);
+  const int error = encode_EnvelopedData(octets.data() + size - 1, size, value, &size);
+  return error == 0 ? size : 0;
+}
+
+const bool kKnown = known_messages({.name = "Heimdal",
+                                    .signed_message = signed_message,
+                                    .enveloped = enveloped,
+                                    .load_enveloped = [](const Octets &der) -> void * {
+                                      return decode_in_content_info(der, decode_EnvelopedData);
+                                    },
+                                    .encode_enveloped = encode});
+
+}  // namespace
+
+}  // namespace bench
