@@ -152,7 +152,13 @@ std::uint64_t decode_content_aside(const Octets &der) {
 }
 
 std::uint64_t decode_content_kept(const Octets &der) {
-  return decode_to(der, quarn_stream_new_mem(static_cast<std::int64_t>(der.size()), nullptr));
+  quarn_stream *content = quarn_stream_new_mem(0, nullptr);
+  // Room for all of it at once: a stream that grows as it is written to copies what it has.
+  std::uint8_t *room = nullptr;
+  std::uint64_t size = 0;
+  require(quarn_memstream_reserve(content, der.size(), &room, &size, nullptr) == 1,
+          "reserve memory");
+  return decode_to(der, content);
 }
 
 std::uint64_t decode_file_apart(const std::string &path) {
