@@ -1,5 +1,7 @@
 // Heimdal: C structures; the content of the ContentInfo stays octets, which are decoded in turn.
 // So do certificates, which are decoded here because the others do it.
+#include <memory>
+
 #include "bench/messages/messages.h"
 
 // Its headers are written for C and for other warnings than ours.
@@ -21,21 +23,21 @@ template <typename T>
 using Decode = int(const unsigned char *, size_t, T *, size_t *);
 
 template <typename T>
-T *decode_in_content_info(const Octets &der, Decode<T> *decode) {
+std::unique_ptr<T> decode_in_content_info(const Octets &der, Decode<T> *decode) {
   ContentInfo outer;
   std::size_t size = 0;
   require(decode_ContentInfo(der.data(), der.size(), &outer, &size) == 0 && outer.content,
           "decode a message with Heimdal");
-  T *value = new T;
+  auto value = std::make_unique<T>();
   const int error = decode(static_cast<const unsigned char *>(outer.content->data),
-                           outer.content->length, value, &size);
+                           outer.content->length, value.get(), &size);
   free_ContentInfo(&outer);
   require(error == 0, "decode the content of a message with Heimdal");
   return value;
 }
 
 std::uint64_t signed_message(const Octets &der) {
-  SignedData *value = decode_in_content_info(der, decode_SignedData);
+  const auto value = decode_in_content_info(der, decode_SignedData);
   const std::uint64_t size = value->encapContentInfo.eContent->length;
   for (unsigned i = 0; i < value->certificates->len; i++) {
     const heim_any &octets = value->certificates->val[i];
@@ -46,15 +48,13 @@ std::uint64_t signed_message(const Octets &der) {
             "decode a certificate with Heimdal");
     free_Certificate(&certificate);
   }
-  free_SignedData(value);
-  delete value;
+  free_SignedData(value.get());
   return size;
 }
 
 std::uint64_t enveloped(const Octets &der) {
-  EnvelopedData *value = decode_in_content_info(der, decode_EnvelopedData);
-  free_EnvelopedData(value);
-  delete value;
+  const auto value = decode_in_content_info(der, decode_EnvelopedData);
+  free_EnvelopedData(value.get());
   return 0;
 }
 
@@ -66,13 +66,14 @@ std::size_t encode(void *message) {
   return error == 0 ? size : 0;
 }
 
-const bool kKnown = known_messages({.name = "Heimdal",
-                                    .signed_message = signed_message,
-                                    .enveloped = enveloped,
-                                    .load_enveloped = [](const Octets &der) -> void * {
-                                      return decode_in_content_info(der, decode_EnvelopedData);
-                                    },
-                                    .encode_enveloped = encode});
+const bool kKnown =
+    known_messages({.name = "Heimdal",
+                    .signed_message = signed_message,
+                    .enveloped = enveloped,
+                    .load_enveloped = [](const Octets &der) -> void * {
+                      return decode_in_content_info(der, decode_EnvelopedData).release();
+                    },
+                    .encode_enveloped = encode});
 
 }  // namespace
 
