@@ -1,6 +1,7 @@
 #!/bin/sh
-# Installs a build into a scratch tree, moves it, and builds examples/consumer against it: through
-# pkg-config, shared and static, and through the CMake package. Headers must stand alone as C and C++.
+# Installs a build into a scratch tree, moves it, and builds the examples against it: through
+# pkg-config, shared and static, and through the CMake package. The examples for signed messages and the
+# openssl command must agree. Headers must stand alone as C and C++.
 #   tools/consumer.sh BUILD
 set -eu
 cd "$(dirname "$0")/.."
@@ -44,6 +45,30 @@ if [ "$printed" != "$expected" ]; then
   exit 1
 fi
 echo "typed example: good"
+
+cmake -S examples/signed_message -B "$work/signed" -DCMAKE_PREFIX_PATH="$work/usr" \
+  -DCMAKE_C_FLAGS="-Wall -Wextra -Wpedantic -Werror" >/dev/null
+cmake --build "$work/signed" >/dev/null
+export LD_LIBRARY_PATH="$libdir"
+openssl req -x509 -newkey ec -pkeyopt ec_paramgen_curve:P-256 -nodes -subj /CN=signer -keyout "$work/key.pem" \
+  -out "$work/signer.pem" 2>/dev/null
+head -c 100000 /dev/zero | tr '\0' 'x' >"$work/content"
+for form in "" -stream; do
+  openssl cms -sign -binary $form -nodetach -md sha256 -in "$work/content" -signer "$work/signer.pem" \
+    -inkey "$work/key.pem" -outform DER -out "$work/signed.der"
+  "$work/signed/verify" - "$work/cut" <"$work/signed.der" | grep -q "signature verified"
+  cmp "$work/content" "$work/cut"
+  "$work/signed/restream" "$work/signed.der" "$work/again.der"
+  openssl cms -verify -binary -inform DER -in "$work/again.der" -noverify -out "$work/cut" 2>/dev/null
+  cmp "$work/content" "$work/cut"
+  sed 's/xxxxx/xxxxy/' "$work/signed.der" >"$work/tampered.der"
+  if "$work/signed/verify" "$work/tampered.der" >/dev/null; then
+    echo "a tampered message was verified" >&2
+    exit 1
+  fi
+done
+unset LD_LIBRARY_PATH
+echo "signed messages: good"
 
 for standard in "cc -x c -std=c99" "cc -x c -std=c11" "c++ -x c++ -std=c++11" "c++ -x c++ -std=c++20"; do
   for header in $(cd "$work/usr/include" && find . -name '*.h'); do

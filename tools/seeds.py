@@ -71,7 +71,7 @@ def seeds(target):
     if target == "loaders":
         for kind, content in loadable():
             yield bytes([kind]) + content
-    elif target == "typed":
+    elif target in ("typed", "messages"):
         for type_id, content in vectors():
             yield type_id.to_bytes(2, "big") + content
     elif target == "value_text":

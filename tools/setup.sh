@@ -5,9 +5,9 @@
 set -eu
 
 packages="g++ cmake ninja-build pkg-config python3 rapidjson-dev libboost-dev libcli11-dev libgtest-dev
-googletest openssl ca-certificates jq tzdata"
+googletest openssl libssl-dev ca-certificates jq tzdata"
 case "${1:-}" in
-  bench) packages="$packages libbenchmark-dev libssl-dev libmbedtls-dev libbotan-2-dev libtasn1-6-dev
+  bench) packages="$packages libbenchmark-dev libmbedtls-dev libbotan-2-dev libtasn1-6-dev
 libtasn1-bin libgnutls28-dev libksba-dev heimdal-multidev" ;;
   fuzz) packages="$packages clang libclang-rt-dev" ;;
   lint) packages="$packages clang-tidy cppcheck" ;;

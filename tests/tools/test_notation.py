@@ -197,6 +197,8 @@ class Mistakes(unittest.TestCase):
                 ("two components are called x", "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER, x NULL }"),
                 ("row 105 (spot) has the stem Point of T and no definition",
                  "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER }"),
+                ("content is for an OPTIONAL component under a tag",
+                 "--- T.\n--@ type id=100\n--@ also id=105\nT ::= SEQUENCE { x OCTET STRING OPTIONAL --@ content\n}"),
                 ("quarn_point_getx is made twice", "--- T.\n--@ type id=100\n--@ also id=105\nT ::= SEQUENCE {\nx INTEGER,\n"
                                                    "y NULL --@ get=x\n}"),
                 ("the default of x is no OCTET STRING",

@@ -66,6 +66,8 @@ const struct Shape {
     {QUARN_ASN1_CMSENCRYPTEDCONTENTINFO, Info::encrypted, nullptr, nullptr},
     {QUARN_ASN1_CMSENCRYPTEDDATA, Info::encrypted, "02 01 00", ""},
     {QUARN_ASN1_CMSENVELOPEDDATA, Info::encrypted, "02 01 00 31 00", ""},
+    {QUARN_ASN1_PKCS12PFX, Info::any, "02 01 03", ""},
+    {QUARN_ASN1_AUTHENTICODE_TIMESTAMPREQ, Info::any, "06 01 2A", ""},
     {QUARN_ASN1_SIGNEDANDENVELOPEDDATA, Info::encrypted, "02 01 00 31 00 31 00", "31 00"},
 };
 
@@ -170,8 +172,8 @@ TEST(Message, what_cannot_be_decoded_apart_is_refused) {
     EXPECT_EQ(got.value, nullptr);
     if (got.codes != Codes{QUARN_ERROR_ARGUMENT}) accepted.push_back(id);
   }
-  EXPECT_EQ(accepted,
-            (std::vector<std::uint32_t>{111, 121, 133, 134, 147, 148, 149, 164, 165, 355}));
+  EXPECT_EQ(accepted, (std::vector<std::uint32_t>{111, 113, 121, 133, 134, 147, 148, 149, 164, 165,
+                                                  215, 355}));
   EXPECT_EQ(apart(stream.get(), QUARN_ASN1_TYPE_COUNT, out.get()).codes,
             Codes{QUARN_ASN1_ERROR_TYPE});
   EXPECT_EQ(apart(stream.get(), type, stream.get()).codes, Codes{QUARN_ERROR_ARGUMENT});
