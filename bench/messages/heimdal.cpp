@@ -2,18 +2,8 @@
 // So do certificates, which are decoded here because the others do it.
 #include <memory>
 
+#include "bench/heimdal.h"
 #include "bench/messages/messages.h"
-
-// Its headers are written for C and for other warnings than ours.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wpedantic"
-extern "C" {
-#include <heimdal/asn1_err.h>
-// The rest after what it needs.
-#include <heimdal/cms_asn1.h>
-#include <heimdal/rfc2459_asn1.h>
-}
-#pragma GCC diagnostic pop
 
 namespace bench {
 

@@ -104,9 +104,9 @@ const Signer &signer(Key key) {
     require(one.certificate != nullptr && one.key != nullptr, "read the signer " + path);
     return one;
   };
-  static const Signer kRsa = read("signer-rsa");
-  static const Signer kEc = read("signer-ec");
-  return key == Key::kRsa ? kRsa : kEc;
+  static const Signer rsa = read("signer-rsa");
+  static const Signer ec = read("signer-ec");
+  return key == Key::kRsa ? rsa : ec;
 }
 
 const Octets &content_of(std::size_t size) {

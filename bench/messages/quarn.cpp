@@ -116,14 +116,14 @@ std::size_t encode(void *message) {
 }
 
 const quarn_pkcs7signeddata *message_to_write() {
-  static const quarn_pkcs7signeddata *const kMessage = [] {
+  static const quarn_pkcs7signeddata *const made = [] {
     quarn_stream *in = over(signed_message(1 << 10));
     quarn_pkcs7signeddata *message = nullptr;
     quarn_asn1_decode_pkcs7signeddata(in, &message, nullptr, nullptr);
     quarn_stream_free(in);
     return message;
   }();
-  return kMessage;
+  return made;
 }
 
 const bool kKnown = known_messages(
