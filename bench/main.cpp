@@ -111,6 +111,7 @@ double figure(const Results &results, const Question &question, const Case &one,
   return NAN;
 }
 
+// False too when the reference was filtered out: the demand is not shown to be met.
 bool print_case(const Results &results, const Question &question, const Case &one) {
   const double time = figure(results, question, one, Measure::kTime);
   if (std::isnan(time)) return true;
@@ -123,10 +124,10 @@ bool print_case(const Results &results, const Question &question, const Case &on
               ratio, verdict(ratio, one.at_most).c_str(), allocations, wrong_count ? " MISSED" : "",
               static_cast<double>(memory.octets) / operations_of(question, one),
               static_cast<long long>(memory.peak));
-  return !wrong_count && (one.at_most <= 0 || !(ratio > one.at_most));
+  return !wrong_count && (one.at_most <= 0 || ratio <= one.at_most);
 }
 
-// False too when a case of it could not be measured: the demand is not shown to be met.
+// False too when a case of it could not be measured.
 bool print_comparison(const Results &results,
                       const Question &question,
                       const Comparison &comparison) {
