@@ -63,6 +63,7 @@ Question json_printing();
 Question json_to_der();
 Question small_values();
 std::vector<Question> typed_values();
+std::vector<Question> messages();
 
 // Time and memory on hostile input of doubling sizes and memory on real input, printed. False when
 // a limit is passed.

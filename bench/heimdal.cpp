@@ -1,16 +1,5 @@
+#include "bench/heimdal.h"
 #include "bench/peers.h"
-
-// Its headers are written for C and for other warnings than ours.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wpedantic"
-extern "C" {
-#include <heimdal/asn1_err.h>
-// The rest after what it needs.
-#include <heimdal/rfc2459_asn1.h>
-// And this last.
-#include <heimdal/der.h>
-}
-#pragma GCC diagnostic pop
 
 namespace bench {
 

@@ -9,9 +9,10 @@ pkg_check_modules(BOTAN REQUIRED IMPORTED_TARGET botan-2)
 find_library(MBEDCRYPTO_LIBRARY mbedcrypto REQUIRED)
 find_library(HEIMDAL_ASN1_LIBRARY asn1 PATH_SUFFIXES heimdal REQUIRED)
 find_path(HEIMDAL_INCLUDE_DIR heimdal/rfc2459_asn1.h REQUIRED)
-# These are compared with in the questions on typed values alone, and left out when they are missing.
+# These are compared with in the questions on typed values and messages alone, and left out when they are missing.
 pkg_check_modules(GNUTLS IMPORTED_TARGET gnutls)
 find_library(MBEDX509_LIBRARY mbedx509)
+pkg_check_modules(KSBA IMPORTED_TARGET ksba)
 find_program(OPENSSL_COMMAND openssl REQUIRED)
 
 set(walk_inside ${PROJECT_SOURCE_DIR}/bench/walk_inside.cpp)
@@ -27,13 +28,20 @@ add_custom_command(OUTPUT ${corpus}/199.crt
   COMMAND ${corpus_script} ${corpus} DEPENDS ${corpus_script} VERBATIM)
 
 file(GLOB sources CONFIGURE_DEPENDS
-  ${PROJECT_SOURCE_DIR}/bench/*.cpp ${PROJECT_SOURCE_DIR}/bench/typed/*.cpp)
+  ${PROJECT_SOURCE_DIR}/bench/*.cpp ${PROJECT_SOURCE_DIR}/bench/typed/*.cpp
+  ${PROJECT_SOURCE_DIR}/bench/messages/*.cpp)
 list(REMOVE_ITEM sources ${walk_inside})
 set(optional_peers)
 if(GNUTLS_FOUND)
   list(APPEND optional_peers PkgConfig::GNUTLS)
 else()
-  list(REMOVE_ITEM sources ${PROJECT_SOURCE_DIR}/bench/typed/gnutls.cpp)
+  list(REMOVE_ITEM sources ${PROJECT_SOURCE_DIR}/bench/typed/gnutls.cpp
+    ${PROJECT_SOURCE_DIR}/bench/messages/gnutls.cpp)
+endif()
+if(KSBA_FOUND)
+  list(APPEND optional_peers PkgConfig::KSBA)
+else()
+  list(REMOVE_ITEM sources ${PROJECT_SOURCE_DIR}/bench/messages/ksba.cpp)
 endif()
 if(MBEDX509_LIBRARY)
   list(APPEND optional_peers ${MBEDX509_LIBRARY})

@@ -8,7 +8,7 @@ packages="g++ cmake ninja-build pkg-config python3 rapidjson-dev libboost-dev li
 googletest openssl libssl-dev gpgsm gpg-agent gnutls-bin ca-certificates jq tzdata"
 case "${1:-}" in
   bench) packages="$packages libbenchmark-dev libmbedtls-dev libbotan-2-dev libtasn1-6-dev
-libtasn1-bin libgnutls28-dev heimdal-multidev" ;;
+libtasn1-bin libgnutls28-dev libksba-dev heimdal-multidev" ;;
   fuzz) packages="$packages clang libclang-rt-dev" ;;
   lint) packages="$packages clang-tidy cppcheck" ;;
 esac

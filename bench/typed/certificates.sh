@@ -1,5 +1,6 @@
 #!/bin/sh
-# Makes the certificates and requests of the benchmarks with the openssl command.
+# Makes the certificates and requests of the benchmarks with the openssl command, and the signers of
+# messages with their keys.
 #   bench/typed/certificates.sh FOLDER
 # Writes NNN.csr and NNN.crt, DER: 200 requests that ask for extensions, and what an authority with an
 # EC key makes of them. Most are like those of servers; every tenth is of an authority, with the
@@ -91,4 +92,15 @@ END
     -extfile one.cnf -extensions certificate -outform DER -out "$name.crt" 2>/dev/null
   number=$((number + 1))
 done
+
+signer() {
+  name=$1
+  shift
+  openssl req -x509 "$@" -nodes -keyout "$name.key" -out "$name.pem" -config ca.cnf -days 3650 \
+    -subj "/C=GB/O=Example Company/OU=Mail/CN=Example Signer" \
+    -addext "authorityKeyIdentifier = keyid, issuer" -addext "keyUsage = critical, digitalSignature" \
+    -addext "subjectAltName = email:signer@example.org" 2>/dev/null
+}
+signer signer-rsa -newkey rsa:2048
+signer signer-ec -newkey ec -pkeyopt ec_paramgen_curve:P-256
 rm -f ca.cnf one.cnf ca.key ca.pem
