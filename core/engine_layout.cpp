@@ -14,7 +14,8 @@ namespace quarn::asn1 {
 
 namespace {
 
-// Where the records of a try go that may fail.
+// Where the records of a try go that may fail. One of a failure for want of memory is the first, or
+// finds none itself.
 class Trial {
  public:
   Trial() : ctx_(quarn_err_ctx_new()) {}
@@ -24,8 +25,8 @@ class Trial {
 
   quarn_err_ctx *ctx() const { return ctx_; }
   bool short_of_memory() const {
-    return ctx_ == nullptr || (quarn_err_ctx_count(ctx_) > 0 &&
-                               quarn_err_ctx_get(ctx_, 0)->code == QUARN_ERROR_NO_MEMORY);
+    return quarn_err_ctx_count(ctx_) == 0 ||
+           quarn_err_ctx_get(ctx_, 0)->code == QUARN_ERROR_NO_MEMORY;
   }
 
  private:
@@ -48,17 +49,18 @@ Status read_view(const Type &layout, Reader &in, void **view) {
 
 Status lay_out(const Type &type, Reader &in, void *value) {
   const Scratch scratch(in.ctx());
-  const Status status = write_elements(type, scratch, value, in.ctx());
+  Status status = write_elements(type, scratch, value, in.ctx());
   if (!status) return status;
   const Type &layout = *type.schema->layout;
   Value view(layout);
   const Trial trial;
   Reader octets(scratch.data(), scratch.size(), trial.ctx());
-  const bool fits = read_view(layout, octets, view.out()).ok() && octets.left() == 0;
-  if (!fits && trial.short_of_memory()) {
+  status = read_view(layout, octets, view.out());
+  if (status.raw() == QUARN_ERROR_RECURSION) return status;
+  if (!status && trial.short_of_memory()) {
     return type.schema->unit.fail(in.ctx(), QUARN_ERROR_NO_MEMORY, in.offset());
   }
-  if (fits) components(value)[1] = view.release();
+  if (status && octets.left() == 0) components(value)[1] = view.release();
   return Status::success();
 }
 

@@ -84,7 +84,7 @@ TEST(Containers, what_was_signed_is_as_it_was_received) {
   quarn_ocsp_ocsprequest_gettbsocts(request, reinterpret_cast<std::uint8_t *>(octets.data()),
                                     &length);
   EXPECT_EQ(octets, from_hex(body));
-  EXPECT_EQ(quarn_asn1_forget_octets(QUARN_ASN1_OCSP_OCSPREQUEST, request), 1);
+  quarn_asn1_forget_octets(QUARN_ASN1_OCSP_OCSPREQUEST, request);
   EXPECT_EQ(encoding_of(QUARN_ASN1_OCSP_OCSPREQUEST, request), hex("30 04 30 02 30 00"));
 }
 
@@ -100,6 +100,7 @@ TEST(Containers, elements_show_the_inferred_layout_or_nothing) {
     g.makes("whole", QUARN_ASN1_ENVELOPEDKEYPAIR, quarn_envelopedkeypair_new(g.integer(), inner),
             "30 10 " + kNumber + "A0" + rsa.substr(2));
     if (allocation.failed()) return;
+    allocation.never_fail();
     EXPECT_EQ(quarn_innerenvelopedkeypair_gettype(inner), 0u);
     EXPECT_EQ(quarn_innerenvelopedkeypair_getsm2(inner), nullptr);
     const quarn_rsaenvelopedkeypair *shown = quarn_innerenvelopedkeypair_getrsa(inner);
