@@ -14,8 +14,8 @@ namespace {
 // Ids of types that this version has, from and to; a type whose notation were lost would otherwise
 // go unnoticed.
 constexpr std::int64_t kStructured[][2] = {
-    {28, 89},   {91, 92},   {99, 215},  {217, 217}, {219, 224},
-    {245, 246}, {250, 250}, {252, 260}, {277, 291}, {299, 300},
+    {28, 89},   {91, 92},   {99, 215},  {217, 217}, {219, 224}, {245, 246},
+    {250, 250}, {252, 260}, {277, 293}, {299, 301}, {355, 355}, {401, 401},
 };
 
 TEST(Structure, every_row_has_two_samples) {
