@@ -2,27 +2,13 @@
 #ifndef QUARN_TESTS_UNIT_GIVEN_H
 #define QUARN_TESTS_UNIT_GIVEN_H
 
-#include <gtest/gtest.h>
-
+#include <deque>
 #include <string>
-#include <utility>
-#include <vector>
 
-#include "quarn_asn1.h"
 #include "tests/support/allocation.h"
-#include "tests/support/json.h"
+#include "tests/unit/values.h"
 
 namespace quarn::test {
-
-inline std::string hex(const std::string &with_blanks) {
-  return to_hex(from_hex(with_blanks));
-}
-
-inline std::string encoding_of(std::int64_t type, const void *value) {
-  const Blob blob(quarn_asn1_mem_encode(type, const_cast<void *>(value)));
-  if (blob == nullptr) return "null";
-  return to_hex({reinterpret_cast<const char *>(blob->data), static_cast<size_t>(blob->length)});
-}
 
 // A pointer to whatever type is asked for.
 struct Lent {
@@ -37,31 +23,18 @@ struct Lent {
 class Given {
  public:
   explicit Given(const Allocation *allocation = nullptr) : allocation_(allocation) {}
-  Given(const Given &) = delete;
-  Given &operator=(const Given &) = delete;
-  ~Given() {
-    for (const auto &[type, value] : owned_) quarn_asn1_value_free(type, value);
-  }
 
-  // The value that some hex encodes; null when it does not decode.
-  Lent operator()(std::int64_t type, const std::string &encoding) {
-    const std::string octets = from_hex(encoding);
-    void *value = nullptr;
-    quarn_asn1_mem_decode(reinterpret_cast<const std::uint8_t *>(octets.data()),
-                          static_cast<std::int64_t>(octets.size()), type, &value);
-    return own(type, value);
+  // The value that some octets encode; null when they do not decode.
+  Lent operator()(std::int64_t type, const std::string &octets) {
+    return {owned_.emplace_back(type, octets.c_str()).get()};
   }
-  Lent own(std::int64_t type, void *value) {
-    owned_.emplace_back(type, value);
-    return {value};
-  }
+  Lent own(std::int64_t type, void *value) { return {owned_.emplace_back(type, value).get()}; }
 
-  // A constructor has made a value of some encoding, or "null", unless memory was short.
+  // A constructor has made a value of some encoding, or none of "", unless memory was short.
   void makes(const char *what, std::int64_t type, void *value, const std::string &encoding) {
-    own(type, value);
-    const std::string made = encoding_of(type, value);
+    const Octets made = owned_.emplace_back(type, value).encoding();
     if (allocation_ != nullptr && allocation_->failed()) return;
-    EXPECT_EQ(made, encoding == "null" ? "null" : hex(encoding)) << what;
+    EXPECT_EQ(made, hex(encoding)) << what;
   }
 
   Lent oid() { return (*this)(QUARN_ASN1_OID, "06 01 2A"); }
@@ -72,20 +45,14 @@ class Given {
   Lent octets(const std::string &encoding = "04 01 41") {
     return (*this)(QUARN_ASN1_OCTETSTRING, encoding);
   }
-  Lent any(const std::string &encoding = "05 00") { return (*this)(QUARN_ASN1_ANY, encoding); }
-  Lent nothing() { return any("00 00"); }
-  Lent list(std::int64_t type, const std::string &encoding = "30 00") {
-    return (*this)(type, encoding);
-  }
-  Lent contexts() { return list(QUARN_ASN1_X500CONTEXTLIST, "31 00"); }
-  Lent names() { return list(QUARN_ASN1_X509GENERALNAMES); }
+  Lent any() { return (*this)(QUARN_ASN1_ANY, "05 00"); }
+  Lent names() { return (*this)(QUARN_ASN1_X509GENERALNAMES, "30 00"); }
   Lent name() { return (*this)(QUARN_ASN1_X500NAME, "30 00"); }
-  Lent general_name() { return (*this)(QUARN_ASN1_X509GENERALNAME, "82 01 61"); }
   Lent algorithm() { return (*this)(QUARN_ASN1_X509ALGORITHMID, "30 03 06 01 2A"); }
 
  private:
   const Allocation *allocation_;
-  std::vector<std::pair<std::int64_t, void *>> owned_;
+  std::deque<Held> owned_;
 };
 
 }  // namespace quarn::test

@@ -31,7 +31,8 @@ def field(definition, component):
     if component.tag is not None:
         notes.append(f"{component.tag[1]}_tag({component.tag[0]})")
     if component.presence == "optional":
-        notes.append("optional_exact()" if component.notes.get("form") == "exact" else "optional()")
+        exact = component.notes.get("form") == "exact"
+        notes.append("content()" if "content" in component.notes else "optional_exact()" if exact else "optional()")
     elif isinstance(component.default, bytes):
         notes.append(f"default_encoding({default_constant(definition, component)})")
     elif component.presence == "default":
@@ -66,8 +67,10 @@ def schema(definition, variant, unit, array):
     arguments = [f'"{definition.name}"', unit, array]
     if definition.at_least:
         arguments.append("at_least(1)")
-    if definition.kind == "choice" and not definition.is_strings and definition.first:
+    if definition.first:
         arguments.append(f"numbered_from({definition.first})")
+    if definition.by_tag:
+        arguments.append("numbered_by_tag()")
     if "keep" in notes:
         arguments.append(f"keep_{notes['keep'].replace('alone', '_alone')}()")
     if "check" in variant.notes:
