@@ -208,7 +208,7 @@ constexpr notation::Occurrence content() {
   return {Presence::content, 0};
 }
 constexpr notation::Occurrence defaults_to(bool value) {
-  return {Presence::default_boolean, value};
+  return {Presence::default_boolean, static_cast<std::int8_t>(value)};
 }
 constexpr notation::Occurrence defaults_to(int value) {
   return {Presence::default_integer, static_cast<std::int8_t>(value)};
