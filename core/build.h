@@ -31,6 +31,9 @@ void *build_alternative(quarn_asn1_type_id type, std::uint64_t number, const voi
 void *build_null_alternative(quarn_asn1_type_id type, std::uint64_t number);
 void *alternative_of(quarn_asn1_type_id type, const void *value, std::uint64_t number);
 void *part_of(const void *value, std::size_t index);
+// Of a type whose layout is inferred: the record that the getters look into, null for what is laid
+// out otherwise. CHOICEs find it themselves.
+const void *inferred_layout(const void *value);
 
 template <typename T, typename... Parts>
 T *build(quarn_asn1_type_id type, const Parts *...parts) {

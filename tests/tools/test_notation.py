@@ -13,7 +13,8 @@ TAGS = {9: 12, 11: 19}
 STRUCTURED = {100: ("point", "Point", 16, "constructed"), 101: ("points", "Points", 16, "constructed"),
               102: ("shape", "shape", 0, "either"), 103: ("name", "name", 0, "either"),
               104: ("bag", "bag", 17, "constructed"), 105: ("spot", "Point", 16, "constructed"),
-              106: ("odd", "odd", 0, "either"), 107: ("short", "name", 0, "either")}
+              106: ("odd", "odd", 0, "either"), 107: ("short", "name", 0, "either"),
+              108: ("vague", "vague", 16, "constructed"), 109: ("dim", "dim", 0, "either")}
 
 
 def registry():

@@ -26,6 +26,8 @@ class Catalogue:
 
     def standard(self, definition):
         """Where a type is defined: what its own text says, or else the head of its module."""
+        if "layout" in definition.notes:  # nothing public defines it
+            return ""
         for lines in (definition.text, self.module_of[definition.name].head):
             found = STANDARD.search(" ".join(lines))
             if found:

@@ -1,0 +1,189 @@
+#!/usr/bin/env python3
+"""Makes keys, parameters, PKCS #12 files, OCSP and time-stamps with openssl: a folder for each type, named after it,
+also of what lies inside them and an OBJECT IDENTIFIER tells the type of.
+
+    containers.py FOLDER
+"""
+
+import pathlib
+import shutil
+import sys
+
+import der
+
+KEYS = {
+    "rsa": "genpkey -algorithm RSA -pkeyopt rsa_keygen_bits:2048",
+    "three": "genpkey -algorithm RSA -pkeyopt rsa_keygen_bits:2048 -pkeyopt rsa_keygen_primes:3",
+    "pss": "genpkey -algorithm RSA-PSS -pkeyopt rsa_keygen_bits:1024 -pkeyopt rsa_pss_keygen_md:sha256",
+    "ec": "genpkey -algorithm EC -pkeyopt ec_paramgen_curve:P-256",
+    "explicit": "genpkey -algorithm EC -pkeyopt ec_paramgen_curve:P-384 -pkeyopt ec_param_enc:explicit",
+    "sm2": "genpkey -algorithm SM2", "ed25519": "genpkey -algorithm ED25519", "x448": "genpkey -algorithm X448",
+    "dsa": "genpkey -paramfile dsa.params", "dh": "genpkey -algorithm DH -pkeyopt group:ffdhe2048",
+}
+CURVES = "secp256r1 sect163k1 brainpoolP256r1 SM2"
+CIPHERS = ["-v2 aes-256-cbc", "-v2 aes-128-cbc -v2prf hmacWithSHA1", "-v2 des3 -v2prf hmacWithSHA512", "-scrypt",
+           "-v1 PBE-SHA1-3DES", "-v1 PBE-MD5-DES -provider legacy -provider default",
+           "-v2 rc2-cbc -provider legacy -provider default"]
+FILES = ["", "-nomac", "-keypbe NONE -certpbe NONE", "-keypbe PBE-SHA1-3DES -certpbe PBE-SHA1-3DES -macalg sha1",
+         "-certfile rsa.pem -name one -caname two -CSP three -keyex", "-maciter -iter 1", "-nokeys", "-nocerts"]
+QUERIES = ["", "-cert", "-cert -no_nonce -sha512", "-tspolicy 1.2.3", "-sha1"]
+REPLIES = ["sha256 ess_cert_id_chain = yes", "sha1 accuracy = secs:1, millisecs:500, microsecs:100",
+           "sha512 ordering = yes", "sha256 clock_precision_digits = 3", "sha384 tsa_name = yes"]
+TSA = """[tsa]
+serial = serial
+digests = sha1, sha256, sha384, sha512
+signer_digest = sha256
+default_policy = 1.2.3.4
+other_policies = 1.2.3
+ess_cert_id_alg = {}
+{}
+"""
+INDEX = "V\t300101000000Z\t\t01\tunknown\t/CN=x\nR\t300101000000Z\t240101120000Z,keyCompromise\t02\tunknown\t/CN=y\n"
+
+
+def recipes():
+    """Type and command that writes its encoding to standard output."""
+    for key in KEYS:
+        yield "pkcs8privatekeyinfo", f"pkcs8 -topk8 -nocrypt -in {key}.key -outform DER"
+    for key in ("rsa", "three"):
+        yield "pkcs1rsaprivkey", f"rsa -in {key}.key -traditional -outform DER"
+        yield "pkcs1rsapubkey", f"rsa -in {key}.key -RSAPublicKey_out -outform DER"
+    for cipher in CIPHERS:
+        yield "pkcs8encprivatekeyinfo", f"pkcs8 -topk8 -in ec.key -passout pass:a -outform DER {cipher}"
+    for key in ("ec", "explicit", "sm2"):
+        yield "ecprivatekey", f"ec -in {key}.key -outform DER"
+    for curve in CURVES.split():
+        for way in ("named_curve", "explicit"):
+            yield "ecpkparameters", f"ecparam -name {curve} -param_enc {way} -outform DER"
+    yield "dssparams", "dsaparam -in dsa.params -outform DER"
+    yield "pkcs3dhpraram", "dhparam -in dh.params -outform DER"
+    yield "pkcs3dhpraram", "dhparam -dsaparam -outform DER 512"
+    for way in FILES:
+        yield "pkcs12pfx", f"pkcs12 -export -in ec.pem -inkey ec.key -passout pass:a {way}"
+    for key, kind in (("ec", "ecdsasigvalue"), ("dsa", "dsssigvalue")):
+        yield kind, f"dgst -sha256 -sign {key}.key text"
+    yield "ecdsasigvalue", "pkeyutl -sign -rawin -digest sm3 -inkey sm2.key -in text"
+    yield "sm2cipher", "pkeyutl -encrypt -inkey sm2.key -in text"
+    for way in ("", "-no_nonce", "-signer rsa.pem -signkey rsa.key", "-signer ec.pem -signkey ec.key -no_certs"):
+        yield "ocsp_ocsprequest", f"ocsp -issuer ec.pem -serial 1 -serial 2 -serial 3 -reqout /dev/stdout {way}"
+    for way in ("", "-resp_key_id", "-resp_no_certs", "-ndays 1", "-badsig"):
+        yield "ocsp_ocspresponse", ("ocsp -index index -CA ec.pem -rsigner rsa.pem -rkey rsa.key -reqin request"
+                                    f" -respout /dev/stdout {way}")
+    for way in QUERIES:
+        yield "tsp_timestampreq", f"ts -query -data text {way}"
+    for number in range(len(REPLIES)):
+        yield "tsp_timestampresp", f"ts -reply -queryfile query -config tsa{number} -section tsa -signer tsa.pem -inkey ec.key"
+    yield "tsp_timestampresp", "ts -reply -queryfile refused -config tsa0 -section tsa -signer tsa.pem -inkey ec.key"
+    yield "pkcs7contentinfo", ("cms -sign -in text -outform DER -signer rsa.pem -inkey rsa.key -cades"
+                               " -keyopt rsa_padding_mode:pss")
+    yield "pkcs7contentinfo", ("cms -encrypt -in text -outform DER -recip rsa.pem -keyopt rsa_padding_mode:oaep"
+                               " -keyopt rsa_oaep_md:sha256 -keyopt rsa_oaep_label:0A0B -aes256")
+
+
+# The types of what stands behind these OBJECT IDENTIFIERs.
+BEHIND = {
+    "1.2.840.113549.1.1.7": "pkcs1rsaesoaepprarams",
+    "1.2.840.113549.1.1.10": "pkcs1rsassapssprarams", "1.2.840.113549.1.3.1": "pkcs3dhpraram",
+    "1.2.840.113549.1.5.3": "pkcs5pbeparam", "1.2.840.113549.1.5.12": "pkcs5pbkdf2params",
+    "1.2.840.113549.1.5.13": "pkcs5pbes2params", "1.2.840.113549.1.12.1.3": "pkcs12pbeparams",
+    "1.2.840.113549.3.2": "pkcs5rc2cbcparameter", "1.2.840.10045.2.1": "ecpkparameters",
+    "1.2.840.10040.4.1": "dssparams", "1.2.840.113549.1.12.10.1.1": "pkcs8privatekeyinfo",
+    "1.2.840.113549.1.12.10.1.2": "pkcs8encprivatekeyinfo", "1.2.840.113549.1.12.10.1.3": "pkcs12certbag",
+    "1.3.6.1.5.5.7.48.1.1": "ocsp_basicocspresponse", "1.2.840.113549.1.9.16.1.4": "tsp_tstinfo",
+    "1.2.840.113549.1.9.16.2.12": "ess_signingcertificate", "1.2.840.113549.1.9.16.2.47": "ess_signingcertificatev2",
+    "1.2.840.113549.1.9.15": "smimecapabilities",
+}
+BEHIND = {der.oid(oid): kind for oid, kind in BEHIND.items()}
+HOLDERS = (0x04, 0x31, 0xA0)  # an OCTET STRING, a SET of one value, an explicit tag
+
+
+def elements(octets):
+    """The elements that some octets are, or none when they are something else."""
+    try:
+        found = der.Element(der.wrap(0x30, octets)).parts()
+        return found if sum(len(each.octets) for each in found) == len(octets) else []
+    except IndexError:
+        return []
+
+
+def inside(element):
+    """Type and octets of each value in an element that an OBJECT IDENTIFIER stands before."""
+    parts = elements(element.content) if element.identifier & 0x20 or element.identifier == 4 else []
+    if len(parts) > 1 and parts[0].octets in BEHIND:
+        value, kind = parts[1], BEHIND[parts[0].octets]
+        while value.identifier in HOLDERS and elements(value.content):
+            value = elements(value.content)[0]
+        if value.identifier == 0x30 or kind == "ecpkparameters":  # a capability of RC2 is a number
+            yield kind, value.octets
+    for part in parts:
+        yield from inside(part)
+
+
+def safes(file):
+    """What a PKCS #12 file holds that is not encrypted."""
+    safe = der.Element(elements(elements(elements(file.parts()[1].octets)[0].content)[1].content)[0].content)
+    yield "pkcs12authsafe", safe.octets
+    yield from (("pkcs12macdata", part.octets) for part in file.parts()[2:])
+    for info in safe.parts():
+        content = elements(info.parts()[1].content)[0]
+        if content.identifier == 4:
+            yield "pkcs12safebags", content.content
+            yield from (("pkcs12safebag", bag.octets) for bag in der.Element(content.content).parts())
+
+
+def prepare(work):
+    def openssl(command):
+        der.openssl(*command.split(), cwd=work)
+    (work / "text").write_text("some text")
+    (work / "serial").write_text("0A")
+    (work / "index").write_text(INDEX)
+    (work / "config").write_text("[req]\ndistinguished_name = person\n[person]\n[v3]\nbasicConstraints = CA:TRUE\n"
+                                 "[stamps]\nextendedKeyUsage = critical, timeStamping\n")
+    for number, words in enumerate(REPLIES):
+        digest, _, line = words.partition(" ")
+        (work / f"tsa{number}").write_text(TSA.format(digest, line))
+    openssl("genpkey -genparam -algorithm DSA -pkeyopt dsa_paramgen_bits:1024 -out dsa.params")
+    openssl("genpkey -genparam -algorithm DH -pkeyopt group:ffdhe2048 -out dh.params")
+    for key, command in KEYS.items():
+        openssl(f"{command} -out {key}.key")
+    for name, key, section in (("rsa", "rsa", "v3"), ("ec", "ec", "v3"), ("tsa", "ec", "stamps")):
+        openssl(f"req -x509 -new -key {key}.key -config config -extensions {section} -subj /CN={name} -out {name}.pem")
+    openssl("ocsp -issuer ec.pem -serial 1 -serial 2 -serial 3 -reqout request")
+    openssl("ts -query -data text -cert -out query")
+    openssl("ts -query -data text -tspolicy 1.2.3.5 -out refused")
+
+
+def make(folder):
+    work = folder / "work"
+    work.mkdir(parents=True)
+    prepare(work)
+    files = {}
+    for kind, command in recipes():
+        try:
+            octets = der.openssl(*command.split(), cwd=work)
+        except RuntimeError as error:
+            print(str(error).splitlines()[0])  # what this openssl cannot do
+            continue
+        whole = der.Element(octets)
+        assert whole.octets == octets, command
+        files.setdefault(octets, kind)
+        for inner, held in [*inside(whole), *(safes(whole) if kind == "pkcs12pfx" else [])]:
+            files.setdefault(held, inner)
+    for number, (octets, kind) in enumerate(files.items()):
+        (folder / kind).mkdir(exist_ok=True)
+        (folder / kind / f"{number}.der").write_bytes(octets)
+    shutil.rmtree(work)
+    (folder / "done").touch()
+    return len(files)
+
+
+def main(folder):
+    folder = pathlib.Path(folder)
+    done = folder / "done"
+    if not done.exists() or done.stat().st_mtime < pathlib.Path(__file__).stat().st_mtime:
+        shutil.rmtree(folder, ignore_errors=True)
+        print(f"containers: {make(folder)} files")
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])
