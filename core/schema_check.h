@@ -44,6 +44,12 @@ class SchemaCheck {
     return row(field).tag_number != 0 || row(field).tag_class != kUniversal;
   }
 
+  // A CHOICE begins with those of its alternatives.
+  constexpr bool begins_with_known_tag(const Field &field) const {
+    const Schema *schema = row(field).schema;
+    return has_own_tag(field) || (schema != nullptr && schema->is_choice());
+  }
+
   constexpr bool sound(const Field &field) const {
     const bool replaces_tag = field.tagging == Tagging::implicit ||
                               field.tagging == Tagging::implicit_primitive ||
@@ -143,7 +149,8 @@ class SchemaCheck {
   constexpr bool distinct(std::span<const Field> alternatives) const {
     for (std::size_t i = 0; i < alternatives.size(); i++) {
       const Field &a = alternatives[i];
-      if (!a.mandatory() || (a.tagging == Tagging::plain && !has_own_tag(a))) return false;
+      if (!a.mandatory() || (a.tagging == Tagging::plain && !begins_with_known_tag(a)))
+        return false;
       for (std::size_t next = i + 1; next < alternatives.size(); next++) {
         if (clash(a, alternatives[next])) return false;
       }
