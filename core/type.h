@@ -54,8 +54,9 @@ struct Type {
   int decode_error() const { return error_code + 1; }
 };
 
-// The rows, by id. Defined on the top floor, in modules/.
-extern const Type kTypes[QUARN_ASN1_TYPE_COUNT];
+// The rows, by id, and behind them those of types that only stand inside others and that callers
+// have no id for. Defined on the top floor, in modules/.
+extern const Type kTypes[];
 
 // The row of an id, or null when there is none.
 inline const Type *find_type(std::int64_t id) {

@@ -1,5 +1,7 @@
-// The array of all rows, put together on the top floor: the core only declares it, with the number
-// of rows that it must have, so that nothing below depends on the modules.
+// The array of all rows, put together on the top floor: the core only declares it, so that nothing
+// below depends on the modules.
+#include <iterator>
+
 #include "core/schema_check.h"
 #include "core/type.h"
 #include "modules/own.h"
@@ -20,6 +22,7 @@ namespace {
 
 #include "modules/gen/registry.inc"
 
+static_assert(std::size(kTypes) >= QUARN_ASN1_TYPE_COUNT);
 static_assert(all_well_formed(kTypes));
 
 }  // namespace quarn::asn1

@@ -13,15 +13,17 @@ TAGS = {9: 12, 11: 19}
 STRUCTURED = {100: ("point", "Point", 16, "constructed"), 101: ("points", "Points", 16, "constructed"),
               102: ("shape", "shape", 0, "either"), 103: ("name", "name", 0, "either"),
               104: ("bag", "bag", 17, "constructed"), 105: ("spot", "Point", 16, "constructed"),
-              106: ("odd", "odd", 0, "either"), 107: ("short", "name", 0, "either")}
+              106: ("odd", "odd", 0, "either"), 107: ("short", "name", 0, "either"),
+              108: ("done", "done", 3, "constructed"), 109: ("stop", "u2", 4, "primitive")}
 
 
 def registry():
     made = []
     for number in range(110):
         name, stem, tag, form = STRUCTURED.get(number, (f"u{number}", f"u{number}", TAGS.get(number, number), "primitive"))
-        codec = "-" if number in STRUCTURED else "own"
-        made.append(model.Row(number, name, stem, tag, "universal", form, 0x10200, codec))
+        codec = "-" if number in STRUCTURED and number != 109 else "own"
+        tag_class = "application" if number >= 108 else "universal"
+        made.append(model.Row(number, name, stem, tag, tag_class, form, 0x10200 + number, codec))
     return made
 
 
@@ -40,6 +42,7 @@ POINT = """
 --- A place.
 --@ type id=100 prefix=pt
 --@ also id=105 check=kSpot
+--@ also id=108
 Point ::= SEQUENCE {
     x          INTEGER,
     y-Axis     [0] EXPLICIT INTEGER DEFAULT 7,                --@ get=height
@@ -94,8 +97,18 @@ class Output(unittest.TestCase):
         self.has(api.bodies(gaps), "choice_part<void>(QUARN_ASN1_SHAPE, value, 3)")
         point = modules[0].definitions[0]
         self.assertEqual([rows.registry_reference(point, variant) for variant in point.variants],
-                         ["&kRecordCodec, &kPointSchema", "&kRecordCodec, &kPoint105Schema"])
+                         ["&kRecordCodec, &kPointSchema", "&kRecordCodec, &kPoint105Schema", "&kRecordCodec, &kPointSchema"])
         self.assertEqual(rows.own(modules), "extern const Restriction kSpot;\n")
+
+    def test_a_type_without_an_id(self):
+        made = resolved(POINT, "--- In.\n--@ inner of=101\nIn ::= CHOICE {\nstop INTEGER, --@ id=109\ndone Point --@ id=108\n}\n"
+                        "--- T.\n--@ type id=101\nT ::= SEQUENCE {\nin In --@ get=none\n}")
+        self.has(rows.rows(made[1]), 'field("stop", QUARN_ASN1_STOP)', "kInAlternatives, numbered_by_tag());",
+                 'field("in", kInType)')
+        self.has(rows.own(made), "constexpr auto kInType = static_cast<quarn_asn1_type_id>(110);\n")
+        self.assertEqual(made[1].definitions[0].row.code, 0x10200 + 101)
+        self.has(api.header(made[1], made), "It has no type id. Its alternatives: 4 stop (QUARN_ASN1_STOP), 3 done (QUARN_ASN1_DONE).")
+        self.assertNotIn("quarn_In", api.bodies(made[1]) + api.header(made[1], made))
 
     def test_accessors(self):
         modules = resolved(POINT, SHAPE)
@@ -117,7 +130,7 @@ class Output(unittest.TestCase):
         text = api.header(modules[0], modules)
         self.has(text, " * A place.\n *\n *     Point ::= SEQUENCE {\n *         x          INTEGER,\n",
                  " *         dNSName    [1] IMPLICIT OCTET STRING OPTIONAL,\n",
-                 "Type ids QUARN_ASN1_POINT (100), QUARN_ASN1_SPOT (105).", "typedef struct quarn_pt quarn_pt;",
+                 "Type ids QUARN_ASN1_POINT (100), QUARN_ASN1_SPOT (105), QUARN_ASN1_DONE (108, [APPLICATION 3]).", "typedef struct quarn_pt quarn_pt;",
                  "/** Moves it away. */\nQUARN_ASN1_API int quarn_pt_move(quarn_pt *value, const quarn_asn1_integer *by);",
                  "A quarn_asn1_list of Point (quarn_pt).", "\n * From its components. Null leaves out dns_name and new_, and stands for the default of")
         text = api.header(modules[1], modules)
@@ -167,6 +180,9 @@ class Mistakes(unittest.TestCase):
                 ("T is a SEQUENCE of universal tag 16; row 104 of modules/registry.tsv has universal tag 17",
                  "--- T.\n--@ type id=104\nT ::= SEQUENCE { x INTEGER }"),
                 ("row 106 of modules/registry.tsv has", "--- T.\n--@ type id=106\nT ::= SEQUENCE { x INTEGER }"),
+                ("id 4 is no row of INTEGER", "--- T.\n--@ type id=100\nT ::= SEQUENCE {\nx INTEGER --@ id=4\n}"),
+                ("i has no type id: it is mandatory",
+                 "--- T.\n--@ type id=101\nT ::= SEQUENCE { i I }\n--- I.\n--@ inner of=101\nI ::= CHOICE { x NULL }"),
                 ("id 2 has the codec 'own'", "--- T.\n--@ type id=2\nT ::= SEQUENCE { x INTEGER }"),
                 ("there is no id 999", "--- T.\n--@ type id=999\nT ::= SEQUENCE { x INTEGER }"),
                 ("two components are called x", "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER, x NULL }"),
@@ -188,7 +204,7 @@ class Mistakes(unittest.TestCase):
         self.stops("Point is also defined in", POINT, "--- T.\n--@ type id=101\nPoint ::= SEQUENCE { x INTEGER }")
         self.stops("id 100 is no row of Bag", POINT,
                    "--- T.\n--@ type id=101\nT ::= SEQUENCE {\nx Bag --@ id=100\n}")
-        self.stops("has the stem Point of Point", POINT.replace("--@ also id=105 check=kSpot\n", "").replace(
+        self.stops("has the stem Point of Point", POINT.replace("--@ also id=105 check=kSpot\n--@ also id=108\n", "").replace(
             "--@ id=105", ""), "--- T.\n--@ type id=105\nT ::= SEQUENCE { x INTEGER }")
         self.assertIn("typedef struct quarn_name quarn_short;", api.section(resolved(POINT, SHAPE)[1].definitions[2]))
 

@@ -3,6 +3,8 @@
 import difflib
 import re
 
+from .model import Row
+
 BUILTIN = {
     "BOOLEAN": (1, "boolean"), "INTEGER": (2, "integer"), "BIT STRING": (3, "bitstring"),
     "OCTET STRING": (4, "octetstring"), "NULL": (5, None), "OBJECT IDENTIFIER": (6, "oid"),
@@ -24,7 +26,7 @@ class Resolver:
     """Fills in rows, C types and numbers of all modules, or stops at the first mistake."""
 
     def __init__(self, rows, modules):
-        self.rows = rows
+        self.rows = [*rows]
         self.modules = modules
         self.by_name = {}
         self.by_id = {}
@@ -55,6 +57,8 @@ class Resolver:
         if other is not definition:
             definition.fail(f"{definition.name} is also defined in {other.path}:{other.line}")
         for variant in definition.variants:
+            if variant.id is None:
+                self.add_row(definition, variant)
             if variant.id >= len(self.rows):
                 definition.fail(f"there is no id {variant.id} in modules/registry.tsv", variant.line)
             variant.row = self.rows[variant.id]
@@ -66,13 +70,24 @@ class Resolver:
                                 "a row with a notation has '-' there", variant.line)
             self.form(definition, variant)
             variant.prefix = variant.notes.get("prefix", "")
-        if not definition.variants[0].prefix:
+        if not definition.variants[0].prefix and not definition.is_inner:
             definition.variants[0].prefix = definition.row.name
+
+    def add_row(self, definition, variant):
+        """A row behind those of the registry. Failures have the code of the row that it is inside."""
+        around = variant.notes["of"]
+        if definition.kind != "choice" or around >= len(self.rows):
+            definition.fail("inner is for a CHOICE inside a row of modules/registry.tsv", variant.line)
+        variant.id = len(self.rows)
+        self.rows.append(Row(variant.id, definition.constant[1:], definition.name, 0, "universal", "either",
+                             self.rows[around].code, "-", True))
 
     @staticmethod
     def form(definition, variant):
         row = variant.row
         actual = (row.tag_class, row.tag)
+        if row.tag_class == "application" and variant is not definition.variants[0]:
+            actual = (definition.row.tag_class, definition.row.tag)  # the row tells the tag
         if definition.kind == "choice":
             wanted = ("universal", 0)
         else:
@@ -93,7 +108,8 @@ class Resolver:
             if variant is definition.variants[0]:
                 definition.owner = owner
         bare = definition.is_list and "keep" not in definition.notes and "codec" not in definition.notes
-        definition.struct = "quarn_asn1_list" if bare else f"quarn_{definition.variants[0].prefix}"
+        definition.struct = ("void" if definition.is_inner else "quarn_asn1_list" if bare
+                             else f"quarn_{definition.variants[0].prefix}")
 
     @staticmethod
     def sharing(definition):
@@ -122,8 +138,9 @@ class Resolver:
         if name in BUILTIN:
             number, c_name = BUILTIN[name]
             component.c_type = f"quarn_asn1_{c_name}" if c_name else "void"
-            if wanted is not None:
-                definition.fail(f"id= is for definitions with several rows, not for {name}", component.line)
+            if wanted is not None and self.rows[wanted].stem != self.rows[number].stem:
+                definition.fail(f"id {wanted} is no row of {name}", component.line)
+            number = number if wanted is None else wanted
         else:
             target = self.by_name.get(name)
             if target is None:
@@ -135,6 +152,8 @@ class Resolver:
                 definition.fail(f"id {number} is no row of {name}", component.line)
             component.c_type = target.struct
         component.row = self.rows[number]
+        if component.row.inner and (component.tag or component.presence != "mandatory" or component.part):
+            definition.fail(f"{component.name} has no type id: it is mandatory, without a tag, and get=none", component.line)
         self.tagging(definition, component)
         self.presence(definition, component)
 

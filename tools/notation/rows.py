@@ -92,11 +92,13 @@ def rows(module):
 
 
 def own(modules):
-    """What the notation takes from the modules' sources: codecs and checks."""
-    codecs, checks = set(), set()
+    """What the notation takes from the modules' sources, codecs and checks, and what it gives them: ids."""
+    codecs, checks, ids = set(), set(), ""
     for module in modules:
         for definition in module.definitions:
             codecs |= {variant.notes["codec"] for variant in definition.variants if "codec" in variant.notes}
             checks |= {variant.notes["check"] for variant in definition.variants if "check" in variant.notes}
-    return "".join([f"extern const Codec {name};\n" for name in sorted(codecs)] +
+            if definition.is_inner:
+                ids += f"constexpr auto {definition.row.constant} = static_cast<quarn_asn1_type_id>({definition.row.id});\n"
+    return ids + "".join([f"extern const Codec {name};\n" for name in sorted(codecs)] +
                    [f"extern const Restriction {name};\n" for name in sorted(checks)])
