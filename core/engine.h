@@ -73,7 +73,7 @@ void drop_kept(const Type &type, void *value);
 const Kept *body_of(const Type &type, void *value);
 
 // What a value keeps: its encoding, and behind that, of a signed object, its body. The type must be
-// one that keeps octets.
+// one that keeps octets; of one that keeps its body alone, the first is never valid.
 inline Kept *kept_by(const Schema &schema, void *value) {
   return reinterpret_cast<Kept *>(components(value) + schema.fields.size());
 }
@@ -102,6 +102,8 @@ inline bool is_kept(const Schema &schema, const void *value) {
 [[nodiscard]] bool take_default(const Field &field, void **component);
 // Whether a component is left out of the encoding: absent, or equal in meaning to its default.
 bool left_out(const Field &field, void *component);
+// Whether the value of a component, if it is there, has as many octets as it must.
+bool has_size(const Field &field, const void *component);
 // Whether a value may be used for its type. Decoding and encoding record it when not.
 inline bool allowed(const Schema &schema, const void *value) {
   return schema.restriction == nullptr || schema.restriction->allows(value);

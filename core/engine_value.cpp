@@ -4,6 +4,7 @@
 #include "types/boolean.h"
 #include "types/codecs.h"
 #include "types/list.h"
+#include "types/string.h"
 #include "util/memory.h"
 
 namespace quarn::asn1 {
@@ -11,7 +12,7 @@ namespace quarn::asn1 {
 namespace {
 
 void drop_body(const Schema &schema, void *value) {
-  if (schema.keep == Keep::body) kept_by(schema, value)[1].drop();
+  if (schema.keeps_body()) kept_by(schema, value)[1].drop();
 }
 
 void free_list_value(const Type &type, void *value) {
@@ -35,6 +36,7 @@ std::size_t size_kept(const Schema &schema) {
     case Keep::encoding:
       return sizeof(Kept);
     case Keep::body:
+    case Keep::body_alone:
       return 2 * sizeof(Kept);
     default:
       return 0;
@@ -150,6 +152,14 @@ bool left_out(const Field &field, void *component) {
     return quarn_asn1_integer_getlong(value, &number) == 1 && number == field.default_value;
   }
   return encodes_to(type_of(field.type()), component, field.default_octets, field.default_value);
+}
+
+bool has_size(const Field &field, const void *component) {
+  if (field.size == 0 || component == nullptr) return true;
+  std::uint64_t count = 0;
+  if (!measure_string(*static_cast<const StringValue *>(component), count)) return false;
+  return field.size > 0 ? count == static_cast<std::uint64_t>(field.size)
+                        : count >= static_cast<std::uint64_t>(-field.size);
 }
 
 std::uint32_t alternative_index(const Schema &schema, std::uint64_t number) {

@@ -45,7 +45,8 @@ struct Field {
   const std::uint8_t *default_octets;  // DER encoding of a default that is neither of the two below
   std::uint16_t type_id;
   std::uint16_t tag;  // n of [n]; plain: the universal tag that is written, 0 for the type's
-  std::int16_t default_value;  // 0 and 1 for FALSE and TRUE; how many default_octets there are
+  std::int8_t default_value;  // 0 and 1 for FALSE and TRUE; how many default_octets there are
+  std::int8_t size;  // octets of a string; negative: it has at least as many; 0: any number
   Tagging tagging;
   Presence presence;
 
@@ -63,25 +64,26 @@ enum class Kind : std::uint8_t {
 };
 
 // The longest encoding that a default may have: values are compared with it on the stack.
-constexpr std::int16_t kMostDefaultOctets = 64;
+constexpr std::int8_t kMostDefaultOctets = 64;
 
 // What a value keeps of the octets that it was decoded from or last encoded to, so that it encodes
 // to the same ones again.
 enum class Keep : std::uint8_t {
   nothing,
-  positions,  // no octets, but where the components of a record stood in them
-  encoding,   // a list: its whole encoding
-  body        // a signed object, a record: its whole encoding, and that of the first component
+  positions,   // no octets, but where the components of a record stood in them
+  body_alone,  // a record: the encoding of its first component, which is signed
+  encoding,    // a list: its whole encoding
+  body         // a signed object, a record: its whole encoding, and that of the first component
 };
 
 // A condition on the values of a type beyond its components. Decoding refuses a value that does not
-// meet it, and so do encoding and measuring, as the type will have it.
+// meet it, and so do constructors, encoding and measuring, as the type will have it.
 struct Restriction {
   bool (*allows)(const void *value);
   int code;                   // what a refusal is recorded with
   bool general_text = false;  // with the general errors' text for the code, not with this library's
   bool in_length = false;     // a value that is refused has no length either
-  bool decode_only = false;   // encoding does not ask
+  bool decode_only = false;   // neither constructors nor encoding ask
 };
 
 struct Schema {
@@ -97,7 +99,9 @@ struct Schema {
 
   constexpr bool is_choice() const { return kind == Kind::choice || kind == Kind::string_choice; }
   constexpr bool is_list() const { return kind == Kind::list; }
+  // Its own, and that of its first component.
   constexpr bool keeps_octets() const { return keep >= Keep::encoding; }
+  constexpr bool keeps_body() const { return keep == Keep::body || keep == Keep::body_alone; }
   constexpr quarn_asn1_type_id element() const { return fields[0].type(); }
 };
 
@@ -111,8 +115,11 @@ struct Tag {
 };
 struct Occurrence {
   Presence presence;
-  std::int16_t value;
+  std::int8_t value;
   const std::uint8_t *octets = nullptr;
+};
+struct Size {
+  std::int8_t octets;
 };
 struct PrimitiveForm {};
 struct AtLeast {
@@ -131,6 +138,9 @@ constexpr void note(Field &field, Occurrence occurrence) {
   field.presence = occurrence.presence;
   field.default_value = occurrence.value;
   field.default_octets = occurrence.octets;
+}
+constexpr void note(Field &field, Size size) {
+  field.size = size.octets;
 }
 constexpr void note(Field &field, PrimitiveForm /*form*/) {
   field.tagging = Tagging::implicit_primitive;
@@ -190,12 +200,19 @@ constexpr notation::Occurrence defaults_to(bool value) {
   return {Presence::default_boolean, value};
 }
 constexpr notation::Occurrence defaults_to(int value) {
-  return {Presence::default_integer, static_cast<std::int16_t>(value)};
+  return {Presence::default_integer, static_cast<std::int8_t>(value)};
 }
 // A default of any type, by its DER encoding.
 template <std::size_t kCount>
 constexpr notation::Occurrence default_encoding(const std::uint8_t (&octets)[kCount]) {
-  return {Presence::default_encoding, static_cast<std::int16_t>(kCount), octets};
+  return {Presence::default_encoding, std::int8_t{kCount}, octets};
+}
+// A string of so many octets, or of at least as many. Decoders and constructors refuse others.
+constexpr notation::Size octets(std::int8_t count) {
+  return {count};
+}
+constexpr notation::Size at_least_octets(std::int8_t count) {
+  return {static_cast<std::int8_t>(-count)};
 }
 
 // Of a type.
@@ -204,6 +221,9 @@ constexpr Keep keep_encoding() {
 }
 constexpr Keep keep_body() {
   return Keep::body;
+}
+constexpr Keep keep_body_alone() {
+  return Keep::body_alone;
 }
 constexpr Keep keep_positions() {
   return Keep::positions;
@@ -225,8 +245,14 @@ constexpr notation::NumberedByTag numbered_by_tag() {
 // Without notes a component is plain and mandatory.
 template <typename... Notes>
 constexpr Field field(const char *name, quarn_asn1_type_id type, Notes... notes) {
-  Field made{
-      name, nullptr, static_cast<std::uint16_t>(type), 0, 0, Tagging::plain, Presence::mandatory};
+  Field made{name,
+             nullptr,
+             static_cast<std::uint16_t>(type),
+             0,
+             0,
+             0,
+             Tagging::plain,
+             Presence::mandatory};
   (notation::note(made, notes), ...);
   return made;
 }

@@ -56,6 +56,7 @@ class SchemaCheck {
                               (field.tagging == Tagging::plain && field.tag != 0);
     if (replaces_tag && !has_own_tag(field)) return false;
     if (field.tagging == Tagging::implicit_primitive && row(field).form != 0) return false;
+    if (field.size != 0 && !is_string(field)) return false;
     if (field.presence == Presence::default_boolean) return field.type_id == QUARN_ASN1_BOOLEAN;
     if (field.presence == Presence::default_integer) return field.type_id == QUARN_ASN1_INTEGER;
     if (field.presence == Presence::default_encoding) {
@@ -69,13 +70,11 @@ class SchemaCheck {
   constexpr bool keeps_what_it_can(const Schema &schema) const {
     if (schema.keep == Keep::encoding) return schema.is_list();
     if (schema.keep == Keep::nothing) return true;
-    if (schema.kind != Kind::record || schema.keep == Keep::positions) {
-      return schema.kind == Kind::record;
-    }
-    for (const Field &field : schema.fields) {
-      if (!field.mandatory() || field.tagging != Tagging::plain) return false;
-    }
-    const Schema *body = row(schema.fields[0]).schema;
+    if (schema.kind != Kind::record) return false;
+    if (!schema.keeps_body()) return true;
+    const Field &first = schema.fields[0];
+    if (!first.mandatory() || first.tagging != Tagging::plain) return false;
+    const Schema *body = row(first).schema;
     return body != nullptr && !body->is_choice();
   }
 
@@ -138,10 +137,15 @@ class SchemaCheck {
            fields[1].presence == Presence::optional;
   }
 
+  static constexpr bool is_character_string(const Field &field) {
+    return field.type_id >= QUARN_ASN1_UTF8STRING && field.type_id <= QUARN_ASN1_BMPSTRING;
+  }
+  static constexpr bool is_string(const Field &field) {
+    return field.type_id == QUARN_ASN1_OCTETSTRING || is_character_string(field);
+  }
   static constexpr bool are_strings(std::span<const Field> alternatives) {
     for (const Field &field : alternatives) {
-      if (field.type_id < QUARN_ASN1_UTF8STRING || field.type_id > QUARN_ASN1_BMPSTRING)
-        return false;
+      if (!is_character_string(field)) return false;
     }
     return true;
   }

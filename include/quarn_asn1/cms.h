@@ -3,11 +3,11 @@
  * Messages: the Cryptographic Message Syntax and its PKCS #7 forms (RFC 5652, RFC 2315, RFC 6211).
  * Versions are not checked against contents: callers decode what later standards number anew.
  *
- * Constructors copy their arguments and return null when a mandatory one is null or memory is
- * short. Getters lend: what they return lives as long as the value. Null for the value gives null
- * from a getter and 0 from a test. A component with a DEFAULT is always there once a value has been
- * made or decoded. An end-of-contents is no value for a component that may be of any type:
- * constructors return null.
+ * Constructors copy their arguments and return null when a mandatory one is null, one has another
+ * SIZE than the definition says, or memory is short. Getters lend: what they return lives as long
+ * as the value. Null for the value gives null from a getter and 0 from a test. A component with a
+ * DEFAULT is always there once a value has been made or decoded. An end-of-contents is no value for
+ * a component that may be of any type: constructors return null.
  *
  * A value is decoded, encoded, copied and freed under its type id by the functions of
  * quarn_asn1/core.h; free functions are there for each type as well. Lists are of the type
@@ -1169,6 +1169,18 @@ QUARN_ASN1_API quarn_asn1_list *quarn_signedandenvelopeddata_getcrls(
 /** signerInfos. */
 QUARN_ASN1_API quarn_asn1_list *quarn_signedandenvelopeddata_getsignerinfos(
     const quarn_signedandenvelopeddata *value);
+
+/* ---- SMIMECapabilities */
+
+/**
+ * What a sender can decrypt and verify, the best first (RFC 8551, 2.5.2).
+ *
+ *     SMIMECapabilities ::= SEQUENCE OF AlgorithmIdentifier
+ *
+ * Type id QUARN_ASN1_SMIMECAPABILITIES (54). A quarn_asn1_list of AlgorithmIdentifier
+ * (quarn_x509algoid).
+ */
+QUARN_ASN1_API void quarn_smimecapabilities_free(quarn_asn1_list *value);
 
 /* ---- CMSAlgorithmProtection */
 

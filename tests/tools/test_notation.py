@@ -46,6 +46,8 @@ POINT = """
 Point ::= SEQUENCE {
     x          INTEGER,
     y-Axis     [0] EXPLICIT INTEGER DEFAULT 7,                --@ get=height
+    iv         OCTET STRING (SIZE (8)),
+    text       [3] IMPLICIT UTF8String (SIZE (1..MAX)) OPTIONAL,
     dNSName    [1] IMPLICIT OCTET STRING OPTIONAL,            -- a remark
     colour     [2] IMPLICIT Bag DEFAULT '3100'H,
     new        ANY OPTIONAL                                   --@ get=none
@@ -85,6 +87,8 @@ class Output(unittest.TestCase):
         self.has(rows.rows(modules[0]),
                  'field("x", QUARN_ASN1_U2),',
                  'field("y-Axis", QUARN_ASN1_U2, explicit_tag(0), defaults_to(7)),',
+                 'field("iv", QUARN_ASN1_U4, octets(8)),',
+                 'field("text", QUARN_ASN1_U9, implicit_tag(3), optional(), at_least_octets(1)),',
                  'field("dNSName", QUARN_ASN1_U4, implicit_tag(1), optional()),',
                  "constexpr std::uint8_t kPointColourDefault[] = {0x31, 0x00};",
                  'field("colour", QUARN_ASN1_BAG, implicit_tag(2), default_encoding(kPointColourDefault)),',
@@ -92,9 +96,9 @@ class Output(unittest.TestCase):
                  "kPointFields, restricted_by(kSpot));",
                  'field("point", QUARN_ASN1_SPOT)', "kBagElement, at_least(1));")
         self.has(rows.rows(modules[1]), "numbered_from(1)", 'string_choice("Name", kM1Unit, kNameAlternatives)')
-        gaps = resolved("--- T.\n--@ type id=102\nT ::= CHOICE { a [0] IMPLICIT NULL, b [3] IMPLICIT NULL }")[0]
+        gaps = resolved("--- T.\n--@ type id=102\nT ::= CHOICE { a [0] IMPLICIT NULL, b [3] IMPLICIT INTEGER }")[0]
         self.has(rows.rows(gaps), "kTAlternatives, numbered_by_tag());")
-        self.has(api.bodies(gaps), "choice_part<void>(QUARN_ASN1_SHAPE, value, 3)")
+        self.has(api.bodies(gaps), "choice_part<quarn_asn1_integer>(QUARN_ASN1_SHAPE, value, 3)")
         point = modules[0].definitions[0]
         self.assertEqual([rows.registry_reference(point, variant) for variant in point.variants],
                          ["&kRecordCodec, &kPointSchema", "&kRecordCodec, &kPoint105Schema", "&kRecordCodec, &kPointSchema"])
@@ -117,7 +121,7 @@ class Output(unittest.TestCase):
                  "const quarn_asn1_octetstring *dns_name,", "const quarn_asn1_any *new_)",
                  "return quarn::asn1::part<quarn_asn1_integer>(value, 1);",
                  "int quarn_pt_hasdnsname(const quarn_pt *value) {\n"
-                 "  return quarn::asn1::has_part(value, 2);",
+                 "  return quarn::asn1::has_part(value, 4);",
                  "void quarn_bag_free(quarn_asn1_list *value)")
         for absent in ("getnew", "hasnew", "quarn_pt_move", "hasheight", "quarn_spot"):
             self.assertNotIn(absent, api.bodies(modules[0]))
@@ -132,7 +136,7 @@ class Output(unittest.TestCase):
                  " *         dNSName    [1] IMPLICIT OCTET STRING OPTIONAL,\n",
                  "Type ids QUARN_ASN1_POINT (100), QUARN_ASN1_SPOT (105), QUARN_ASN1_DONE (108, [APPLICATION 3]).", "typedef struct quarn_pt quarn_pt;",
                  "/** Moves it away. */\nQUARN_ASN1_API int quarn_pt_move(quarn_pt *value, const quarn_asn1_integer *by);",
-                 "A quarn_asn1_list of Point (quarn_pt).", "\n * From its components. Null leaves out dns_name and new_, and stands for the default of")
+                 "A quarn_asn1_list of Point (quarn_pt).", "\n * From its components. Null leaves out text, dns_name and new_, and stands for the default of")
         text = api.header(modules[1], modules)
         self.has(text, '#include "h0.h"\n#include "types.h"\n')
         self.assertLess(text.index("typedef struct quarn_name"), text.index("typedef struct quarn_shape"))
@@ -142,14 +146,18 @@ class Output(unittest.TestCase):
         kept = resolved("--- N.\n--@ type id=101 keep=encoding\nN ::= SEQUENCE OF line UTF8String\n"
                         "--- S.\n--@ type id=100 keep=body\n--@ also id=105\nS ::= SEQUENCE {\na O, --@ through\nb NULL\n}\n"
                         "--- O.\n--@ type id=106 wire=sequence accessors=own\nO ::= SEQUENCE {\nc N OPTIONAL,\nd N --@ has=dd\n}\n"
-                        "--- C.\n--@ type id=104 codec=kC\nC ::= SET { a INTEGER }")
-        self.has(rows.rows(kept[0]), 'field("line", QUARN_ASN1_U9)', "keep_encoding());", "keep_body());")
+                        "--- C.\n--@ type id=104 codec=kC keep=bodyalone\nC ::= SET { a N }\n"
+                        "--- E.\n--@ type id=102\nE ::= CHOICE { good [0] IMPLICIT NULL, bad INTEGER }")
+        self.has(rows.rows(kept[0]), 'field("line", QUARN_ASN1_U9)', "keep_encoding());", "keep_body());",
+                 "keep_body_alone());")
         self.has(api.bodies(kept[0]), "quarn_Points_free(quarn_points *value)", "quarn_points *quarn_point_getd(const quarn_point *value) {\n"
                  "  return quarn_odd_getd(quarn::asn1::part<quarn_odd>(value, 0));",
+                 "quarn_shape *quarn_shape_newgood(void) {\n  return quarn::asn1::build_choice<quarn_shape>(QUARN_ASN1_SHAPE, 0);",
                  "int quarn_point_hasc(", "int quarn_point_hasdd(",
                  "int quarn_point_gettbsocts(quarn_point *value, uint8_t *buffer, uint64_t *length)")
-        self.assertNotIn("quarn_odd_getd(const", api.bodies(kept[0]))
-        self.assertEqual([rows.registry_reference(one, one.variants[0]) for one in kept[0].definitions[2:]],
+        for absent in ("quarn_odd_getd(const", "getgood"):
+            self.assertNotIn(absent, api.bodies(kept[0]))
+        self.assertEqual([rows.registry_reference(one, one.variants[0]) for one in kept[0].definitions[2:4]],
                          ["&kRecordCodec, &kOSchema", "&kC, &kCSchema"])
 
 
@@ -192,6 +200,10 @@ class Mistakes(unittest.TestCase):
                                                    "y NULL --@ get=x\n}"),
                 ("the default of x is no OCTET STRING",
                  "--- T.\n--@ type id=100\nT ::= SEQUENCE { x OCTET STRING DEFAULT 0 }"),
+                ("SIZE is for strings in a record",
+                 "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER (SIZE (8)) }"),
+                ("the default of x is not between -128 and 127",
+                 "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER DEFAULT 128 }"),
                 ("a SEQUENCE inside a component is a definition of its own",
                  "--- T.\n--@ type id=100\nT ::= SEQUENCE { x SEQUENCE OF INTEGER }"),
                 ("',' expected, not 'y'", "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER y NULL }"),

@@ -51,6 +51,7 @@ class Component:
     tag: tuple = None  # (number, "implicit" or "explicit")
     presence: str = "mandatory"  # optional, default
     default: object = None  # bool, int, or bytes: an encoding
+    size: tuple = None  # of a string: octets, and whether it may have more
     notes: dict = dataclasses.field(default_factory=dict)
     # Filled in by resolve.py.
     row: Row = None

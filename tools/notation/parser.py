@@ -8,7 +8,7 @@ from .model import Component, Definition, Export, Module, NotationError, TypeNam
 NUMBER, CONSTANT, WORD = r"\d+", r"k[A-Za-z0-9]+", r"[A-Za-z0-9_]+"
 MODULE_NOTES = {"unit": WORD, "header": WORD}
 TYPE_NOTES = {"id": NUMBER, "prefix": WORD, "new": "none|own", "accessors": "own", "check": CONSTANT,
-              "keep": "encoding|body|positions", "codec": CONSTANT, "wire": "sequence", "first": NUMBER,
+              "keep": "encoding|body|bodyalone|positions", "codec": CONSTANT, "wire": "sequence", "first": NUMBER,
               "tail": "open", "strings": None}
 INNER_NOTES = {"of": NUMBER}
 ALSO_NOTES = {word: TYPE_NOTES[word] for word in ("id", "prefix", "check")}
@@ -211,6 +211,20 @@ class Parser:
         self.take(")")
         return least
 
+    def octets(self):
+        """(SIZE (8)) or (SIZE (1..MAX)), of a string."""
+        if not self.accept("("):
+            return None
+        self.take("SIZE")
+        self.take("(")
+        count = int(self.take_name(r"\d+", "a number of octets").text)
+        more = self.accept("..")
+        if more:
+            self.take("MAX")
+        self.take(")")
+        self.take(")")
+        return count, more
+
     def element(self):
         """An element may have a name of its own; otherwise it is called as its type is."""
         line = self.next.line
@@ -237,6 +251,7 @@ class Parser:
         name = self.take_name(r"[a-z][A-Za-z0-9-]*", "the name of a component")
         tag = self.tag()
         made = Component(name.text, self.type_name(), name.line, tag)
+        made.size = self.octets()
         if not choice and self.accept("OPTIONAL"):
             made.presence = "optional"
         elif not choice and self.accept("DEFAULT"):

@@ -19,6 +19,7 @@ BUILTIN = {
 }
 ANY_ID, TIME_ID = 23, 20
 CHARACTER_STRINGS = range(9, 20)
+STRINGS = (4, *CHARACTER_STRINGS)
 KINDS = {"record": "SEQUENCE or SET", "list": "list", "choice": "CHOICE"}
 
 
@@ -169,6 +170,11 @@ class Resolver:
                             "of its own to replace", component.line)
 
     def presence(self, definition, component):
+        if isinstance(component.default, int) and not -128 <= component.default <= 127:
+            definition.fail(f"the default of {component.name} is not between -128 and 127", component.line)
+        sized = definition.kind == "record" and component.row.id in STRINGS
+        if component.size and (not sized or not 1 <= component.size[0] <= 127):
+            definition.fail("SIZE is for strings in a record, of 1 to 127 octets", component.line)
         if {bool: 1, int: 2}.get(type(component.default), component.row.id) != component.row.id:
             definition.fail(f"the default of {component.name} is no {component.type.name}", component.line)
         if "through" in component.notes:

@@ -33,6 +33,8 @@ def field(definition, component):
         notes.append(f"default_encoding({default_constant(definition, component)})")
     elif component.presence == "default":
         notes.append(f"defaults_to({str(component.default).lower()})")
+    if component.size is not None:
+        notes.append(f"{'at_least_octets' if component.size[1] else 'octets'}({component.size[0]})")
     if "written" in component.notes:
         notes.append(f"written_tag({component.notes['written']})")
     if component.notes.get("form") == "primitive":
@@ -66,7 +68,7 @@ def schema(definition, variant, unit, array):
     if definition.by_tag:
         arguments.append("numbered_by_tag()")
     if "keep" in notes:
-        arguments.append(f"keep_{notes['keep']}()")
+        arguments.append(f"keep_{notes['keep'].replace('alone', '_alone')}()")
     if "check" in variant.notes:
         arguments.append(f"restricted_by({variant.notes['check']})")
     opening = f"constexpr Schema {schema_of(definition, variant)} ="

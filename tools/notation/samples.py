@@ -17,6 +17,8 @@ LISTS_OF_ANY = {24: 0, 25: 1, 26: 0, 27: 1}  # and the elements that they have a
 ABSENT = {"kPkixAttributeTypeAndValue": {"primaryDistinguished", "valuesWithContext"},
           "kPkcs10Attribute": {"valuesWithContext"},
           "kPkixNameConstraints": {"requiredNameForms"}}
+# Contents that a check of a row demands: without the optional components, and with them.
+DEMANDED = {"kRsaVersion": {"version": (b"\0", b"\1")}, "kPbeSalt": {"salt": (bytes(8), bytes(8))}}
 # The type that a check of a row demands of the open types in it.
 OPEN = {"kCmsSignedData": OCTET_STRING_ID}
 # Elements that a check of a row demands at least, and small numbers.
@@ -67,6 +69,7 @@ class Look:
     salt: int = 0  # makes values differ
     depth: int = 0
     open: int = None  # the type of what is open
+    octets: int = 1  # of a string
 
     def inside(self, salt):
         return Look(self.optional and self.depth < 2, min(self.elements, 1), self.salt + salt, self.depth + 1,
@@ -106,7 +109,7 @@ class Sampler:
         if type_id in LISTS_OF_ANY:
             return self.elements(ANY_ID, max(look.elements, LISTS_OF_ANY[type_id]), look)
         if type_id not in self.described:
-            return CONTENTS.get(self.universal(type_id), letter)(look.salt)
+            return CONTENTS.get(self.universal(type_id), letter)(look.salt) * look.octets
         definition, variant = self.described[type_id]
         if definition.is_list:
             return self.elements(definition.fields[0].row.id, max(look.elements, definition.at_least), look)
@@ -115,7 +118,10 @@ class Sampler:
                                    elements=max(look.elements, ELEMENTS.get(check, 0)))
         if check == "kUuidPair":
             return tlv(*self.header(4), bytes(range(16))) + tlv(*self.header(4), bytes(range(16, 32)))
-        return b"".join(self.component(component, look.inside(salt)) for salt, component in enumerate(definition.fields)
+        demanded = DEMANDED.get(check, {})
+        return b"".join(tlv(*self.header(component.row.id), demanded[component.name][look.optional])
+                        if component.name in demanded else self.component(component, look.inside(salt))
+                        for salt, component in enumerate(definition.fields)
                         if component.name not in ABSENT.get(check, ())
                         and (look.optional or component.presence == "mandatory"))
 
@@ -134,6 +140,8 @@ class Sampler:
 
     def component(self, component, look, as_written=False):
         type_id = component.row.id
+        if component.size is not None:
+            look = dataclasses.replace(look, octets=component.size[0])
         if component.tag is None:
             octets = self.element(type_id, look) if component.default is not True else tlv(*self.header(1), b"\0")
             written = component.notes.get("written") if as_written else None
