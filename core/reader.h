@@ -21,9 +21,14 @@ class Reader {
  public:
   // A null stream gives a Reader on which is_null() is true and every read fails for the argument.
   Reader(quarn_stream *stream, quarn_err_ctx *ctx) : stream_(stream), ctx_(ctx) { borrow(); }
-  // Reads octets that stay where they are while the Reader lives.
-  Reader(const std::uint8_t *octets, std::size_t count, quarn_err_ctx *ctx)
-      : begin_(octets), next_(octets), end_(octets + count), ctx_(ctx), in_memory_(true) {}
+  // Reads octets that stay where they are while the Reader lives. depth: of what they are inside.
+  Reader(const std::uint8_t *octets, std::size_t count, quarn_err_ctx *ctx, int depth = 0)
+      : begin_(octets),
+        next_(octets),
+        end_(octets + count),
+        ctx_(ctx),
+        depth_(depth),
+        in_memory_(true) {}
   // Reads again the octets that another Reader has just given out and that are kept: positions,
   // nesting and the path of a failure go on from there, and values may share the block.
   Reader(Reader &outer, const Kept &kept)

@@ -81,7 +81,8 @@ Status decode_content(
 void free_value(const Type &type, void *value);
 
 // A copy of a value: what its encoding decodes to.
-Status duplicate(const Type &type, void *value, void **copy, quarn_err_ctx *ctx);
+// around: values that the copy is to stand inside, which count towards the limit.
+Status duplicate(const Type &type, void *value, void **copy, quarn_err_ctx *ctx, int around = 0);
 
 // Whether a value can begin with an identifier.
 bool matches(const Type &type, const Identifier &identifier);
