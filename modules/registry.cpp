@@ -17,6 +17,7 @@ namespace {
 #include "modules/gen/ASN1_ECC.inc"
 #include "modules/gen/ASN1_ESS.inc"
 #include "modules/gen/ASN1_Extension.inc"
+#include "modules/gen/ASN1_LDAP.inc"
 #include "modules/gen/ASN1_OCSP.inc"
 #include "modules/gen/ASN1_PKCS1.inc"
 #include "modules/gen/ASN1_PKCS10.inc"

@@ -14,8 +14,9 @@ namespace {
 // Ids of types that this version has, from and to; a type whose notation were lost would otherwise
 // go unnoticed.
 constexpr std::int64_t kStructured[][2] = {
-    {28, 53},   {55, 55},   {57, 57},   {61, 89},   {91, 92},   {135, 143}, {198, 198},
-    {217, 217}, {219, 224}, {245, 246}, {250, 250}, {252, 260}, {277, 291}, {299, 300},
+    {28, 53},   {55, 55},   {57, 57},   {61, 89},   {91, 92},   {135, 143},
+    {198, 198}, {217, 217}, {219, 224}, {245, 246}, {250, 250}, {252, 260},
+    {277, 291}, {299, 300}, {312, 322}, {324, 342}, {344, 348}, {350, 354},
 };
 
 TEST(Structure, every_row_has_two_samples) {
