@@ -58,7 +58,9 @@ class SchemaCheck {
     if (field.tagging == Tagging::implicit_primitive && row(field).form != 0) return false;
     if (field.size != 0 && !is_string(field)) return false;
     if (field.presence == Presence::default_boolean) return field.type_id == QUARN_ASN1_BOOLEAN;
-    if (field.presence == Presence::default_integer) return field.type_id == QUARN_ASN1_INTEGER;
+    if (field.presence == Presence::default_integer) {
+      return field.type_id == QUARN_ASN1_INTEGER || field.type_id == QUARN_ASN1_ENUMERATED;
+    }
     if (field.presence == Presence::default_encoding) {
       return field.default_value >= 2 && field.default_value <= kMostDefaultOctets;
     }

@@ -96,6 +96,8 @@ class Output(unittest.TestCase):
                  "kPointFields, restricted_by(kSpot));",
                  'field("point", QUARN_ASN1_SPOT)', "kBagElement, at_least(1));")
         self.has(rows.rows(modules[1]), "numbered_from(1)", 'string_choice("Name", kM1Unit, kNameAlternatives)')
+        status = resolved("--- T.\n--@ type id=101\nT ::= SEQUENCE { status ENUMERATED DEFAULT 0 }")[0]
+        self.has(rows.rows(status), 'field("status", QUARN_ASN1_U7, defaults_to(0))')
         gaps = resolved("--- T.\n--@ type id=102\nT ::= CHOICE { a [0] IMPLICIT NULL, b [3] IMPLICIT INTEGER }")[0]
         self.has(rows.rows(gaps), "kTAlternatives, numbered_by_tag());")
         self.has(api.bodies(gaps), "choice_part<quarn_asn1_integer>(QUARN_ASN1_SHAPE, value, 3)")

@@ -175,7 +175,7 @@ class Resolver:
         sized = definition.kind == "record" and component.row.id in STRINGS
         if component.size and (not sized or not 1 <= component.size[0] <= 127):
             definition.fail("SIZE is for strings in a record, of 1 to 127 octets", component.line)
-        if {bool: 1, int: 2}.get(type(component.default), component.row.id) != component.row.id:
+        if component.row.id not in {bool: (1,), int: (2, 7)}.get(type(component.default), (component.row.id,)):
             definition.fail(f"the default of {component.name} is no {component.type.name}", component.line)
         if "through" in component.notes:
             component.record = self.by_name.get(component.type.name)
