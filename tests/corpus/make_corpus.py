@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the corpus: certificates, CRLs, requests, attribute certificates and messages of every kind.
+"""Makes the corpus: certificates, CRLs, requests, attribute certificates, and messages of CMS and LDAP of every kind.
 
     make_corpus.py FOLDER [SOURCE]
 
@@ -18,6 +18,7 @@ from concurrent.futures import ThreadPoolExecutor
 
 import built
 import der
+import ldap_recorded
 import messages
 import oracle
 from der import openssl
@@ -112,7 +113,7 @@ class Maker:
     def __init__(self, folder):
         self.folder, self.work = folder, folder / "work"
         shutil.rmtree(folder, ignore_errors=True)
-        for name in ("work", *TYPES, *messages.FOLDERS):
+        for name in ("work", *TYPES, *messages.FOLDERS, ldap_recorded.FOLDER):
             (folder / name).mkdir(parents=True)
         self.config, self.jobs, self.refused = [(HERE / "sections.cnf").read_text(encoding="utf-8")], [], []
 
@@ -289,6 +290,7 @@ class Maker:
             list(pool.map(self.run, self.jobs))
             self.collect()
             messages.split(self.folder)
+            ldap_recorded.record(self.folder / ldap_recorded.FOLDER)
             self.build()
             if source:
                 for path in sorted(pathlib.Path(source).glob("*.crt")):
