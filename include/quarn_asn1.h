@@ -48,6 +48,7 @@
 #include "quarn_asn1/pkcs3.h"
 #include "quarn_asn1/pkcs5.h"
 #include "quarn_asn1/pkcs8.h"
+#include "quarn_asn1/scvp.h"
 #include "quarn_asn1/stream.h"
 #include "quarn_asn1/tsp.h"
 #include "quarn_asn1/types.h"

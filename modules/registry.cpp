@@ -25,6 +25,7 @@ namespace {
 #include "modules/gen/ASN1_PKCS3.inc"
 #include "modules/gen/ASN1_PKCS5.inc"
 #include "modules/gen/ASN1_PKCS8.inc"
+#include "modules/gen/ASN1_SCVP.inc"
 #include "modules/gen/ASN1_TSP.inc"
 #include "modules/gen/ASN1_X500.inc"
 #include "modules/gen/ASN1_X509.inc"

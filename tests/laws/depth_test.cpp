@@ -102,7 +102,7 @@ TEST(Depth, every_type_ends_at_the_limit) {
   });
 }
 
-// Types that hold themselves, or an open type deep inside: what stands before, then the levels.
+// What stands before levels of a type that holds itself, or of an open type deep inside.
 struct Nest {
   std::int64_t type;
   Octets before;
@@ -118,20 +118,32 @@ const Nest kNests[] = {
      0xA1},
 };
 
-TEST(Depth, types_that_hold_themselves_end_at_the_limit) {
+// A response, the request that it answers, that one's query, policy, and the policy's parameters.
+const Nest kOpenNest{
+    QUARN_ASN1_SCVPCVRESPONSE,
+    {0x30, 0x80, 0x02, 0x01, 0x01, 0x02, 0x01, 0x01, 0x18, 0x0F, '2',  '0',  '2',  '6',  '0',
+     '1',  '0',  '1',  '0',  '0',  '0',  '0',  '0',  '0',  'Z',  0x30, 0x00, 0xA1, 0x80, 0xA1,
+     0x80, 0x30, 0x80, 0xA0, 0x0B, 0xA1, 0x09, 0x04, 0x00, 0x30, 0x05, 0x30, 0x00, 0x02, 0x01,
+     0x01, 0x30, 0x03, 0x06, 0x01, 0x2A, 0x30, 0x80, 0x30, 0x80, 0x06, 0x01, 0x2A},
+    0x30};
+
+void ends_at_the_limit(const Nest &nest, Octets octets) {
+  octets.insert(octets.begin(), nest.before.begin(), nest.before.end());
+  void *value = nullptr;
+  const Stream stream = memory_stream(octets);
+  EXPECT_EQ(quarn_asn1_decode(stream.get(), nest.type, &value, nullptr, nullptr),
+            QUARN_ERROR_RECURSION);
+  EXPECT_EQ(value, nullptr);
+}
+
+TEST(Depth, levels_deep_inside_a_message_end_at_the_limit) {
   on_small_stack([] {
     Allocation allocation;
     for (const Nest &nest : kNests) {
-      for (Octets octets : {nested_indefinite(nest.identifier, kLevels),
-                            nested_definite(nest.identifier, kLevels)}) {
-        octets.insert(octets.begin(), nest.before.begin(), nest.before.end());
-        void *value = nullptr;
-        const Stream stream = memory_stream(octets);
-        EXPECT_EQ(quarn_asn1_decode(stream.get(), nest.type, &value, nullptr, nullptr),
-                  QUARN_ERROR_RECURSION);
-        EXPECT_EQ(value, nullptr);
-      }
+      ends_at_the_limit(nest, nested_indefinite(nest.identifier, kLevels));
+      ends_at_the_limit(nest, nested_definite(nest.identifier, kLevels));
     }
+    ends_at_the_limit(kOpenNest, nested_indefinite(kOpenNest.identifier, kLevels));
     EXPECT_EQ(allocation.live_blocks(), 0);
   });
 }
