@@ -43,8 +43,9 @@ std::size_t size_kept(const Schema &schema) {
 }
 
 std::uint64_t number_of(const Schema &schema, std::uint32_t index) {
-  if (schema.kind == Kind::choice) return std::uint64_t{schema.first_number} + index;
-  return type_of(schema.fields[index].type()).tag_number;
+  if (!schema.numbered_by_tag) return std::uint64_t{schema.first_number} + index;
+  const Field &field = schema.fields[index];
+  return field.tagging == Tagging::plain ? type_of(field.type()).tag_number : field.tag;
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ enum class Kind : std::uint8_t {
   record,         // SEQUENCE or SET of named components, in their order
   open_tail,      // a record of a mandatory component and an optional open type, which ends it
   list,           // SEQUENCE OF or SET OF
-  choice,         // alternatives are numbered one after another
+  choice,         // alternatives are numbered one after another, or by their tags
   string_choice,  // of character strings, which are numbered by their tags
 };
 
@@ -93,6 +93,7 @@ struct Schema {
   Keep keep = Keep::nothing;
   std::uint8_t at_least = 0;      // elements of a list
   std::uint8_t first_number = 0;  // of the alternatives of a CHOICE
+  bool numbered_by_tag = false;   // those have the numbers of their tags
   const Restriction *restriction = nullptr;
 
   constexpr bool is_choice() const { return kind == Kind::choice || kind == Kind::string_choice; }
@@ -124,6 +125,7 @@ struct AtLeast {
 struct NumberedFrom {
   std::uint8_t number;
 };
+struct NumberedByTag {};
 
 constexpr void note(Field &field, Tag tag) {
   field.tagging = tag.tagging;
@@ -151,6 +153,9 @@ constexpr void note(Schema &schema, AtLeast least) {
 }
 constexpr void note(Schema &schema, NumberedFrom first) {
   schema.first_number = first.number;
+}
+constexpr void note(Schema &schema, NumberedByTag /*by*/) {
+  schema.numbered_by_tag = true;
 }
 
 template <typename... Notes>
@@ -226,6 +231,10 @@ constexpr notation::AtLeast at_least(std::uint8_t count) {
 constexpr notation::NumberedFrom numbered_from(std::uint8_t number) {
   return {number};
 }
+// For alternatives that all have a tag other than a universal one.
+constexpr notation::NumberedByTag numbered_by_tag() {
+  return {};
+}
 
 // Without notes a component is plain and mandatory.
 template <typename... Notes>
@@ -266,7 +275,8 @@ constexpr Schema string_choice(const char *name,
                                Unit unit,
                                std::span<const Field> alternatives,
                                Notes... notes) {
-  return notation::schema(name, unit, alternatives, Kind::string_choice, notes...);
+  return notation::schema(name, unit, alternatives, Kind::string_choice, numbered_by_tag(),
+                          notes...);
 }
 
 }  // namespace quarn::asn1

@@ -108,6 +108,7 @@ class Definition:
     # Filled in by resolve.py.
     struct: str = ""  # C type of its values
     first: int = 0  # number of a CHOICE's first alternative
+    by_tag: bool = False  # the tags of a CHOICE's alternatives are their numbers
     owner: object = None  # the definition whose free function and struct it shares
 
     @property

@@ -193,19 +193,17 @@ class Resolver:
 
     @staticmethod
     def numbers(definition):
-        """By position, or by tag number when all alternatives have one."""
+        """By position, or by tag when all alternatives have one that is not universal."""
         fields = definition.fields
-        first = definition.notes.get("first", 0)
-        tags = [component.tag[0] for component in fields if component.tag is not None]
-        if len(tags) == len(fields):
-            if "first" in definition.notes:
-                definition.fail("the tags number the alternatives; first= does not", definition.variants[0].line)
-            if tags != list(range(tags[0], tags[0] + len(tags))):
-                definition.fail(f"the tags of {definition.name} do not follow one another")
-            first = tags[0]
-        definition.first = first
-        for position, component in enumerate(fields):
-            component.number = first + position
+        tags = [component.tag[0] if component.tag else component.row.tag if component.row.tag_class != "universal"
+                else None for component in fields]
+        definition.by_tag = None not in tags
+        if definition.by_tag and "first" in definition.notes:
+            definition.fail("the tags number the alternatives; first= does not", definition.variants[0].line)
+        definition.first = definition.notes.get("first", 0)
+        numbers = tags if definition.by_tag else range(definition.first, definition.first + len(fields))
+        for component, number in zip(fields, numbers):
+            component.number = number
 
     def headers(self):
         seen = {}

@@ -63,8 +63,10 @@ def schema(definition, variant, unit, array):
     arguments = [f'"{definition.name}"', unit, array]
     if definition.at_least:
         arguments.append("at_least(1)")
-    if definition.kind == "choice" and not definition.is_strings and definition.first:
+    if definition.first:
         arguments.append(f"numbered_from({definition.first})")
+    if definition.by_tag:
+        arguments.append("numbered_by_tag()")
     if "keep" in notes:
         arguments.append(f"keep_{notes['keep']}()")
     if "check" in variant.notes:
