@@ -32,11 +32,15 @@ enum class Tagging : std::uint8_t {
 
 enum class Presence : std::uint8_t {
   mandatory,
+  mandatory_exact,  // in another form than its type's, what comes is something else
   optional,
-  optional_exact,  // in another form than its type's, what comes is another component
+  optional_exact,
+  optional_inside,  // told from the next component by what stands first inside it, too
+  selected,         // there when the INTEGER before it is default_value
   default_boolean,
   default_integer,
-  default_encoding
+  default_encoding,
+  default_inside  // an encoding, and told as optional_inside is
 };
 
 // A component of a record, or an alternative of a CHOICE.
@@ -45,13 +49,20 @@ struct Field {
   const std::uint8_t *default_octets;  // DER encoding of a default that is neither of the two below
   std::uint16_t type_id;
   std::uint16_t tag;  // n of [n]; plain: the universal tag that is written, 0 for the type's
-  std::int8_t default_value;  // 0 and 1 for FALSE and TRUE; how many default_octets there are
+  std::int8_t default_value;  // 0 and 1 for FALSE and TRUE; how many default_octets there are;
+                              // the number that selects the component
   std::int8_t size;  // octets of a string; negative: it has at least as many; 0: any number
   Tagging tagging;
   Presence presence;
 
   constexpr quarn_asn1_type_id type() const { return static_cast<quarn_asn1_type_id>(type_id); }
-  constexpr bool mandatory() const { return presence == Presence::mandatory; }
+  constexpr bool mandatory() const { return presence <= Presence::mandatory_exact; }
+  constexpr bool exact() const {
+    return presence == Presence::mandatory_exact || presence == Presence::optional_exact;
+  }
+  constexpr bool told_inside() const {
+    return presence == Presence::optional_inside || presence == Presence::default_inside;
+  }
   constexpr bool has_default() const { return presence >= Presence::default_boolean; }
 };
 
@@ -119,6 +130,8 @@ struct Size {
   std::int8_t octets;
 };
 struct PrimitiveForm {};
+struct ExactForm {};
+struct ToldInside {};
 struct AtLeast {
   std::uint8_t count;
 };
@@ -141,6 +154,12 @@ constexpr void note(Field &field, Size size) {
 }
 constexpr void note(Field &field, PrimitiveForm /*form*/) {
   field.tagging = Tagging::implicit_primitive;
+}
+constexpr void note(Field &field, ExactForm /*form*/) {
+  field.presence = field.mandatory() ? Presence::mandatory_exact : Presence::optional_exact;
+}
+constexpr void note(Field &field, ToldInside /*inside*/) {
+  field.presence = field.has_default() ? Presence::default_inside : Presence::optional_inside;
 }
 constexpr void note(Schema &schema, Keep keep) {
   schema.keep = keep;
@@ -188,10 +207,19 @@ constexpr notation::PrimitiveForm primitive_form() {
 constexpr notation::Occurrence optional() {
   return {Presence::optional, 0};
 }
-// An optional component that is recognised by class, tag and form: others go by class and tag, and
-// another form is a failure of theirs.
-constexpr notation::Occurrence optional_exact() {
-  return {Presence::optional_exact, 0};
+// After optional(), or on an alternative: recognised by class, tag and form. Others go by class and
+// tag, and another form is a failure of theirs.
+constexpr notation::ExactForm exact_form() {
+  return {};
+}
+// After optional() or default_encoding(): a component that begins with the same tag as the next one
+// and is recognised by what its own type has first inside.
+constexpr notation::ToldInside told_inside() {
+  return {};
+}
+// There when the INTEGER before it, and before others so selected, is this number.
+constexpr notation::Occurrence selected_by(std::int8_t number) {
+  return {Presence::selected, number};
 }
 constexpr notation::Occurrence defaults_to(bool value) {
   return {Presence::default_boolean, value};
@@ -239,8 +267,14 @@ constexpr notation::NumberedByTag numbered_by_tag() {
 // Without notes a component is plain and mandatory.
 template <typename... Notes>
 constexpr Field field(const char *name, quarn_asn1_type_id type, Notes... notes) {
-  Field made{
-      name, nullptr, static_cast<std::uint16_t>(type), 0, 0, 0, Tagging::plain, Presence::mandatory};
+  Field made{name,
+             nullptr,
+             static_cast<std::uint16_t>(type),
+             0,
+             0,
+             0,
+             Tagging::plain,
+             Presence::mandatory};
   (notation::note(made, notes), ...);
   return made;
 }

@@ -53,7 +53,11 @@ class SchemaCheck {
     if (field.size != 0 && !is_string(field)) return false;
     if (field.presence == Presence::default_boolean) return field.type_id == QUARN_ASN1_BOOLEAN;
     if (field.presence == Presence::default_integer) return field.type_id == QUARN_ASN1_INTEGER;
-    if (field.presence == Presence::default_encoding) {
+    if (field.exact() && field.tagging == Tagging::explicitly) return false;
+    if (field.told_inside() && (field.tagging != Tagging::plain || row(field).schema == nullptr)) {
+      return false;
+    }
+    if (field.presence >= Presence::default_encoding) {
       return field.default_value >= 2 && field.default_value <= kMostDefaultOctets;
     }
     return true;
@@ -107,9 +111,15 @@ class SchemaCheck {
   }
 
   // Components that share a tag on purpose.
-  static constexpr bool take_turns(const Field &a, const Field &b) {
+  static constexpr bool told_apart(const Field &a, const Field &b) {
+    if (a.told_inside()) return true;
     return a.tagging == Tagging::implicit_primitive && b.tagging == Tagging::implicit_primitive &&
            a.type_id == b.type_id;
+  }
+
+  static constexpr bool follows_number(std::span<const Field> fields, std::size_t i) {
+    while (i > 0 && fields[i].presence == Presence::selected) i--;
+    return fields[i].mandatory() && fields[i].type_id == QUARN_ASN1_INTEGER;
   }
 
   // Each field that may be absent differs from those that may come in its place: the others that
@@ -117,8 +127,12 @@ class SchemaCheck {
   constexpr bool decidable(std::span<const Field> fields) const {
     for (std::size_t i = 0; i < fields.size(); i++) {
       if (fields[i].mandatory()) continue;
+      if (fields[i].presence == Presence::selected) {
+        if (!follows_number(fields, i)) return false;
+        continue;
+      }
       for (std::size_t next = i + 1; next < fields.size(); next++) {
-        if (clash(fields[i], fields[next]) && !take_turns(fields[i], fields[next])) return false;
+        if (clash(fields[i], fields[next]) && !told_apart(fields[i], fields[next])) return false;
         if (fields[next].mandatory()) break;
       }
       // An open type cannot be begun once its identifier has been read.

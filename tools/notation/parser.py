@@ -11,8 +11,8 @@ TYPE_NOTES = {"id": NUMBER, "prefix": WORD, "new": "none|own", "accessors": "own
               "keep": "encoding|body|positions", "codec": CONSTANT, "wire": "sequence", "first": NUMBER,
               "tail": "open", "strings": None}
 ALSO_NOTES = {word: TYPE_NOTES[word] for word in ("id", "prefix", "check")}
-COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive|exact",
-                   "through": None}
+COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive|exact|inside",
+                   "when": NUMBER, "through": None}
 
 TWO_WORDS = {"BIT": "STRING", "OCTET": "STRING", "OBJECT": "IDENTIFIER"}
 WITH_NAMES = ("INTEGER", "ENUMERATED", "BIT STRING")

@@ -2,6 +2,7 @@
 
 from .layout import WIDTH, call
 
+FORMS = {"primitive": "primitive_form()", "exact": "exact_form()", "inside": "told_inside()"}
 CODECS = {"record": "kRecordCodec", "list": "kListCodec", "choice": "kChoiceCodec"}
 
 
@@ -27,8 +28,10 @@ def field(definition, component):
     notes = [f'"{component.name}"', component.row.constant]
     if component.tag is not None:
         notes.append(f"{component.tag[1]}_tag({component.tag[0]})")
-    if component.presence == "optional":
-        notes.append("optional_exact()" if component.notes.get("form") == "exact" else "optional()")
+    if "when" in component.notes:
+        notes.append(f"selected_by({component.notes['when']})")
+    elif component.presence == "optional":
+        notes.append("optional()")
     elif isinstance(component.default, bytes):
         notes.append(f"default_encoding({default_constant(definition, component)})")
     elif component.presence == "default":
@@ -37,8 +40,8 @@ def field(definition, component):
         notes.append(f"{'at_least_octets' if component.size[1] else 'octets'}({component.size[0]})")
     if "written" in component.notes:
         notes.append(f"written_tag({component.notes['written']})")
-    if component.notes.get("form") == "primitive":
-        notes.append("primitive_form()")
+    if "form" in component.notes:
+        notes.append(FORMS[component.notes["form"]])
     return call("    field(", notes, "),") + "\n"
 
 

@@ -17,6 +17,8 @@ LISTS_OF_ANY = {24: 0, 25: 1, 26: 0, 27: 1}  # and the elements that they have a
 ABSENT = {"kPkixAttributeTypeAndValue": {"primaryDistinguished", "valuesWithContext"},
           "kPkcs10Attribute": {"valuesWithContext"},
           "kPkixNameConstraints": {"requiredNameForms"}}
+# What it demands of those that may be absent.
+PRESENT = {"kSignerLocation": {"countryName"}}
 # The type that a check of a row demands of the open types in it.
 OPEN = {"kCmsSignedData": OCTET_STRING_ID}
 
@@ -110,9 +112,30 @@ class Sampler:
         look = dataclasses.replace(look, open=OPEN.get(check, look.open))
         if check == "kUuidPair":
             return tlv(*self.header(4), bytes(range(16))) + tlv(*self.header(4), bytes(range(16, 32)))
-        return b"".join(self.component(component, look.inside(salt)) for salt, component in enumerate(definition.fields)
-                        if component.name not in ABSENT.get(check, ())
-                        and (look.optional or component.presence == "mandatory"))
+        selected = self.selected(definition, look)
+        following = [*definition.fields[1:], None]
+        return b"".join(tlv(*self.header(2), bytes([selected])) if self.selects(component, after)
+                        else self.component(component, look.inside(salt))
+                        for salt, (component, after) in enumerate(zip(definition.fields, following))
+                        if self.has(component, check, look, selected))
+
+    @staticmethod
+    def has(component, check, look, selected):
+        """Whether a record is to have a component: of those that a number selects, one."""
+        if "when" in component.notes:
+            return component.notes["when"] == selected
+        if component.presence == "mandatory" or component.name in PRESENT.get(check, ()):
+            return True
+        return look.optional and component.name not in ABSENT.get(check, ())
+
+    @staticmethod
+    def selected(definition, look):
+        numbers = [component.notes["when"] for component in definition.fields if "when" in component.notes]
+        return numbers[0 if look.optional else -1] if numbers else None
+
+    @staticmethod
+    def selects(component, after):
+        return after is not None and "when" in after.notes and "when" not in component.notes
 
     def elements(self, type_id, count, look):
         return b"".join(self.element(type_id, look.inside(salt)) for salt in range(count))
