@@ -32,12 +32,14 @@
 #define QUARN_ASN1_H
 
 #include "quarn_asn1/attribute.h"
+#include "quarn_asn1/certstore.h"
 #include "quarn_asn1/cms.h"
 #include "quarn_asn1/core.h"
 #include "quarn_asn1/extension.h"
 #include "quarn_asn1/inspect.h"
 #include "quarn_asn1/json.h"
 #include "quarn_asn1/pkcs10.h"
+#include "quarn_asn1/ses.h"
 #include "quarn_asn1/stream.h"
 #include "quarn_asn1/types.h"
 #include "quarn_asn1/x500.h"

@@ -11,8 +11,10 @@ namespace {
 
 #include "modules/gen/ASN1_Attribute.inc"
 #include "modules/gen/ASN1_CMS.inc"
+#include "modules/gen/ASN1_CertStore.inc"
 #include "modules/gen/ASN1_Extension.inc"
 #include "modules/gen/ASN1_PKCS10.inc"
+#include "modules/gen/ASN1_SES.inc"
 #include "modules/gen/ASN1_X500.inc"
 #include "modules/gen/ASN1_X509.inc"
 
