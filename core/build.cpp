@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "core/engine.h"
+#include "types/null.h"
 
 namespace quarn::asn1 {
 
@@ -39,6 +40,8 @@ void *build_record(quarn_asn1_type_id id, std::span<const void *const> parts) {
     if (schema.kind != Kind::open_tail && is_end_of_contents(field, *component)) return nullptr;
     if (!has_size(field, *component)) return nullptr;
   }
+  const bool checked = schema.restriction != nullptr && !schema.restriction->decode_only;
+  if (checked && !allowed(schema, record.get())) return nullptr;
   return record.release();
 }
 
@@ -51,6 +54,10 @@ void *build_alternative(quarn_asn1_type_id id, std::uint64_t number, const void 
   const Type &inner = type_of(type.schema->fields[index].type());
   if (!copy_into(inner, value, &static_cast<Choice *>(choice.get())->value)) return nullptr;
   return choice.release();
+}
+
+void *build_null_alternative(quarn_asn1_type_id type, std::uint64_t number) {
+  return build_alternative(type, number, null_value());
 }
 
 void *build_empty_list(quarn_asn1_type_id id) {

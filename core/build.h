@@ -21,11 +21,14 @@
 namespace quarn::asn1 {
 
 // A record of copies of its components. Null, with nothing allocated, when a mandatory one is null;
-// a null default becomes the default, a null optional one is absent.
+// null also for what decoding would refuse for a size or another check of the type. A null default
+// becomes the default, a null optional one is absent.
 void *build_record(quarn_asn1_type_id type, std::span<const void *const> parts);
 // A CHOICE of the alternative with this number (of strings: this universal tag), of which the value
 // is a copy. Null when there is no such alternative or value.
 void *build_alternative(quarn_asn1_type_id type, std::uint64_t number, const void *value);
+// The same of an alternative that is a NULL.
+void *build_null_alternative(quarn_asn1_type_id type, std::uint64_t number);
 // A value of a list type, without elements.
 void *build_empty_list(quarn_asn1_type_id type);
 // A copy of a value; null for null.
@@ -42,6 +45,11 @@ T *build(quarn_asn1_type_id type, const Parts *...parts) {
 template <typename T>
 T *build_choice(quarn_asn1_type_id type, std::uint64_t number, const void *value) {
   return static_cast<T *>(build_alternative(type, number, value));
+}
+
+template <typename T>
+T *build_choice(quarn_asn1_type_id type, std::uint64_t number) {
+  return static_cast<T *>(build_null_alternative(type, number));
 }
 
 // Component number index of a record; null when it is absent and for null.

@@ -73,7 +73,7 @@ void drop_kept(const Type &type, void *value);
 const Kept *body_of(const Type &type, void *value);
 
 // What a value keeps: its encoding, and behind that, of a signed object, its body. The type must be
-// one that keeps octets.
+// one that keeps octets; of one that keeps its body alone, the first is never valid.
 inline Kept *kept_by(const Schema &schema, void *value) {
   return reinterpret_cast<Kept *>(components(value) + schema.fields.size());
 }

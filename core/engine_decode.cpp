@@ -201,15 +201,14 @@ class RecordDecoder {
 
   // A body, whose octets are kept, and what signs it.
   Status signed_object(Kept &kept_body) {
-    std::size_t i = 0;
-    for (const Field &field : schema_.fields) {
-      const Status status =
-          i == 0 ? take_body(field, kept_body) : take_named(field, components_[i]);
-      if (!status) return status;
-      i++;
+    Status status = take_body(schema_.fields[0], kept_body);
+    for (std::size_t i = 1; status && i < schema_.fields.size(); i++) {
+      status = take(schema_.fields[i], &components_[i]);
     }
+    if (!status) return status;
+    if (!schema_.fields.back().mandatory()) return finish();
     if (length_ == kIndefinite) return read_end();
-    return at_exact_end() ? Status::success() : fail_with_length();
+    return at_exact_end() ? status : fail_with_length();
   }
 
  private:
@@ -355,7 +354,7 @@ Status begin(const Type &type, Reader &in, void **value, bool primitive, std::in
 }
 
 Status decode_components(RecordDecoder &decoder, const Schema &schema, void *record) {
-  if (schema.keep == Keep::body) return decoder.signed_object(kept_by(schema, record)[1]);
+  if (schema.keeps_body()) return decoder.signed_object(kept_by(schema, record)[1]);
   if (schema.kind == Kind::open_tail) return decoder.open_tail();
   return decoder.fields(schema.keep == Keep::positions ? positions_in(schema, record) : nullptr);
 }

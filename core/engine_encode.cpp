@@ -83,7 +83,7 @@ class Measure {
   std::int64_t record(const Schema &schema, void *value) {
     Sum sum;
     std::size_t i = 0;
-    if (schema.keep == Keep::body) {
+    if (schema.keeps_body()) {
       const Kept &body = kept_by(schema, value)[1];
       sum.add(body.valid() ? as_kept(body) : field_length(schema.fields[0], component(value, 0)));
       i = 1;
@@ -231,7 +231,7 @@ class Encoder {
       if (schema.keep == Keep::positions) note_position(schema, value, i, start);
       void *part = component(value, i);
       Status status = Status::success();
-      if (i == 0 && schema.keep == Keep::body) {
+      if (i == 0 && schema.keeps_body()) {
         status = body(schema, part, kept_by(schema, value)[1]);
       } else if (!left_out(field, part)) {
         status = field.tagging == Tagging::plain ? plain(schema, field, part)

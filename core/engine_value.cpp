@@ -12,7 +12,7 @@ namespace quarn::asn1 {
 namespace {
 
 void drop_body(const Schema &schema, void *value) {
-  if (schema.keep == Keep::body) kept_by(schema, value)[1].drop();
+  if (schema.keeps_body()) kept_by(schema, value)[1].drop();
 }
 
 void free_list_value(const Type &type, void *value) {
@@ -36,6 +36,7 @@ std::size_t size_kept(const Schema &schema) {
     case Keep::encoding:
       return sizeof(Kept);
     case Keep::body:
+    case Keep::body_alone:
       return 2 * sizeof(Kept);
     default:
       return 0;

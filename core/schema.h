@@ -81,19 +81,20 @@ constexpr std::int8_t kMostDefaultOctets = 64;
 // to the same ones again.
 enum class Keep : std::uint8_t {
   nothing,
-  positions,  // no octets, but where the components of a record stood in them
-  encoding,   // a list: its whole encoding
-  body        // a signed object, a record: its whole encoding, and that of the first component
+  positions,   // no octets, but where the components of a record stood in them
+  body_alone,  // a record: the encoding of its first component, which is signed
+  encoding,    // a list: its whole encoding
+  body         // a signed object, a record: its whole encoding, and that of the first component
 };
 
 // A condition on the values of a type beyond its components. Decoding refuses a value that does not
-// meet it, and so do encoding and measuring, as the type will have it.
+// meet it, and so do constructors, encoding and measuring, as the type will have it.
 struct Restriction {
   bool (*allows)(const void *value);
   int code;                   // what a refusal is recorded with
   bool general_text = false;  // with the general errors' text for the code, not with this library's
   bool in_length = false;     // a value that is refused has no length either
-  bool decode_only = false;   // encoding does not ask
+  bool decode_only = false;   // neither constructors nor encoding ask
 };
 
 struct Schema {
@@ -109,7 +110,9 @@ struct Schema {
 
   constexpr bool is_choice() const { return kind == Kind::choice || kind == Kind::string_choice; }
   constexpr bool is_list() const { return kind == Kind::list; }
+  // Its own, and that of its first component.
   constexpr bool keeps_octets() const { return keep >= Keep::encoding; }
+  constexpr bool keeps_body() const { return keep == Keep::body || keep == Keep::body_alone; }
   constexpr quarn_asn1_type_id element() const { return fields[0].type(); }
 };
 
@@ -246,6 +249,9 @@ constexpr Keep keep_encoding() {
 }
 constexpr Keep keep_body() {
   return Keep::body;
+}
+constexpr Keep keep_body_alone() {
+  return Keep::body_alone;
 }
 constexpr Keep keep_positions() {
   return Keep::positions;

@@ -68,13 +68,11 @@ class SchemaCheck {
   constexpr bool keeps_what_it_can(const Schema &schema) const {
     if (schema.keep == Keep::encoding) return schema.is_list();
     if (schema.keep == Keep::nothing) return true;
-    if (schema.kind != Kind::record || schema.keep == Keep::positions) {
-      return schema.kind == Kind::record;
-    }
-    for (const Field &field : schema.fields) {
-      if (!field.mandatory() || field.tagging != Tagging::plain) return false;
-    }
-    const Schema *body = row(schema.fields[0]).schema;
+    if (schema.kind != Kind::record) return false;
+    if (!schema.keeps_body()) return true;
+    const Field &first = schema.fields[0];
+    if (!first.mandatory() || first.tagging != Tagging::plain) return false;
+    const Schema *body = row(first).schema;
     return body != nullptr && !body->is_choice();
   }
 

@@ -10,11 +10,21 @@ namespace quarn::asn1 {
 namespace {
 
 #include "modules/gen/ASN1_Attribute.inc"
+#include "modules/gen/ASN1_Authenticode.inc"
 #include "modules/gen/ASN1_CMS.inc"
 #include "modules/gen/ASN1_CertStore.inc"
+#include "modules/gen/ASN1_ECC.inc"
+#include "modules/gen/ASN1_ESS.inc"
 #include "modules/gen/ASN1_Extension.inc"
+#include "modules/gen/ASN1_OCSP.inc"
+#include "modules/gen/ASN1_PKCS1.inc"
 #include "modules/gen/ASN1_PKCS10.inc"
+#include "modules/gen/ASN1_PKCS12.inc"
+#include "modules/gen/ASN1_PKCS3.inc"
+#include "modules/gen/ASN1_PKCS5.inc"
+#include "modules/gen/ASN1_PKCS8.inc"
 #include "modules/gen/ASN1_SES.inc"
+#include "modules/gen/ASN1_TSP.inc"
 #include "modules/gen/ASN1_X500.inc"
 #include "modules/gen/ASN1_X509.inc"
 

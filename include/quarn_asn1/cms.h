@@ -1170,6 +1170,18 @@ QUARN_ASN1_API quarn_asn1_list *quarn_signedandenvelopeddata_getcrls(
 QUARN_ASN1_API quarn_asn1_list *quarn_signedandenvelopeddata_getsignerinfos(
     const quarn_signedandenvelopeddata *value);
 
+/* ---- SMIMECapabilities */
+
+/**
+ * What a sender can decrypt and verify, the best first (RFC 8551, 2.5.2).
+ *
+ *     SMIMECapabilities ::= SEQUENCE OF AlgorithmIdentifier
+ *
+ * Type id QUARN_ASN1_SMIMECAPABILITIES (54). A quarn_asn1_list of AlgorithmIdentifier
+ * (quarn_x509algoid).
+ */
+QUARN_ASN1_API void quarn_smimecapabilities_free(quarn_asn1_list *value);
+
 /* ---- CMSAlgorithmProtection */
 
 /**

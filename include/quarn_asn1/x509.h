@@ -1,6 +1,7 @@
 /* Generated from modules/ASN1_X509.asn1 by tools/generate.py; do not edit. */
 /**
- * Certificates and certificate revocation lists, and what they are made of (X.509, RFC 5280).
+ * Certificates and certificate revocation lists, and what they are made of (X.509, RFC 5280, RFC
+ * 3279).
  *
  * Constructors copy their arguments and return null when a mandatory one is null, one has another
  * SIZE than the definition says, or memory is short. Getters lend: what they return lives as long
@@ -546,6 +547,56 @@ QUARN_ASN1_API quarn_x509algoid *quarn_pkcsdigestinfo_getdigestalgo(
 /** digest. */
 QUARN_ASN1_API quarn_asn1_octetstring *quarn_pkcsdigestinfo_getdigest(
     const quarn_pkcsdigestinfo *value);
+
+/* ---- Dss-Sig-Value */
+
+/**
+ * A signature of DSA or ECDSA, or of SM2 (RFC 3279, 2.2.2; GM/T 0009).
+ *
+ *     Dss-Sig-Value ::= SEQUENCE {
+ *         r  INTEGER,
+ *         s  INTEGER
+ *     }
+ *
+ * Type ids QUARN_ASN1_DSSSIGVALUE (58), QUARN_ASN1_ECDSASIGVALUE (59).
+ */
+typedef struct quarn_dsssigvalue quarn_dsssigvalue;
+/** As quarn_asn1_value_free() under QUARN_ASN1_DSSSIGVALUE. */
+QUARN_ASN1_API void quarn_dsssigvalue_free(quarn_dsssigvalue *value);
+/** From its components. */
+QUARN_ASN1_API quarn_dsssigvalue *quarn_dsssigvalue_new(const quarn_asn1_integer *r,
+                                                        const quarn_asn1_integer *s);
+/** r. */
+QUARN_ASN1_API quarn_asn1_integer *quarn_dsssigvalue_getr(const quarn_dsssigvalue *value);
+/** s. */
+QUARN_ASN1_API quarn_asn1_integer *quarn_dsssigvalue_gets(const quarn_dsssigvalue *value);
+
+/* ---- Dss-Parms */
+
+/**
+ * The parameters of DSA (RFC 3279, 2.3.2).
+ *
+ *     Dss-Parms ::= SEQUENCE {
+ *         p  INTEGER,
+ *         q  INTEGER,
+ *         g  INTEGER
+ *     }
+ *
+ * Type id QUARN_ASN1_DSSPARAMS (60).
+ */
+typedef struct quarn_dssparams quarn_dssparams;
+/** As quarn_asn1_value_free() under QUARN_ASN1_DSSPARAMS. */
+QUARN_ASN1_API void quarn_dssparams_free(quarn_dssparams *value);
+/** From its components. */
+QUARN_ASN1_API quarn_dssparams *quarn_dssparams_new(const quarn_asn1_integer *p,
+                                                    const quarn_asn1_integer *q,
+                                                    const quarn_asn1_integer *g);
+/** p. */
+QUARN_ASN1_API quarn_asn1_integer *quarn_dssparams_getp(const quarn_dssparams *value);
+/** q. */
+QUARN_ASN1_API quarn_asn1_integer *quarn_dssparams_getq(const quarn_dssparams *value);
+/** g. */
+QUARN_ASN1_API quarn_asn1_integer *quarn_dssparams_getg(const quarn_dssparams *value);
 
 /* ---- InstanceOf */
 

@@ -133,14 +133,18 @@ class Output(unittest.TestCase):
         kept = resolved("--- N.\n--@ type id=101 keep=encoding\nN ::= SEQUENCE OF line UTF8String\n"
                         "--- S.\n--@ type id=100 keep=body\n--@ also id=105\nS ::= SEQUENCE {\na O, --@ through\nb NULL\n}\n"
                         "--- O.\n--@ type id=106 wire=sequence accessors=own\nO ::= SEQUENCE {\nc N OPTIONAL,\nd N --@ has=dd\n}\n"
-                        "--- C.\n--@ type id=104 codec=kC\nC ::= SET { a INTEGER }")
-        self.has(rows.rows(kept[0]), 'field("line", QUARN_ASN1_U9)', "keep_encoding());", "keep_body());")
+                        "--- C.\n--@ type id=104 codec=kC keep=bodyalone\nC ::= SET { a N }\n"
+                        "--- E.\n--@ type id=102\nE ::= CHOICE { good [0] IMPLICIT NULL, bad INTEGER }")
+        self.has(rows.rows(kept[0]), 'field("line", QUARN_ASN1_U9)', "keep_encoding());", "keep_body());",
+                 "keep_body_alone());")
         self.has(api.bodies(kept[0]), "quarn_Points_free(quarn_points *value)", "quarn_points *quarn_point_getd(const quarn_point *value) {\n"
                  "  return quarn_odd_getd(quarn::asn1::part<quarn_odd>(value, 0));",
+                 "quarn_shape *quarn_shape_newgood(void) {\n  return quarn::asn1::build_choice<quarn_shape>(QUARN_ASN1_SHAPE, 0);",
                  "int quarn_point_hasc(", "int quarn_point_hasdd(",
                  "int quarn_point_gettbsocts(quarn_point *value, uint8_t *buffer, uint64_t *length)")
-        self.assertNotIn("quarn_odd_getd(const", api.bodies(kept[0]))
-        self.assertEqual([rows.registry_reference(one, one.variants[0]) for one in kept[0].definitions[2:]],
+        for absent in ("quarn_odd_getd(const", "getgood"):
+            self.assertNotIn(absent, api.bodies(kept[0]))
+        self.assertEqual([rows.registry_reference(one, one.variants[0]) for one in kept[0].definitions[2:4]],
                          ["&kRecordCodec, &kOSchema", "&kC, &kCSchema"])
 
 

@@ -41,7 +41,7 @@ def functions_of(definition):
     for variant in definition.variants:
         if variant.prefix and variant.notes.get("accessors") != "own":
             made += accessors(definition, variant)
-    if definition.notes.get("keep") == "body":
+    if definition.notes.get("keep") in ("body", "bodyalone"):
         made.append(body_octets(definition))
     return made + [exported(definition, export) for export in definition.exports]
 
@@ -140,12 +140,15 @@ def alternative(definition, variant, component, own):
     part = component.part
     new = component.notes.get("new", part)
     name = parameter_name(component)
+    is_null = component.type.name == "NULL"
     if not own and new is not None and new != "none":
-        arguments = f"({variant.row.constant}, {component.number}, {name})"
+        arguments = [variant.row.constant, str(component.number), *([] if is_null else [name])]
         made.append(Function(pointer(definition.struct), f"quarn_{variant.prefix}_new{new}",
-                             [f"const {component.c_type} *{name}"], [f"The alternative {component.name}."],
-                             f"return quarn::asn1::build_choice<{definition.struct}>{arguments}", component.line))
-    if part is not None:
+                             ["void"] if is_null else [f"const {component.c_type} *{name}"],
+                             [f"The alternative {component.name}."],
+                             f"return quarn::asn1::build_choice<{definition.struct}>({', '.join(arguments)})",
+                             component.line))
+    if part is not None and not is_null:
         arguments = f"({variant.row.constant}, value, {component.number})"
         made.append(Function(pointer(component.c_type), f"quarn_{variant.prefix}_get{part}",
                              [f"const {definition.struct} *value"],

@@ -71,7 +71,7 @@ def schema(definition, variant, unit, array):
     if definition.by_tag:
         arguments.append("numbered_by_tag()")
     if "keep" in notes:
-        arguments.append(f"keep_{notes['keep']}()")
+        arguments.append(f"keep_{notes['keep'].replace('alone', '_alone')}()")
     if "check" in variant.notes:
         arguments.append(f"restricted_by({variant.notes['check']})")
     opening = f"constexpr Schema {schema_of(definition, variant)} ="

@@ -19,6 +19,9 @@ ABSENT = {"kPkixAttributeTypeAndValue": {"primaryDistinguished", "valuesWithCont
           "kPkixNameConstraints": {"requiredNameForms"}}
 # What it demands of those that may be absent.
 PRESENT = {"kSignerLocation": {"countryName"}}
+# Contents that a check of a row demands: without the optional components, and with them.
+DEMANDED = {"kRsaVersion": {"version": (b"\0", b"\1")}, "kPbeSalt": {"salt": (bytes(8), bytes(8))},
+            "kCertListType": {"certListType": (b"\2", b"\1")}}
 # The type that a check of a row demands of the open types in it.
 OPEN = {"kCmsSignedData": OCTET_STRING_ID}
 
@@ -112,30 +115,19 @@ class Sampler:
         look = dataclasses.replace(look, open=OPEN.get(check, look.open))
         if check == "kUuidPair":
             return tlv(*self.header(4), bytes(range(16))) + tlv(*self.header(4), bytes(range(16, 32)))
-        selected = self.selected(definition, look)
-        following = [*definition.fields[1:], None]
-        return b"".join(tlv(*self.header(2), bytes([selected])) if self.selects(component, after)
-                        else self.component(component, look.inside(salt))
-                        for salt, (component, after) in enumerate(zip(definition.fields, following))
-                        if self.has(component, check, look, selected))
+        demanded = {name: contents[look.optional] for name, contents in DEMANDED.get(check, {}).items()}
+        return b"".join(tlv(*self.header(component.row.id), demanded[component.name])
+                        if component.name in demanded else self.component(component, look.inside(salt))
+                        for salt, component in enumerate(definition.fields)
+                        if self.has(component, check, look, demanded.values()))
 
     @staticmethod
-    def has(component, check, look, selected):
-        """Whether a record is to have a component: of those that a number selects, one."""
+    def has(component, check, look, demanded):
         if "when" in component.notes:
-            return component.notes["when"] == selected
+            return bytes([component.notes["when"]]) in demanded
         if component.presence == "mandatory" or component.name in PRESENT.get(check, ()):
             return True
         return look.optional and component.name not in ABSENT.get(check, ())
-
-    @staticmethod
-    def selected(definition, look):
-        numbers = [component.notes["when"] for component in definition.fields if "when" in component.notes]
-        return numbers[0 if look.optional else -1] if numbers else None
-
-    @staticmethod
-    def selects(component, after):
-        return after is not None and "when" in after.notes and "when" not in component.notes
 
     def elements(self, type_id, count, look):
         return b"".join(self.element(type_id, look.inside(salt)) for salt in range(count))
