@@ -33,10 +33,12 @@
 
 #include "quarn_asn1/attribute.h"
 #include "quarn_asn1/authenticode.h"
+#include "quarn_asn1/cades.h"
 #include "quarn_asn1/certstore.h"
 #include "quarn_asn1/cms.h"
 #include "quarn_asn1/core.h"
 #include "quarn_asn1/ecc.h"
+#include "quarn_asn1/ers.h"
 #include "quarn_asn1/ess.h"
 #include "quarn_asn1/extension.h"
 #include "quarn_asn1/inspect.h"

@@ -11,9 +11,11 @@ namespace {
 
 #include "modules/gen/ASN1_Attribute.inc"
 #include "modules/gen/ASN1_Authenticode.inc"
+#include "modules/gen/ASN1_CAdES.inc"
 #include "modules/gen/ASN1_CMS.inc"
 #include "modules/gen/ASN1_CertStore.inc"
 #include "modules/gen/ASN1_ECC.inc"
+#include "modules/gen/ASN1_ERS.inc"
 #include "modules/gen/ASN1_ESS.inc"
 #include "modules/gen/ASN1_Extension.inc"
 #include "modules/gen/ASN1_OCSP.inc"

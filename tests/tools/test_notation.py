@@ -95,7 +95,7 @@ class Output(unittest.TestCase):
         self.has(rows.rows(modules[1]), "numbered_from(1)", 'string_choice("Name", kM1Unit, kNameAlternatives)')
         gaps = resolved("--- T.\n--@ type id=102\nT ::= CHOICE { a [0] IMPLICIT NULL, b [3] IMPLICIT NULL }")[0]
         self.has(rows.rows(gaps), "kTAlternatives, numbered_by_tag());")
-        self.has(api.bodies(gaps), "choice_part<void>(QUARN_ASN1_SHAPE, value, 3)")
+        self.has(api.bodies(gaps), "build_choice<quarn_shape>(QUARN_ASN1_SHAPE, 3)")
         point = modules[0].definitions[0]
         self.assertEqual([rows.registry_reference(point, variant) for variant in point.variants],
                          ["&kRecordCodec, &kPointSchema", "&kRecordCodec, &kPoint105Schema"])
