@@ -20,6 +20,7 @@ import built
 import der
 import messages
 import oracle
+import pyasn1_made
 from der import openssl
 
 HERE = pathlib.Path(__file__).parent
@@ -112,7 +113,7 @@ class Maker:
     def __init__(self, folder):
         self.folder, self.work = folder, folder / "work"
         shutil.rmtree(folder, ignore_errors=True)
-        for name in ("work", *TYPES, *messages.FOLDERS):
+        for name in ("work", "made", *TYPES, *messages.FOLDERS):
             (folder / name).mkdir(parents=True)
         self.config, self.jobs, self.refused = [(HERE / "sections.cnf").read_text(encoding="utf-8")], [], []
 
@@ -274,6 +275,14 @@ class Maker:
         for kind, name, body in built.bodies(key):
             (self.folder / kind / f"{name}.der").write_bytes(sign(body))
 
+    def encode(self):
+        """What openssl can neither write nor sign, by other encoders."""
+        try:
+            for number, (kind, octets) in enumerate(pyasn1_made.made()):
+                (self.folder / "made" / f"{kind}.{number}.der").write_bytes(octets)
+        except ImportError as error:
+            self.refused.append(f"no values by pyasn1: {error}")
+
     def make(self, source):
         self.section("req", "distinguished_name = person")
         self.section("policy", "commonName = optional")
@@ -290,6 +299,7 @@ class Maker:
             self.collect()
             messages.split(self.folder)
             self.build()
+            self.encode()
             if source:
                 for path in sorted(pathlib.Path(source).glob("*.crt")):
                     (self.folder / TYPES[0] / f"published_{path.stem}.der").write_bytes(from_pem(path))
