@@ -420,6 +420,10 @@ namespace {
 Status decode_plain_list(
     const Type &type, Reader &in, void **value, bool primitive, std::int64_t length) {
   const Schema &schema = *type.schema;
+  if (schema.layout != nullptr) {
+    const Type &elements = type_of(QUARN_ASN1_ANYLIST);
+    return elements.codec->decode_content(elements, in, value, primitive, length);
+  }
   return decode_list(in, reinterpret_cast<quarn_asn1_list **>(value), type_of(schema.element()),
                      primitive, length, schema.at_least);
 }
@@ -429,16 +433,16 @@ Status decode_plain_list(
 Status decode_list_value(
     const Type &type, Reader &in, void **value, bool primitive, std::int64_t length) {
   const Schema &schema = *type.schema;
-  if (schema.keep == Keep::nothing && schema.restriction == nullptr) {
+  if (!schema.wraps_list() && schema.restriction == nullptr) {
     return decode_plain_list(type, in, value, primitive, length);
   }
   if (value != nullptr) *value = nullptr;
   if (in.is_null() || value == nullptr) return fail(schema, in, QUARN_ERROR_ARGUMENT);
-  const bool wrapped = schema.keep == Keep::encoding;
-  Value made(type, wrapped ? new_record(schema) : nullptr);
-  if (wrapped && made.get() == nullptr) return fail(schema, in, QUARN_ERROR_NO_MEMORY);
-  void **list = wrapped ? components(made.get()) : made.out();
+  Value made(type, schema.wraps_list() ? new_record(schema) : nullptr);
+  if (schema.wraps_list() && made.get() == nullptr) return fail(schema, in, QUARN_ERROR_NO_MEMORY);
+  void **list = schema.wraps_list() ? components(made.get()) : made.out();
   Status status = decode_plain_list(type, in, list, primitive, length);
+  if (status && schema.layout != nullptr) status = lay_out(type, in, made.get());
   if (status && !allowed(schema, made.get())) status = refuse(schema, in.ctx(), in.offset());
   if (status) *value = made.release();
   return status;

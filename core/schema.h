@@ -22,6 +22,8 @@
 
 namespace quarn::asn1 {
 
+struct Type;
+
 enum class Tagging : std::uint8_t {
   plain,               // the identifier of the component's own type
   implicit,            // [n] in place of it
@@ -83,6 +85,7 @@ enum class Keep : std::uint8_t {
   nothing,
   positions,   // no octets, but where the components of a record stood in them
   body_alone,  // a record: the encoding of its first component, which is signed
+  layout,      // a list of elements of any type: no octets, but a value of the layout they may have
   encoding,    // a list: its whole encoding
   body         // a signed object, a record: its whole encoding, and that of the first component
 };
@@ -107,11 +110,14 @@ struct Schema {
   std::uint8_t first_number = 0;  // of the alternatives of a CHOICE
   bool numbered_by_tag = false;   // those have the numbers of their tags
   const Restriction *restriction = nullptr;
+  const Type *layout = nullptr;  // that elements of any type may have
 
   constexpr bool is_choice() const { return kind == Kind::choice || kind == Kind::string_choice; }
   constexpr bool is_list() const { return kind == Kind::list; }
   // Its own, and that of its first component.
   constexpr bool keeps_octets() const { return keep >= Keep::encoding; }
+  // A list that lies in a record of its own, with what it keeps.
+  constexpr bool wraps_list() const { return is_list() && keep != Keep::nothing; }
   constexpr bool keeps_body() const { return keep == Keep::body || keep == Keep::body_alone; }
   constexpr quarn_asn1_type_id element() const { return fields[0].type(); }
 };
@@ -302,6 +308,13 @@ constexpr Schema open_tail(const char *name,
 template <typename... Notes>
 constexpr Schema list(const char *name, Unit unit, std::span<const Field> element, Notes... notes) {
   return notation::schema(name, unit, element, Kind::list, notes...);
+}
+inline constexpr Field kElementOfAnyType[] = {field("element", QUARN_ASN1_ANY)};
+// A type whose layout is inferred: what is laid out otherwise is read and written all the same.
+constexpr Schema inferred(const char *name, Unit unit, const Type &layout) {
+  Schema made = list(name, unit, kElementOfAnyType, Keep::layout);
+  made.layout = &layout;
+  return made;
 }
 template <typename... Notes>
 constexpr Schema choice(const char *name,

@@ -25,7 +25,8 @@ class SchemaCheck {
       case Kind::open_tail:
         return ends_open(schema.fields);
       case Kind::list:
-        return schema.fields.size() == 1;
+        return schema.fields.size() == 1 &&
+               (schema.layout == nullptr || well_formed(*schema.layout->schema));
       case Kind::choice:
         return distinct(schema.fields);
       case Kind::string_choice:
@@ -66,7 +67,7 @@ class SchemaCheck {
   // Names are lists; signed objects begin with their body, which says its own length; what has
   // positions is a record.
   constexpr bool keeps_what_it_can(const Schema &schema) const {
-    if (schema.keep == Keep::encoding) return schema.is_list();
+    if (schema.keep == Keep::encoding || schema.keep == Keep::layout) return schema.is_list();
     if (schema.keep == Keep::nothing) return true;
     if (schema.kind != Kind::record) return false;
     if (!schema.keeps_body()) return true;

@@ -13,7 +13,8 @@ TAGS = {9: 12, 11: 19}
 STRUCTURED = {100: ("point", "Point", 16, "constructed"), 101: ("points", "Points", 16, "constructed"),
               102: ("shape", "shape", 0, "either"), 103: ("name", "name", 0, "either"),
               104: ("bag", "bag", 17, "constructed"), 105: ("spot", "Point", 16, "constructed"),
-              106: ("odd", "odd", 0, "either"), 107: ("short", "name", 0, "either")}
+              106: ("odd", "odd", 0, "either"), 107: ("short", "name", 0, "either"),
+              108: ("vague", "vague", 16, "constructed"), 109: ("dim", "dim", 0, "either")}
 
 
 def registry():
@@ -134,11 +135,15 @@ class Output(unittest.TestCase):
                         "--- S.\n--@ type id=100 keep=body\n--@ also id=105\nS ::= SEQUENCE {\na O, --@ through\nb NULL\n}\n"
                         "--- O.\n--@ type id=106 wire=sequence accessors=own\nO ::= SEQUENCE {\nc N OPTIONAL,\nd N --@ has=dd\n}\n"
                         "--- C.\n--@ type id=104 codec=kC keep=bodyalone\nC ::= SET { a N }\n"
-                        "--- E.\n--@ type id=102\nE ::= CHOICE { good [0] IMPLICIT NULL, bad INTEGER }")
+                        "--- E.\n--@ type id=102\nE ::= CHOICE { good [0] IMPLICIT NULL, bad INTEGER }\n"
+                        "--- I.\n--@ type id=109 layout=inferred\nI ::= CHOICE { a INTEGER }\n"
+                        "--- J.\n--@ type id=108 layout=inferred\nJ ::= SEQUENCE { a I }")
         self.has(rows.rows(kept[0]), 'field("line", QUARN_ASN1_U9)', "keep_encoding());", "keep_body());",
-                 "keep_body_alone());")
+                 "keep_body_alone());", 'constexpr Schema kISchema = inferred("I", kM0Unit, kILayout);',
+                 'kILayout{"dim", &kChoiceCodec, &kILayoutSchema, 0, 0x10200, kUniversal, -1};')
         self.has(api.bodies(kept[0]), "quarn_Points_free(quarn_points *value)", "quarn_points *quarn_point_getd(const quarn_point *value) {\n"
                  "  return quarn_odd_getd(quarn::asn1::part<quarn_odd>(value, 0));",
+                 "quarn::asn1::part<quarn_dim>(quarn::asn1::inferred_layout(value), 0)",
                  "quarn_shape *quarn_shape_newgood(void) {\n  return quarn::asn1::build_choice<quarn_shape>(QUARN_ASN1_SHAPE, 0);",
                  "int quarn_point_hasc(", "int quarn_point_hasdd(",
                  "int quarn_point_gettbsocts(quarn_point *value, uint8_t *buffer, uint64_t *length)")

@@ -93,6 +93,8 @@ class Resolver:
             owner = self.by_stem.setdefault(variant.row.stem, definition)
             if variant is definition.variants[0]:
                 definition.owner = owner
+        if "layout" in definition.notes and definition.is_list:
+            definition.fail("layout=inferred is for records and CHOICEs")
         bare = definition.is_list and "keep" not in definition.notes and "codec" not in definition.notes
         definition.struct = "quarn_asn1_list" if bare else f"quarn_{definition.variants[0].prefix}"
 
