@@ -27,10 +27,21 @@ bool are_enough(const Schema &schema, std::span<const void *const> parts) {
   return true;
 }
 
+// What constructors make and getters look into: a value of the layout, where a type has one.
+const Type &made_as(const Type &type) {
+  return type.schema->layout == nullptr ? type : *type.schema->layout;
+}
+const void *seen_in(const Type &type, const void *value) {
+  return type.schema->layout == nullptr ? value : laid_out(value);
+}
+void *finished(const Type &type, Value &made) {
+  return type.schema->layout == nullptr ? made.release() : value_of_layout(type, made.get());
+}
+
 }  // namespace
 
 void *build_record(quarn_asn1_type_id id, std::span<const void *const> parts) {
-  const Type &type = type_of(id);
+  const Type &type = made_as(type_of(id));
   const Schema &schema = *type.schema;
   if (!are_enough(schema, parts)) return nullptr;
   Value record(type, new_record(schema));
@@ -47,17 +58,18 @@ void *build_record(quarn_asn1_type_id id, std::span<const void *const> parts) {
   }
   const bool checked = schema.restriction != nullptr && !schema.restriction->decode_only;
   if (checked && !allowed(schema, record.get())) return nullptr;
-  return record.release();
+  return finished(type_of(id), record);
 }
 
 void *build_alternative(quarn_asn1_type_id id, std::uint64_t number, const void *value) {
-  const Type &type = type_of(id);
+  const Type &type = made_as(type_of(id));
   const std::uint32_t index = alternative_index(*type.schema, number);
   if (index == type.schema->fields.size() || value == nullptr) return nullptr;
   Value choice(type, new_choice(*type.schema, index));
   if (choice.get() == nullptr) return nullptr;
   void **component = &static_cast<Choice *>(choice.get())->value;
-  return copy_component(type.schema->fields[index], value, component) ? choice.release() : nullptr;
+  if (!copy_component(type.schema->fields[index], value, component)) return nullptr;
+  return finished(type_of(id), choice);
 }
 
 void *build_null_alternative(quarn_asn1_type_id type, std::uint64_t number) {
@@ -65,16 +77,7 @@ void *build_null_alternative(quarn_asn1_type_id type, std::uint64_t number) {
 }
 
 void *build_empty_list(quarn_asn1_type_id id) {
-  const Type &type = type_of(id);
-  quarn_asn1_list *list = quarn_asn1_list_new();
-  if (type.schema->keep == Keep::nothing || list == nullptr) return list;
-  void *record = new_record(*type.schema);
-  if (record == nullptr) {
-    quarn_asn1_list_free(list, type.schema->element());
-  } else {
-    components(record)[0] = list;
-  }
-  return record;
+  return build_list(*type_of(id).schema);
 }
 
 void *copy_of(quarn_asn1_type_id type, const void *value) {
@@ -86,12 +89,17 @@ void *part_of(const void *value, std::size_t index) {
   return component(value, index);
 }
 
+const void *inferred_layout(const void *value) {
+  return laid_out(value);
+}
+
 void *alternative_of(quarn_asn1_type_id type, const void *value, std::uint64_t number) {
-  return alternative(type_of(type), value, number);
+  return alternative(made_as(type_of(type)), seen_in(type_of(type), value), number);
 }
 
 std::uint32_t choice_number(quarn_asn1_type_id type, const void *value) {
-  return static_cast<std::uint32_t>(alternative_number(type_of(type), value));
+  const Type &row = type_of(type);
+  return static_cast<std::uint32_t>(alternative_number(made_as(row), seen_in(row, value)));
 }
 
 std::uint64_t string_tag(quarn_asn1_type_id type, const void *value) {

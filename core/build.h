@@ -35,6 +35,9 @@ void *build_empty_list(quarn_asn1_type_id type);
 void *copy_of(quarn_asn1_type_id type, const void *value);
 void *alternative_of(quarn_asn1_type_id type, const void *value, std::uint64_t number);
 void *part_of(const void *value, std::size_t index);
+// Of a type whose layout is inferred: the record that the getters look into, null for what is laid
+// out otherwise. CHOICEs find it themselves.
+const void *inferred_layout(const void *value);
 
 template <typename T, typename... Parts>
 T *build(quarn_asn1_type_id type, const Parts *...parts) {

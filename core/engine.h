@@ -4,8 +4,8 @@
 //     CHOICE    one block: which alternative, and a pointer to its value
 //     list      quarn_asn1_list
 //
-// Behind the components of a type that keeps octets, or positions, stands what it keeps; a list
-// that keeps its encoding is a record of one component, the list itself.
+// Behind the components of a type that keeps octets, positions or a value of a layout, stands what
+// it keeps; a list that keeps something is a record of one component, the list itself.
 //
 // A component with a default is never absent once a value has been decoded: it holds its default.
 // C code knows these values by the names of incomplete types only, so that one layout serves all.
@@ -51,10 +51,12 @@ std::uint32_t alternative_index(const Schema &schema, std::uint64_t number);
 
 // The list of a value of a list type.
 inline quarn_asn1_list *list_in(const Schema &schema, const void *value) {
-  if (schema.keep == Keep::encoding) return static_cast<quarn_asn1_list *>(component(value, 0));
+  if (schema.wraps_list()) return static_cast<quarn_asn1_list *>(component(value, 0));
   return static_cast<quarn_asn1_list *>(const_cast<void *>(value));
 }
 
+// An empty list of a list type; null when memory is short.
+void *build_list(const Schema &schema);
 // A record with all components absent; null when memory is short.
 void *new_record(const Schema &schema);
 // A CHOICE of the alternative with this index in the schema, without its value; null when memory is
@@ -87,6 +89,22 @@ inline std::int64_t *positions_in(const Schema &schema, void *value) {
   return reinterpret_cast<std::int64_t *>(components(value) + schema.fields.size());
 }
 constexpr std::size_t kMorePositions = 2;
+
+// ---- Elements of any type with a layout
+
+// They as a value of the layout; null when they are laid out otherwise, and for null.
+inline void *laid_out(const void *value) {
+  return component(value, 1);
+}
+// Finds that out, of new elements.
+Status lay_out(const Type &type, Reader &in, void *value);
+// The elements of a value of the layout; null when memory is short.
+void *value_of_layout(const Type &type, void *view);
+// A type without a tag of its own is one element.
+Status decode_one_element(const Type &type, Reader &in, void **value);
+inline bool is_one_element(const Type &type) {
+  return type.schema->keep == Keep::layout && type.form == -1;
+}
 
 // ---- Inside the engine
 

@@ -27,13 +27,11 @@ Status note(
 }
 
 bool field_matches(const Field &field, const Identifier &identifier) {
-  if (field.tagging == Tagging::plain) {
-    const Type &type = type_of(field.type());
-    const bool exact = field.presence == Presence::optional_exact;
-    return matches(type, identifier) && (!exact || identifier.primitive == (type.form != 0));
-  }
+  const Type &type = type_of(field.type());
+  const bool form = !field.exact() || identifier.primitive == (type.form != 0);
+  if (field.tagging == Tagging::plain) return matches(type, identifier) && form;
   if (!identifier.is(kContext, field.tag)) return false;
-  return field.tagging != Tagging::explicitly || !identifier.primitive;
+  return field.tagging == Tagging::explicitly ? !identifier.primitive : form;
 }
 
 // A component whole, by its row. That no end-of-contents is taken for an open type is the caller's
@@ -76,6 +74,70 @@ Status decode_field_rest(const Schema &schema,
   }
   const bool primitive = identifier.primitive && field.tagging != Tagging::implicit_primitive;
   return note(schema, in, decode_content(type, in, value, primitive, length), code);
+}
+
+// The components of a type down to the first that has no components, each the first one of the one
+// before. The identifier of the outermost has been read.
+class FirstComponents {
+ public:
+  FirstComponents(const Schema &schema, Reader &in, const Type &type, const Identifier &identifier)
+      : schema_(schema), in_(in), type_(&type), identifier_(identifier) {}
+
+  // Whether all of them are there.
+  Status find(bool &found) {
+    found_ = true;
+    Status status = Status::success();
+    while (status && found_ && type_ != nullptr) status = descend();
+    found = found_;
+    return status;
+  }
+
+ private:
+  Status descend() {
+    if (type_->schema == nullptr || type_->schema->is_list()) return stop();
+    for (const Field &field : type_->schema->fields) {
+      if (!type_->schema->is_choice()) return field.mandatory() ? enter(field) : stop();
+      if (!field_matches(field, identifier_)) continue;
+      if (field.tagging == Tagging::explicitly) return enter(field);
+      type_ = &type_of(field.type());
+      return Status::success();
+    }
+    found_ = false;
+    return Status::success();
+  }
+
+  Status stop() {
+    type_ = nullptr;
+    return Status::success();
+  }
+
+  Status enter(const Field &field) {
+    std::int64_t length = 0;
+    Status status = read_length(in_, length);
+    if (!status) return note(schema_, in_, status, QUARN_ASN1_ERROR_READ_LENGTH);
+    found_ = length != 0;
+    if (!found_) return status;
+    status = read_identifier(in_, identifier_);
+    if (!status) return note(schema_, in_, status, QUARN_ASN1_ERROR_READ_IDENTIFIER);
+    type_ = &type_of(field.type());
+    found_ = matches(*type_, identifier_);
+    return status;
+  }
+
+  const Schema &schema_;
+  Reader &in_;
+  const Type *type_;
+  Identifier identifier_;
+  bool found_ = true;
+};
+
+// Whether what follows an identifier begins as a type does, without moving on.
+Status look_inside(
+    const Schema &schema, Reader &in, const Type &type, const Identifier &identifier, bool &found) {
+  Capture octets(in);
+  const Status status = FirstComponents(schema, in, type, identifier).find(found);
+  if (!status || octets.give_back()) return status;
+  return fail(schema, in, QUARN_ERROR_NO_MEMORY);
 }
 
 // Reads one element as quarn_asn1_readoneobject() does, to be read again from the octets kept.
@@ -191,14 +253,32 @@ class RecordDecoder {
       const bool whole = field.tagging == Tagging::plain && !in_hand_;
       return whole ? take_named(field, *component) : named(field, take_expected(field, component));
     }
+    if (field.presence == Presence::selected) return take_selected(field, component);
     Status status = look();
     if (!status) return status;
-    if (in_hand_ && field_matches(field, identifier_)) {
+    bool found = in_hand_ && field_matches(field, identifier_);
+    if (found && field.told_inside()) {
+      status = named(field, look_inside(schema_, in_, type_of(field.type()), identifier_, found));
+      if (!status) return status;
+    }
+    if (found) {
       status = named(field, take_rest(field, component));
       return status ? look() : status;
     }
     if (take_default(field, component)) return status;
     return named(field, fail(schema_, in_, QUARN_ERROR_NO_MEMORY));
+  }
+
+  // The number before it says whether it is there. One that selects nothing is refused at once.
+  Status take_selected(const Field &field, void **component) {
+    if (!allowed(schema_, components_)) return refuse(schema_, in_.ctx(), in_.offset());
+    const Field *selector = &field;
+    while (selector->presence == Presence::selected) selector--;
+    const void *number = component[selector - &field];
+    std::int64_t selected = 0;
+    if (quarn_asn1_integer_getlong(static_cast<const quarn_asn1_integer *>(number), &selected) != 1)
+      return Status::success();
+    return selected == field.default_value ? take_named(field, *component) : Status::success();
   }
 
   // Says in which component a failure lies.
@@ -340,6 +420,10 @@ namespace {
 Status decode_plain_list(
     const Type &type, Reader &in, void **value, bool primitive, std::int64_t length) {
   const Schema &schema = *type.schema;
+  if (schema.layout != nullptr) {
+    const Type &elements = type_of(QUARN_ASN1_ANYLIST);
+    return elements.codec->decode_content(elements, in, value, primitive, length);
+  }
   return decode_list(in, reinterpret_cast<quarn_asn1_list **>(value), type_of(schema.element()),
                      primitive, length, schema.at_least);
 }
@@ -349,16 +433,16 @@ Status decode_plain_list(
 Status decode_list_value(
     const Type &type, Reader &in, void **value, bool primitive, std::int64_t length) {
   const Schema &schema = *type.schema;
-  if (schema.keep == Keep::nothing && schema.restriction == nullptr) {
+  if (!schema.wraps_list() && schema.restriction == nullptr) {
     return decode_plain_list(type, in, value, primitive, length);
   }
   if (value != nullptr) *value = nullptr;
   if (in.is_null() || value == nullptr) return fail(schema, in, QUARN_ERROR_ARGUMENT);
-  const bool wrapped = schema.keep == Keep::encoding;
-  Value made(type, wrapped ? new_record(schema) : nullptr);
-  if (wrapped && made.get() == nullptr) return fail(schema, in, QUARN_ERROR_NO_MEMORY);
-  void **list = wrapped ? components(made.get()) : made.out();
+  Value made(type, schema.wraps_list() ? new_record(schema) : nullptr);
+  if (schema.wraps_list() && made.get() == nullptr) return fail(schema, in, QUARN_ERROR_NO_MEMORY);
+  void **list = schema.wraps_list() ? components(made.get()) : made.out();
   Status status = decode_plain_list(type, in, list, primitive, length);
+  if (status && schema.layout != nullptr) status = lay_out(type, in, made.get());
   if (status && !allowed(schema, made.get())) status = refuse(schema, in.ctx(), in.offset());
   if (status) *value = made.release();
   return status;

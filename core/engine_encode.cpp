@@ -62,6 +62,7 @@ class Measure {
   std::int64_t element(const Type &type, void *value) {
     if (type.schema == nullptr) return length_of(type, value);
     if (is_kept(*type.schema, value)) return as_kept(*kept_by(*type.schema, value));
+    if (is_one_element(type)) return content(type, value);
     return element_length(tag_number_of(type, value), content(type, value));
   }
 
@@ -128,6 +129,7 @@ class Encoder {
     if (type.schema == nullptr) return encode(type, out_, value);
     const std::int64_t length = lengths_.next();
     if (value == nullptr) return kUnit.fail(out_.ctx(), QUARN_ERROR_ARGUMENT, out_.offset());
+    if (is_one_element(type)) return structured(type, value, 0);
     if (!type.schema->keeps_octets()) return whole(type, value, length);
     return keeping(type, value, length, *kept_by(*type.schema, value));
   }

@@ -18,7 +18,8 @@ void drop_body(const Schema &schema, void *value) {
 void free_list_value(const Type &type, void *value) {
   const Schema &schema = *type.schema;
   free_list(list_in(schema, value), type_of(schema.element()));
-  if (schema.keep == Keep::nothing) return;
+  if (!schema.wraps_list()) return;
+  if (schema.layout != nullptr) free_value(*schema.layout, laid_out(value));
   drop_encoding(schema, value);
   quarn_free(value);
 }
@@ -33,6 +34,8 @@ std::size_t size_kept(const Schema &schema) {
   switch (schema.keep) {
     case Keep::positions:
       return (schema.fields.size() + kMorePositions) * sizeof(std::int64_t);
+    case Keep::layout:
+      return sizeof(void *);
     case Keep::encoding:
       return sizeof(Kept);
     case Keep::body:
@@ -90,6 +93,18 @@ void *new_choice(const Schema &schema, std::uint32_t index) {
   const bool of_strings = schema.kind == Kind::string_choice;
   choice->index = of_strings ? schema.fields[index].type_id - QUARN_ASN1_UTF8STRING : index;
   return choice;
+}
+
+void *build_list(const Schema &schema) {
+  quarn_asn1_list *list = quarn_asn1_list_new();
+  if (!schema.wraps_list() || list == nullptr) return list;
+  void *record = new_record(schema);
+  if (record == nullptr) {
+    quarn_asn1_list_free(list, schema.element());
+  } else {
+    components(record)[0] = list;
+  }
+  return record;
 }
 
 void drop_encoding(const Schema &schema, void *value) {
@@ -191,6 +206,14 @@ constexpr Codec list_codec() {
   return codec;
 }
 const Codec kListCodec = list_codec();
+
+constexpr Codec element_codec() {
+  Codec codec = list_codec();
+  codec.decode_content = cannot_decode_content;
+  codec.decode = decode_one_element;
+  return codec;
+}
+const Codec kElementCodec = element_codec();
 
 constexpr Codec choice_codec() {
   Codec codec = record_codec();

@@ -110,6 +110,7 @@ class Reader {
   friend class Capture;
 
   void borrow();
+  std::uint64_t take_again(std::uint8_t *out, std::uint64_t count);
   Status octets_slowly(std::uint8_t *out, std::uint64_t count);
 
   const std::uint8_t *begin_ = nullptr;
@@ -121,6 +122,8 @@ class Reader {
   SharedOctets *block_ = nullptr;
   std::uint64_t settled_ = 0;
   Buffer captured_;
+  Buffer given_back_;            // by a Capture; read before the stream goes on
+  std::size_t taken_again_ = 0;  // of these
   int captures_ = 0;
   int depth_ = 0;
   int limit_ = 0;
@@ -159,6 +162,9 @@ class Capture {
     return in_.in_memory_ ? start_ : in_.captured_.data() + offset_;
   }
   std::size_t size() const { return static_cast<std::size_t>(in_.count() - before_); }
+
+  // Has the Reader give them out again. False when memory is short; then they are lost.
+  [[nodiscard]] bool give_back();
 
  private:
   Reader &in_;

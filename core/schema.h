@@ -22,6 +22,8 @@
 
 namespace quarn::asn1 {
 
+struct Type;
+
 enum class Tagging : std::uint8_t {
   plain,               // the identifier of the component's own type
   implicit,            // [n] in place of it
@@ -32,11 +34,15 @@ enum class Tagging : std::uint8_t {
 
 enum class Presence : std::uint8_t {
   mandatory,
+  mandatory_exact,  // in another form than its type's, what comes is something else
   optional,
-  optional_exact,  // in another form than its type's, what comes is another component
+  optional_exact,
+  optional_inside,  // told from the next component by what stands first inside it, too
+  selected,         // there when the INTEGER before it is default_value
   default_boolean,
   default_integer,
-  default_encoding
+  default_encoding,
+  default_inside  // an encoding, and told as optional_inside is
 };
 
 // A component of a record, or an alternative of a CHOICE.
@@ -45,13 +51,20 @@ struct Field {
   const std::uint8_t *default_octets;  // DER encoding of a default that is neither of the two below
   std::uint16_t type_id;
   std::uint16_t tag;  // n of [n]; plain: the universal tag that is written, 0 for the type's
-  std::int8_t default_value;  // 0 and 1 for FALSE and TRUE; how many default_octets there are
+  std::int8_t default_value;  // 0 and 1 for FALSE and TRUE; how many default_octets there are;
+                              // the number that selects the component
   std::int8_t size;  // octets of a string; negative: it has at least as many; 0: any number
   Tagging tagging;
   Presence presence;
 
   constexpr quarn_asn1_type_id type() const { return static_cast<quarn_asn1_type_id>(type_id); }
-  constexpr bool mandatory() const { return presence == Presence::mandatory; }
+  constexpr bool mandatory() const { return presence <= Presence::mandatory_exact; }
+  constexpr bool exact() const {
+    return presence == Presence::mandatory_exact || presence == Presence::optional_exact;
+  }
+  constexpr bool told_inside() const {
+    return presence == Presence::optional_inside || presence == Presence::default_inside;
+  }
   constexpr bool has_default() const { return presence >= Presence::default_boolean; }
 };
 
@@ -72,6 +85,7 @@ enum class Keep : std::uint8_t {
   nothing,
   positions,   // no octets, but where the components of a record stood in them
   body_alone,  // a record: the encoding of its first component, which is signed
+  layout,      // a list of elements of any type: no octets, but a value of the layout they may have
   encoding,    // a list: its whole encoding
   body         // a signed object, a record: its whole encoding, and that of the first component
 };
@@ -96,11 +110,14 @@ struct Schema {
   std::uint8_t first_number = 0;  // of the alternatives of a CHOICE
   bool numbered_by_tag = false;   // those have the numbers of their tags
   const Restriction *restriction = nullptr;
+  const Type *layout = nullptr;  // that elements of any type may have
 
   constexpr bool is_choice() const { return kind == Kind::choice || kind == Kind::string_choice; }
   constexpr bool is_list() const { return kind == Kind::list; }
   // Its own, and that of its first component.
   constexpr bool keeps_octets() const { return keep >= Keep::encoding; }
+  // A list that lies in a record of its own, with what it keeps.
+  constexpr bool wraps_list() const { return is_list() && keep != Keep::nothing; }
   constexpr bool keeps_body() const { return keep == Keep::body || keep == Keep::body_alone; }
   constexpr quarn_asn1_type_id element() const { return fields[0].type(); }
 };
@@ -122,6 +139,8 @@ struct Size {
   std::int8_t octets;
 };
 struct PrimitiveForm {};
+struct ExactForm {};
+struct ToldInside {};
 struct AtLeast {
   std::uint8_t count;
 };
@@ -144,6 +163,12 @@ constexpr void note(Field &field, Size size) {
 }
 constexpr void note(Field &field, PrimitiveForm /*form*/) {
   field.tagging = Tagging::implicit_primitive;
+}
+constexpr void note(Field &field, ExactForm /*form*/) {
+  field.presence = field.mandatory() ? Presence::mandatory_exact : Presence::optional_exact;
+}
+constexpr void note(Field &field, ToldInside /*inside*/) {
+  field.presence = field.has_default() ? Presence::default_inside : Presence::optional_inside;
 }
 constexpr void note(Schema &schema, Keep keep) {
   schema.keep = keep;
@@ -191,10 +216,19 @@ constexpr notation::PrimitiveForm primitive_form() {
 constexpr notation::Occurrence optional() {
   return {Presence::optional, 0};
 }
-// An optional component that is recognised by class, tag and form: others go by class and tag, and
-// another form is a failure of theirs.
-constexpr notation::Occurrence optional_exact() {
-  return {Presence::optional_exact, 0};
+// After optional(), or on an alternative: recognised by class, tag and form. Others go by class and
+// tag, and another form is a failure of theirs.
+constexpr notation::ExactForm exact_form() {
+  return {};
+}
+// After optional() or default_encoding(): a component that begins with the same tag as the next one
+// and is recognised by what its own type has first inside.
+constexpr notation::ToldInside told_inside() {
+  return {};
+}
+// There when the INTEGER before it, and before others so selected, is this number.
+constexpr notation::Occurrence selected_by(std::int8_t number) {
+  return {Presence::selected, number};
 }
 constexpr notation::Occurrence defaults_to(bool value) {
   return {Presence::default_boolean, value};
@@ -274,6 +308,13 @@ constexpr Schema open_tail(const char *name,
 template <typename... Notes>
 constexpr Schema list(const char *name, Unit unit, std::span<const Field> element, Notes... notes) {
   return notation::schema(name, unit, element, Kind::list, notes...);
+}
+inline constexpr Field kElementOfAnyType[] = {field("element", QUARN_ASN1_ANY)};
+// A type whose layout is inferred: what is laid out otherwise is read and written all the same.
+constexpr Schema inferred(const char *name, Unit unit, const Type &layout) {
+  Schema made = list(name, unit, kElementOfAnyType, Keep::layout);
+  made.layout = &layout;
+  return made;
 }
 template <typename... Notes>
 constexpr Schema choice(const char *name,

@@ -25,7 +25,8 @@ class SchemaCheck {
       case Kind::open_tail:
         return ends_open(schema.fields);
       case Kind::list:
-        return schema.fields.size() == 1;
+        return schema.fields.size() == 1 &&
+               (schema.layout == nullptr || well_formed(*schema.layout->schema));
       case Kind::choice:
         return distinct(schema.fields);
       case Kind::string_choice:
@@ -61,7 +62,11 @@ class SchemaCheck {
     if (field.presence == Presence::default_integer) {
       return field.type_id == QUARN_ASN1_INTEGER || field.type_id == QUARN_ASN1_ENUMERATED;
     }
-    if (field.presence == Presence::default_encoding) {
+    if (field.exact() && field.tagging == Tagging::explicitly) return false;
+    if (field.told_inside() && (field.tagging != Tagging::plain || row(field).schema == nullptr)) {
+      return false;
+    }
+    if (field.presence >= Presence::default_encoding) {
       return field.default_value >= 2 && field.default_value <= kMostDefaultOctets;
     }
     return true;
@@ -70,7 +75,7 @@ class SchemaCheck {
   // Names are lists; signed objects begin with their body, which says its own length; what has
   // positions is a record.
   constexpr bool keeps_what_it_can(const Schema &schema) const {
-    if (schema.keep == Keep::encoding) return schema.is_list();
+    if (schema.keep == Keep::encoding || schema.keep == Keep::layout) return schema.is_list();
     if (schema.keep == Keep::nothing) return true;
     if (schema.kind != Kind::record) return false;
     if (!schema.keeps_body()) return true;
@@ -113,9 +118,15 @@ class SchemaCheck {
   }
 
   // Components that share a tag on purpose.
-  static constexpr bool take_turns(const Field &a, const Field &b) {
+  static constexpr bool told_apart(const Field &a, const Field &b) {
+    if (a.told_inside()) return true;
     return a.tagging == Tagging::implicit_primitive && b.tagging == Tagging::implicit_primitive &&
            a.type_id == b.type_id;
+  }
+
+  static constexpr bool follows_number(std::span<const Field> fields, std::size_t i) {
+    while (i > 0 && fields[i].presence == Presence::selected) i--;
+    return fields[i].mandatory() && fields[i].type_id == QUARN_ASN1_INTEGER;
   }
 
   // Each field that may be absent differs from those that may come in its place: the others that
@@ -123,8 +134,12 @@ class SchemaCheck {
   constexpr bool decidable(std::span<const Field> fields) const {
     for (std::size_t i = 0; i < fields.size(); i++) {
       if (fields[i].mandatory()) continue;
+      if (fields[i].presence == Presence::selected) {
+        if (!follows_number(fields, i)) return false;
+        continue;
+      }
       for (std::size_t next = i + 1; next < fields.size(); next++) {
-        if (clash(fields[i], fields[next]) && !take_turns(fields[i], fields[next])) return false;
+        if (clash(fields[i], fields[next]) && !told_apart(fields[i], fields[next])) return false;
         if (fields[next].mandatory()) break;
       }
       // An open type cannot be begun once its identifier has been read.

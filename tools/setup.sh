@@ -5,7 +5,8 @@
 set -eu
 
 packages="g++ cmake ninja-build pkg-config python3 rapidjson-dev libboost-dev libcli11-dev libgtest-dev
-googletest openssl ca-certificates jq tzdata ldap-utils slapd"
+googletest openssl ca-certificates jq tzdata python3-pyasn1-modules ldap-utils
+slapd"
 case "${1:-}" in
   bench) packages="$packages libbenchmark-dev libssl-dev libmbedtls-dev libbotan-2-dev libtasn1-6-dev
 libtasn1-bin libgnutls28-dev heimdal-multidev" ;;

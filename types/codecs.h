@@ -30,6 +30,7 @@ extern const Codec kAnylist1Codec;  // ASN1_List.cpp; at least one element
 // core/engine_value.cpp: types that have a schema.
 extern const Codec kRecordCodec;
 extern const Codec kListCodec;
+extern const Codec kElementCodec;
 extern const Codec kChoiceCodec;
 
 }  // namespace quarn::asn1

@@ -193,6 +193,138 @@ QUARN_ASN1_API quarn_asn1_bitstring *quarn_sm2envelopedkey_getpubkey(
 QUARN_ASN1_API quarn_asn1_bitstring *quarn_sm2envelopedkey_getencprivkey(
     const quarn_sm2envelopedkey *value);
 
+/* ---- RSAEnvelopedKeyPair */
+
+/**
+ * A key pair of RSA, encrypted with a key that is encrypted in turn. The layout is inferred from
+ * SM2EnvelopedKey; no public standard defines it. Any elements are read, and written as they came.
+ *
+ *     RSAEnvelopedKeyPair ::= SEQUENCE {
+ *         symAlgID          AlgorithmIdentifier,
+ *         symEncryptedKey   OCTET STRING,
+ *         encryptedKeyPair  OCTET STRING
+ *     }
+ *
+ * Type id QUARN_ASN1_RSAENVELOPEDKEYPAIR (205).
+ */
+typedef struct quarn_rsaenvelopedkeypair quarn_rsaenvelopedkeypair;
+/** As quarn_asn1_value_free() under QUARN_ASN1_RSAENVELOPEDKEYPAIR. */
+QUARN_ASN1_API void quarn_rsaenvelopedkeypair_free(quarn_rsaenvelopedkeypair *value);
+/** From its components. */
+QUARN_ASN1_API quarn_rsaenvelopedkeypair *quarn_rsaenvelopedkeypair_new(
+    const quarn_x509algoid *sym_alg_id,
+    const quarn_asn1_octetstring *sym_encrypted_key,
+    const quarn_asn1_octetstring *encrypted_key_pair);
+/** symAlgID, null also when the elements are laid out otherwise. */
+QUARN_ASN1_API quarn_x509algoid *quarn_rsaenvelopedkeypair_getsymalgo(
+    const quarn_rsaenvelopedkeypair *value);
+/** symEncryptedKey, null also when the elements are laid out otherwise. */
+QUARN_ASN1_API quarn_asn1_octetstring *quarn_rsaenvelopedkeypair_getsymenckey(
+    const quarn_rsaenvelopedkeypair *value);
+/** encryptedKeyPair, null also when the elements are laid out otherwise. */
+QUARN_ASN1_API quarn_asn1_octetstring *quarn_rsaenvelopedkeypair_getenckeypair(
+    const quarn_rsaenvelopedkeypair *value);
+
+/* ---- InnerEnvelopedKeyPair */
+
+/**
+ * A key pair of either kind. The layout is inferred; no public standard defines it. Any element is
+ * read, and written as it came.
+ *
+ *     InnerEnvelopedKeyPair ::= CHOICE {
+ *         rsa  [0] IMPLICIT RSAEnvelopedKeyPair,
+ *         sm2  [1] IMPLICIT SM2EnvelopedKey
+ *     }
+ *
+ * Type id QUARN_ASN1_INNERENVELOPEDKEYPAIR (206).
+ */
+typedef struct quarn_innerenvelopedkeypair quarn_innerenvelopedkeypair;
+/** As quarn_asn1_value_free() under QUARN_ASN1_INNERENVELOPEDKEYPAIR. */
+QUARN_ASN1_API void quarn_innerenvelopedkeypair_free(quarn_innerenvelopedkeypair *value);
+/** Number of the alternative: 0 rsa, 1 sm2; all ones for null, and for another element. */
+QUARN_ASN1_API uint32_t quarn_innerenvelopedkeypair_gettype(
+    const quarn_innerenvelopedkeypair *value);
+/** The alternative rsa. */
+QUARN_ASN1_API quarn_innerenvelopedkeypair *quarn_innerenvelopedkeypair_newrsa(
+    const quarn_rsaenvelopedkeypair *rsa);
+/** rsa, null when it is another alternative. */
+QUARN_ASN1_API quarn_rsaenvelopedkeypair *quarn_innerenvelopedkeypair_getrsa(
+    const quarn_innerenvelopedkeypair *value);
+/** The alternative sm2. */
+QUARN_ASN1_API quarn_innerenvelopedkeypair *quarn_innerenvelopedkeypair_newsm2(
+    const quarn_sm2envelopedkey *sm2);
+/** sm2, null when it is another alternative. */
+QUARN_ASN1_API quarn_sm2envelopedkey *quarn_innerenvelopedkeypair_getsm2(
+    const quarn_innerenvelopedkeypair *value);
+
+/* ---- EnvelopedKeyPair */
+
+/**
+ * A key pair with a version. The layout is inferred; no public standard defines it. Any elements
+ * are read, and written as they came.
+ *
+ *     EnvelopedKeyPair ::= SEQUENCE {
+ *         version  INTEGER,
+ *         keyPair  InnerEnvelopedKeyPair
+ *     }
+ *
+ * Type id QUARN_ASN1_ENVELOPEDKEYPAIR (207).
+ */
+typedef struct quarn_envelopedkeypair quarn_envelopedkeypair;
+/** As quarn_asn1_value_free() under QUARN_ASN1_ENVELOPEDKEYPAIR. */
+QUARN_ASN1_API void quarn_envelopedkeypair_free(quarn_envelopedkeypair *value);
+/** From its components. */
+QUARN_ASN1_API quarn_envelopedkeypair *quarn_envelopedkeypair_new(
+    const quarn_asn1_integer *version, const quarn_innerenvelopedkeypair *key_pair);
+/** version, null also when the elements are laid out otherwise. */
+QUARN_ASN1_API quarn_asn1_integer *quarn_envelopedkeypair_getversion(
+    const quarn_envelopedkeypair *value);
+/** keyPair, null also when the elements are laid out otherwise. */
+QUARN_ASN1_API quarn_innerenvelopedkeypair *quarn_envelopedkeypair_getkeypair(
+    const quarn_envelopedkeypair *value);
+
+/* ---- ECCEnvelopedKeyPair */
+
+/**
+ * A key pair of any curve, encrypted with a key that is encrypted in turn. The layout is inferred;
+ * no public standard defines it. Any elements are read, and written as they came.
+ *
+ *     ECCEnvelopedKeyPair ::= SEQUENCE {
+ *         symAlgID             AlgorithmIdentifier,
+ *         symEncryptedKey      OCTET STRING,
+ *         parameters           EcpkParameters,
+ *         publicKey            BIT STRING,
+ *         encryptedPrivateKey  BIT STRING
+ *     }
+ *
+ * Type id QUARN_ASN1_ECCENVELOPEDKEYPAIR (301).
+ */
+typedef struct quarn_eccenvelopedkeypair quarn_eccenvelopedkeypair;
+/** As quarn_asn1_value_free() under QUARN_ASN1_ECCENVELOPEDKEYPAIR. */
+QUARN_ASN1_API void quarn_eccenvelopedkeypair_free(quarn_eccenvelopedkeypair *value);
+/** From its components. */
+QUARN_ASN1_API quarn_eccenvelopedkeypair *quarn_eccenvelopedkeypair_new(
+    const quarn_x509algoid *sym_alg_id,
+    const quarn_asn1_octetstring *sym_encrypted_key,
+    const quarn_ecpkparameters *parameters,
+    const quarn_asn1_bitstring *public_key,
+    const quarn_asn1_bitstring *encrypted_private_key);
+/** symAlgID, null also when the elements are laid out otherwise. */
+QUARN_ASN1_API quarn_x509algoid *quarn_eccenvelopedkeypair_getsymalgo(
+    const quarn_eccenvelopedkeypair *value);
+/** symEncryptedKey, null also when the elements are laid out otherwise. */
+QUARN_ASN1_API quarn_asn1_octetstring *quarn_eccenvelopedkeypair_getsymenckey(
+    const quarn_eccenvelopedkeypair *value);
+/** parameters, null also when the elements are laid out otherwise. */
+QUARN_ASN1_API quarn_ecpkparameters *quarn_eccenvelopedkeypair_getparams(
+    const quarn_eccenvelopedkeypair *value);
+/** publicKey, null also when the elements are laid out otherwise. */
+QUARN_ASN1_API quarn_asn1_bitstring *quarn_eccenvelopedkeypair_getpubkey(
+    const quarn_eccenvelopedkeypair *value);
+/** encryptedPrivateKey, null also when the elements are laid out otherwise. */
+QUARN_ASN1_API quarn_asn1_bitstring *quarn_eccenvelopedkeypair_getencprivkey(
+    const quarn_eccenvelopedkeypair *value);
+
 #ifdef __cplusplus
 }
 #endif

@@ -2,7 +2,9 @@
 /**
  * The messages of LDAP (RFC 4511) and what they are made of. Names and values are OCTET STRINGs
  * there, in UTF-8 if they are text. Enumerations are extensible: any number is decoded. Sets keep
- * the order that they come in. Elements behind those of a definition are refused.
+ * the order that they come in. Elements behind those of a definition are refused. Peers take
+ * definite lengths alone (RFC 4511, 5.1): an OCTET STRING over a stream that cannot tell its length
+ * is not for them.
  *
  * Constructors copy their arguments and return null when a mandatory one is null, one has another
  * SIZE than the definition says, or memory is short. Getters lend: what they return lives as long
@@ -972,7 +974,7 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_ldapintermediateresponse_getrespons
 
 /**
  * A message (RFC 4511, 4.1.1). Message numbers, also those of abandoned operations, are from 0 to
- * 2147483647.
+ * 2147483647. That an operation is given and lent by its number is this library's choice.
  *
  *     LDAPMessage ::= SEQUENCE {
  *         messageID   INTEGER,

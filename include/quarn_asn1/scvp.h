@@ -174,7 +174,8 @@ QUARN_ASN1_API quarn_scvpacreference *quarn_scvpcertreference_getac(
 /* ---- PKCReferences */
 
 /**
- * Public key certificates; also those that a server trusts (RFC 5055, 3.2.1, 3.2.4.7).
+ * Public key certificates (RFC 5055, 3.2.1), and under their own type id the trust anchors of a
+ * policy (3.2.4.7): that it stands for these is inferred.
  *
  *     PKCReferences ::= SEQUENCE SIZE (1..MAX) OF PKCReference
  *

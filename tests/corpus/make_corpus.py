@@ -21,6 +21,7 @@ import der
 import ldap_recorded
 import messages
 import oracle
+import pyasn1_made
 from der import openssl
 
 HERE = pathlib.Path(__file__).parent
@@ -113,7 +114,7 @@ class Maker:
     def __init__(self, folder):
         self.folder, self.work = folder, folder / "work"
         shutil.rmtree(folder, ignore_errors=True)
-        for name in ("work", *TYPES, *messages.FOLDERS, ldap_recorded.FOLDER):
+        for name in ("work", "made", *TYPES, *messages.FOLDERS, ldap_recorded.FOLDER):
             (folder / name).mkdir(parents=True)
         self.config, self.jobs, self.refused = [(HERE / "sections.cnf").read_text(encoding="utf-8")], [], []
 
@@ -275,6 +276,14 @@ class Maker:
         for kind, name, body in built.bodies(key):
             (self.folder / kind / f"{name}.der").write_bytes(sign(body))
 
+    def encode(self):
+        """What openssl can neither write nor sign, by other encoders."""
+        try:
+            for number, (kind, octets) in enumerate(pyasn1_made.made()):
+                (self.folder / "made" / f"{kind}.{number}.der").write_bytes(octets)
+        except ImportError as error:
+            self.refused.append(f"no values by pyasn1: {error}")
+
     def make(self, source):
         self.section("req", "distinguished_name = person")
         self.section("policy", "commonName = optional")
@@ -292,6 +301,7 @@ class Maker:
             messages.split(self.folder)
             ldap_recorded.record(self.folder / ldap_recorded.FOLDER)
             self.build()
+            self.encode()
             if source:
                 for path in sorted(pathlib.Path(source).glob("*.crt")):
                     (self.folder / TYPES[0] / f"published_{path.stem}.der").write_bytes(from_pem(path))

@@ -14,15 +14,16 @@ STRUCTURED = {100: ("point", "Point", 16, "constructed"), 101: ("points", "Point
               102: ("shape", "shape", 0, "either"), 103: ("name", "name", 0, "either"),
               104: ("bag", "bag", 17, "constructed"), 105: ("spot", "Point", 16, "constructed"),
               106: ("odd", "odd", 0, "either"), 107: ("short", "name", 0, "either"),
-              108: ("done", "done", 3, "constructed"), 109: ("stop", "u2", 4, "primitive")}
+              108: ("vague", "vague", 16, "constructed"), 109: ("dim", "dim", 0, "either"),
+              110: ("done", "done", 3, "constructed"), 111: ("stop", "u2", 4, "primitive")}
 
 
 def registry():
     made = []
-    for number in range(110):
+    for number in range(112):
         name, stem, tag, form = STRUCTURED.get(number, (f"u{number}", f"u{number}", TAGS.get(number, number), "primitive"))
-        codec = "-" if number in STRUCTURED and number != 109 else "own"
-        tag_class = "application" if number >= 108 else "universal"
+        codec = "-" if number in STRUCTURED and number != 111 else "own"
+        tag_class = "application" if number >= 110 else "universal"
         made.append(model.Row(number, name, stem, tag, tag_class, form, 0x10200 + number, codec))
     return made
 
@@ -42,7 +43,7 @@ POINT = """
 --- A place.
 --@ type id=100 prefix=pt
 --@ also id=105 check=kSpot
---@ also id=108
+--@ also id=110
 Point ::= SEQUENCE {
     x          INTEGER,
     y-Axis     [0] EXPLICIT INTEGER DEFAULT 7,                --@ get=height
@@ -107,11 +108,11 @@ class Output(unittest.TestCase):
         self.assertEqual(rows.own(modules), "extern const Restriction kSpot;\n")
 
     def test_a_type_without_an_id(self):
-        made = resolved(POINT, "--- In.\n--@ inner of=101\nIn ::= CHOICE {\nstop INTEGER, --@ id=109\ndone Point --@ id=108\n}\n"
+        made = resolved(POINT, "--- In.\n--@ inner of=101\nIn ::= CHOICE {\nstop INTEGER, --@ id=111\ndone Point --@ id=110\n}\n"
                         "--- T.\n--@ type id=101\nT ::= SEQUENCE {\nin In --@ get=none\n}")
         self.has(rows.rows(made[1]), 'field("stop", QUARN_ASN1_STOP)', "kInAlternatives, numbered_by_tag());",
                  'field("in", kInType)')
-        self.has(rows.own(made), "constexpr auto kInType = static_cast<quarn_asn1_type_id>(110);\n")
+        self.has(rows.own(made), "constexpr auto kInType = static_cast<quarn_asn1_type_id>(112);\n")
         self.assertEqual(made[1].definitions[0].row.code, 0x10200 + 101)
         self.has(api.header(made[1], made), "It has no type id. Its alternatives: 4 stop (QUARN_ASN1_STOP), 3 done (QUARN_ASN1_DONE).")
         self.assertNotIn("quarn_In", api.bodies(made[1]) + api.header(made[1], made))
@@ -136,7 +137,7 @@ class Output(unittest.TestCase):
         text = api.header(modules[0], modules)
         self.has(text, " * A place.\n *\n *     Point ::= SEQUENCE {\n *         x          INTEGER,\n",
                  " *         dNSName    [1] IMPLICIT OCTET STRING OPTIONAL,\n",
-                 "Type ids QUARN_ASN1_POINT (100), QUARN_ASN1_SPOT (105), QUARN_ASN1_DONE (108, [APPLICATION 3]).", "typedef struct quarn_pt quarn_pt;",
+                 "Type ids QUARN_ASN1_POINT (100), QUARN_ASN1_SPOT (105), QUARN_ASN1_DONE (110, [APPLICATION 3]).", "typedef struct quarn_pt quarn_pt;",
                  "/** Moves it away. */\nQUARN_ASN1_API int quarn_pt_move(quarn_pt *value, const quarn_asn1_integer *by);",
                  "A quarn_asn1_list of Point (quarn_pt).", "\n * From its components. Null leaves out text, dns_name and new_, and stands for the default of")
         text = api.header(modules[1], modules)
@@ -149,11 +150,15 @@ class Output(unittest.TestCase):
                         "--- S.\n--@ type id=100 keep=body\n--@ also id=105\nS ::= SEQUENCE {\na O, --@ through\nb NULL\n}\n"
                         "--- O.\n--@ type id=106 wire=sequence accessors=own\nO ::= SEQUENCE {\nc N OPTIONAL,\nd N --@ has=dd\n}\n"
                         "--- C.\n--@ type id=104 codec=kC keep=bodyalone\nC ::= SET { a N }\n"
-                        "--- E.\n--@ type id=102\nE ::= CHOICE { good [0] IMPLICIT NULL, bad INTEGER }")
+                        "--- E.\n--@ type id=102\nE ::= CHOICE { good [0] IMPLICIT NULL, bad INTEGER }\n"
+                        "--- I.\n--@ type id=109 layout=inferred\nI ::= CHOICE { a INTEGER }\n"
+                        "--- J.\n--@ type id=108 layout=inferred\nJ ::= SEQUENCE { a I }")
         self.has(rows.rows(kept[0]), 'field("line", QUARN_ASN1_U9)', "keep_encoding());", "keep_body());",
-                 "keep_body_alone());")
+                 "keep_body_alone());", 'constexpr Schema kISchema = inferred("I", kM0Unit, kILayout);',
+                 'kILayout{"dim", &kChoiceCodec, &kILayoutSchema, 0, 0x1026d, kUniversal, -1};')
         self.has(api.bodies(kept[0]), "quarn_Points_free(quarn_points *value)", "quarn_points *quarn_point_getd(const quarn_point *value) {\n"
                  "  return quarn_odd_getd(quarn::asn1::part<quarn_odd>(value, 0));",
+                 "quarn::asn1::part<quarn_dim>(quarn::asn1::inferred_layout(value), 0)",
                  "quarn_shape *quarn_shape_newgood(void) {\n  return quarn::asn1::build_choice<quarn_shape>(QUARN_ASN1_SHAPE, 0);",
                  "int quarn_point_hasc(", "int quarn_point_hasdd(",
                  "int quarn_point_gettbsocts(quarn_point *value, uint8_t *buffer, uint64_t *length)")
@@ -206,6 +211,12 @@ class Mistakes(unittest.TestCase):
                  "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER (SIZE (8)) }"),
                 ("the default of x is not between -128 and 127",
                  "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER DEFAULT 128 }"),
+                ("form=exact is for OPTIONAL components and alternatives without an EXPLICIT tag",
+                 "--- T.\n--@ type id=102\nT ::= CHOICE {\nx [0] EXPLICIT NULL --@ form=exact\n}"),
+                ("form=inside is for components without a tag that may be absent",
+                 "--- T.\n--@ type id=100\nT ::= SEQUENCE {\nx NULL --@ form=inside\n}"),
+                ("when is a number up to 127, for OPTIONAL components without a tag",
+                 "--- T.\n--@ type id=100\nT ::= SEQUENCE {\ny INTEGER,\nx NULL --@ when=1\n}"),
                 ("a SEQUENCE inside a component is a definition of its own",
                  "--- T.\n--@ type id=100\nT ::= SEQUENCE { x SEQUENCE OF INTEGER }"),
                 ("',' expected, not 'y'", "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER y NULL }"),
@@ -218,7 +229,7 @@ class Mistakes(unittest.TestCase):
         self.stops("Point is also defined in", POINT, "--- T.\n--@ type id=101\nPoint ::= SEQUENCE { x INTEGER }")
         self.stops("id 100 is no row of Bag", POINT,
                    "--- T.\n--@ type id=101\nT ::= SEQUENCE {\nx Bag --@ id=100\n}")
-        self.stops("has the stem Point of Point", POINT.replace("--@ also id=105 check=kSpot\n--@ also id=108\n", "").replace(
+        self.stops("has the stem Point of Point", POINT.replace("--@ also id=105 check=kSpot\n--@ also id=110\n", "").replace(
             "--@ id=105", ""), "--- T.\n--@ type id=105\nT ::= SEQUENCE { x INTEGER }")
         self.assertIn("typedef struct quarn_name quarn_short;", api.section(resolved(POINT, SHAPE)[1].definitions[2]))
 

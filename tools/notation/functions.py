@@ -87,8 +87,10 @@ def record_constructor(definition, variant):
 def record_getters(definition, variant):
     made = []
     value = [f"const {definition.struct} *value"]
+    inferred = "layout" in definition.notes
+    holder = "quarn::asn1::inferred_layout(value)" if inferred else "value"
     for index, component in enumerate(definition.fields):
-        arguments = f"(value, {index})"
+        arguments = f"({holder}, {index})"
         has = component.notes.get("has", component.part)
         if component.record is not None:
             made += getters_through(definition, variant, component, index)
@@ -100,6 +102,8 @@ def record_getters(definition, variant):
             text = {"optional": f"{component.name}, null when it is absent.",
                     "default": f"{component.name}, {component.default_text} when the encoding has none.",
                     "mandatory": f"{component.name}."}[component.presence]
+            if inferred:
+                text = f"{component.name}, null also when the elements are laid out otherwise."
             made.append(Function(pointer(component.c_type), f"quarn_{variant.prefix}_get{component.part}", value, [text],
                                  f"return quarn::asn1::part<{component.c_type}>{arguments}", component.line))
     return made
@@ -131,7 +135,8 @@ def body_octets(definition):
 def choice_type(definition, variant):
     numbers = ", ".join(f"{component.number} {component.name}" for component in definition.fields)
     return [Function("uint32_t ", f"quarn_{variant.prefix}_gettype", [f"const {definition.struct} *value"],
-                     [f"Number of the alternative: {numbers}; all ones for null."],
+                     [f"Number of the alternative: {numbers}; all ones for null"
+                      + (", and for another element." if "layout" in definition.notes else ".")],
                      f"return quarn::asn1::choice_number({variant.row.constant}, value)", definition.line)]
 
 

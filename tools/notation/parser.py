@@ -9,11 +9,11 @@ NUMBER, CONSTANT, WORD = r"\d+", r"k[A-Za-z0-9]+", r"[A-Za-z0-9_]+"
 MODULE_NOTES = {"unit": WORD, "header": WORD}
 TYPE_NOTES = {"id": NUMBER, "prefix": WORD, "new": "none|own", "accessors": "own", "check": CONSTANT,
               "keep": "encoding|body|bodyalone|positions", "codec": CONSTANT, "wire": "sequence", "first": NUMBER,
-              "tail": "open", "strings": None}
+              "tail": "open", "strings": None, "layout": "inferred"}
 INNER_NOTES = {"of": NUMBER}
 ALSO_NOTES = {word: TYPE_NOTES[word] for word in ("id", "prefix", "check")}
-COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive|exact",
-                   "through": None}
+COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive|exact|inside",
+                   "when": NUMBER, "through": None}
 
 TWO_WORDS = {"BIT": "STRING", "OCTET": "STRING", "OBJECT": "IDENTIFIER"}
 WITH_NAMES = ("INTEGER", "ENUMERATED", "BIT STRING")

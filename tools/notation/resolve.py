@@ -108,6 +108,8 @@ class Resolver:
             owner = self.by_stem.setdefault(variant.row.stem, definition)
             if variant is definition.variants[0]:
                 definition.owner = owner
+        if "layout" in definition.notes and definition.is_list:
+            definition.fail("layout=inferred is for records and CHOICEs")
         bare = definition.is_list and "keep" not in definition.notes and "codec" not in definition.notes
         definition.struct = ("void" if definition.is_inner else "quarn_asn1_list" if bare
                              else f"quarn_{definition.variants[0].prefix}")
@@ -199,16 +201,30 @@ class Resolver:
         if "tail" in notes and (len(fields) != 2 or fields[1].row.id != ANY_ID or fields[1].presence != "optional"):
             definition.fail("tail=open is for a mandatory component and ANY OPTIONAL", definition.variants[0].line)
         for component in fields:
-            for word, kind in (("new", "choice"), ("written", "choice"), ("form", "record"), ("has", "record"),
-                               ("through", "record")):
+            for word, kind in (("new", "choice"), ("written", "choice"), ("has", "record"), ("through", "record"),
+                               ("when", "record")):
                 if word in component.notes and definition.kind != kind:
                     definition.fail(f"{word} is for components of a {KINDS[kind]}", component.line)
-            if component.notes.get("form") == "exact" and (component.presence != "optional" or component.tag):
-                definition.fail("form=exact is for OPTIONAL components without a tag", component.line)
+            self.recognition(definition, component)
             if definition.is_strings and component.row.id not in CHARACTER_STRINGS:
                 definition.fail(f"{component.name} is no character string", component.line)
         if definition.kind == "choice":
             self.numbers(definition)
+
+    @staticmethod
+    def recognition(definition, component):
+        """What a component may be known by besides its class and tag."""
+        form, tagging = component.notes.get("form"), component.tag[1] if component.tag else "plain"
+        may_lack = component.presence == "optional"
+        if form == "primitive" and definition.kind != "record":
+            definition.fail("form=primitive is for components of a SEQUENCE or SET", component.line)
+        if form == "exact" and (not may_lack and definition.kind != "choice" or tagging == "explicit"):
+            definition.fail("form=exact is for OPTIONAL components and alternatives without an EXPLICIT tag",
+                            component.line)
+        if form == "inside" and (not may_lack and not isinstance(component.default, bytes) or tagging != "plain"):
+            definition.fail("form=inside is for components without a tag that may be absent", component.line)
+        if "when" in component.notes and (not may_lack or tagging != "plain" or component.notes["when"] > 127):
+            definition.fail("when is a number up to 127, for OPTIONAL components without a tag", component.line)
 
     @staticmethod
     def numbers(definition):

@@ -2,7 +2,10 @@
 
 from .layout import WIDTH, call
 
+FORMS = {"primitive": "primitive_form()", "exact": "exact_form()", "inside": "told_inside()"}
 CODECS = {"record": "kRecordCodec", "list": "kListCodec", "choice": "kChoiceCodec"}
+# Of types that are read and written as elements of any type.
+INFERRED = {"record": "kListCodec", "choice": "kElementCodec"}
 
 
 def schema_of(definition, variant):
@@ -16,7 +19,8 @@ def schema_of(definition, variant):
 
 def codec_of(definition, variant):
     """A codec of its own is that of one row; its other rows have the ordinary one."""
-    return variant.notes.get("codec") or CODECS[definition.kind]
+    inferred = "layout" in definition.notes
+    return variant.notes.get("codec") or (INFERRED if inferred else CODECS)[definition.kind]
 
 
 def registry_reference(definition, variant):
@@ -27,8 +31,10 @@ def field(definition, component):
     notes = [f'"{component.name}"', component.row.constant]
     if component.tag is not None:
         notes.append(f"{component.tag[1]}_tag({component.tag[0]})")
-    if component.presence == "optional":
-        notes.append("optional_exact()" if component.notes.get("form") == "exact" else "optional()")
+    if "when" in component.notes:
+        notes.append(f"selected_by({component.notes['when']})")
+    elif component.presence == "optional":
+        notes.append("optional()")
     elif isinstance(component.default, bytes):
         notes.append(f"default_encoding({default_constant(definition, component)})")
     elif component.presence == "default":
@@ -37,8 +43,8 @@ def field(definition, component):
         notes.append(f"{'at_least_octets' if component.size[1] else 'octets'}({component.size[0]})")
     if "written" in component.notes:
         notes.append(f"written_tag({component.notes['written']})")
-    if component.notes.get("form") == "primitive":
-        notes.append("primitive_form()")
+    if "form" in component.notes:
+        notes.append(FORMS[component.notes["form"]])
     return call("    field(", notes, "),") + "\n"
 
 
@@ -71,7 +77,20 @@ def schema(definition, variant, unit, array):
         arguments.append(f"keep_{notes['keep'].replace('alone', '_alone')}()")
     if "check" in variant.notes:
         arguments.append(f"restricted_by({variant.notes['check']})")
-    opening = f"constexpr Schema {schema_of(definition, variant)} ="
+    name = schema_of(definition, variant)
+    if "layout" not in notes:
+        return constant(f"Schema {name}", word, arguments)
+    layout = f"{definition.constant}Layout"
+    row = definition.row
+    form = "-1" if definition.kind == "choice" else "0"
+    return (constant(f"Schema {layout}Schema", word, arguments) +
+            call(f"constexpr Type {layout}{{", [f'"{row.name}"', f"&{CODECS[definition.kind]}", f"&{layout}Schema",
+                                               str(row.tag), f"{row.code:#x}", "kUniversal", form], "};") + "\n" +
+            constant(f"Schema {name}", "inferred", [f'"{definition.name}"', unit, layout]))
+
+
+def constant(name, word, arguments):
+    opening = f"constexpr {name} ="
     line = f"{opening} {word}({', '.join(arguments)});"
     return (line if len(line) <= WIDTH else f"{opening}\n" + call(f"    {word}(", arguments, ");")) + "\n"
 

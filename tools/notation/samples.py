@@ -17,8 +17,11 @@ LISTS_OF_ANY = {24: 0, 25: 1, 26: 0, 27: 1}  # and the elements that they have a
 ABSENT = {"kPkixAttributeTypeAndValue": {"primaryDistinguished", "valuesWithContext"},
           "kPkcs10Attribute": {"valuesWithContext"},
           "kPkixNameConstraints": {"requiredNameForms"}}
+# What it demands of those that may be absent.
+PRESENT = {"kSignerLocation": {"countryName"}}
 # Contents that a check of a row demands: without the optional components, and with them.
-DEMANDED = {"kRsaVersion": {"version": (b"\0", b"\1")}, "kPbeSalt": {"salt": (bytes(8), bytes(8))}}
+DEMANDED = {"kRsaVersion": {"version": (b"\0", b"\1")}, "kPbeSalt": {"salt": (bytes(8), bytes(8))},
+            "kCertListType": {"certListType": (b"\2", b"\1")}}
 # The type that a check of a row demands of the open types in it.
 OPEN = {"kCmsSignedData": OCTET_STRING_ID}
 # Elements that a check of a row demands at least, and small numbers.
@@ -118,12 +121,19 @@ class Sampler:
                                    elements=max(look.elements, ELEMENTS.get(check, 0)))
         if check == "kUuidPair":
             return tlv(*self.header(4), bytes(range(16))) + tlv(*self.header(4), bytes(range(16, 32)))
-        demanded = DEMANDED.get(check, {})
-        return b"".join(tlv(*self.header(component.row.id), demanded[component.name][look.optional])
+        demanded = {name: contents[look.optional] for name, contents in DEMANDED.get(check, {}).items()}
+        return b"".join(tlv(*self.header(component.row.id), demanded[component.name])
                         if component.name in demanded else self.component(component, look.inside(salt))
                         for salt, component in enumerate(definition.fields)
-                        if component.name not in ABSENT.get(check, ())
-                        and (look.optional or component.presence == "mandatory"))
+                        if self.has(component, check, look, demanded.values()))
+
+    @staticmethod
+    def has(component, check, look, demanded):
+        if "when" in component.notes:
+            return bytes([component.notes["when"]]) in demanded
+        if component.presence == "mandatory" or component.name in PRESENT.get(check, ()):
+            return True
+        return look.optional and component.name not in ABSENT.get(check, ())
 
     def universal(self, type_id):
         """The universal type whose content a row with a tag of its own has."""
