@@ -1,5 +1,5 @@
 // What the engine takes for granted about schemas, checked when the registry is compiled: whatever
-// identifier comes next, at most one component can be meant by it.
+// identifier comes next, at most one component can be meant by it, or a note says what else tells.
 #ifndef QUARN_CORE_SCHEMA_CHECK_H
 #define QUARN_CORE_SCHEMA_CHECK_H
 
