@@ -10,8 +10,13 @@ namespace quarn::asn1 {
 namespace {
 
 // Encoding a value for a copy may fill what it keeps.
-bool copy_into(const Type &type, const void *value, void **copy) {
-  return duplicate(type, const_cast<void *>(value), copy, nullptr).ok();
+bool copy_into(const Type &type, const void *value, void **copy, int around = 0) {
+  return duplicate(type, const_cast<void *>(value), copy, nullptr, around).ok();
+}
+
+// What is built can be decoded, so that nothing nests deeper than a decoder goes.
+bool copy_component(const Field &field, const void *value, void **copy) {
+  return copy_into(type_of(field.type()), value, copy, 1);
 }
 
 bool are_enough(const Schema &schema, std::span<const void *const> parts) {
@@ -44,7 +49,7 @@ void *build_record(quarn_asn1_type_id id, std::span<const void *const> parts) {
   void **component = components(record.get());
   for (std::size_t i = 0; i < parts.size(); i++, component++) {
     const Field &field = schema.fields[i];
-    const bool made = parts[i] != nullptr ? copy_into(type_of(field.type()), parts[i], component)
+    const bool made = parts[i] != nullptr ? copy_component(field, parts[i], component)
                                           : take_default(field, component);
     if (!made) return nullptr;
     // Nobody could decode it again: there, it would be the end.
@@ -62,8 +67,8 @@ void *build_alternative(quarn_asn1_type_id id, std::uint64_t number, const void 
   if (index == type.schema->fields.size() || value == nullptr) return nullptr;
   Value choice(type, new_choice(*type.schema, index));
   if (choice.get() == nullptr) return nullptr;
-  const Type &inner = type_of(type.schema->fields[index].type());
-  if (!copy_into(inner, value, &static_cast<Choice *>(choice.get())->value)) return nullptr;
+  void **component = &static_cast<Choice *>(choice.get())->value;
+  if (!copy_component(type.schema->fields[index], value, component)) return nullptr;
   return finished(type_of(id), choice);
 }
 

@@ -140,6 +140,19 @@ inline const Field &chosen(const Schema &schema, const void *value) {
   return schema.kind == Kind::string_choice ? kStringAlternatives[index] : schema.fields[index];
 }
 
+// The same, or what is chosen in the value, when that is a CHOICE without a tag of its own: the
+// field that says what identifier the value has.
+inline const Field &told_by_identifier(const Schema &schema, const void *value) {
+  const Field *field = &chosen(schema, value);
+  while (field->tagging == Tagging::plain) {
+    const Schema *inner = type_of(field->type()).schema;
+    value = static_cast<const Choice *>(value)->value;
+    if (inner == nullptr || !inner->is_choice() || value == nullptr) break;
+    field = &chosen(*inner, value);
+  }
+  return *field;
+}
+
 // engine_decode.cpp
 Status decode_record_content(
     const Type &type, Reader &in, void **value, bool primitive, std::int64_t length);

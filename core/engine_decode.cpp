@@ -28,13 +28,11 @@ Status note(
 }
 
 bool field_matches(const Field &field, const Identifier &identifier) {
-  if (field.tagging == Tagging::plain) {
-    const Type &type = type_of(field.type());
-    const bool exact = field.presence == Presence::optional_exact;
-    return matches(type, identifier) && (!exact || identifier.primitive == (type.form != 0));
-  }
+  const Type &type = type_of(field.type());
+  const bool form = !field.exact() || identifier.primitive == (type.form != 0);
+  if (field.tagging == Tagging::plain) return matches(type, identifier) && form;
   if (!identifier.is(kContext, field.tag)) return false;
-  return field.tagging != Tagging::explicitly || !identifier.primitive;
+  return field.tagging == Tagging::explicitly ? !identifier.primitive : form;
 }
 
 // A component whole, by its row. That no end-of-contents is taken for an open type is the caller's
@@ -93,6 +91,70 @@ Status decode_field_rest(const Schema &schema,
     return note(schema, in, divert_content(in, *diversion, primitive, length), code);
   }
   return note(schema, in, decode_content(type, in, value, primitive, length), code);
+}
+
+// The components of a type down to the first that has no components, each the first one of the one
+// before. The identifier of the outermost has been read.
+class FirstComponents {
+ public:
+  FirstComponents(const Schema &schema, Reader &in, const Type &type, const Identifier &identifier)
+      : schema_(schema), in_(in), type_(&type), identifier_(identifier) {}
+
+  // Whether all of them are there.
+  Status find(bool &found) {
+    found_ = true;
+    Status status = Status::success();
+    while (status && found_ && type_ != nullptr) status = descend();
+    found = found_;
+    return status;
+  }
+
+ private:
+  Status descend() {
+    if (type_->schema == nullptr || type_->schema->is_list()) return stop();
+    for (const Field &field : type_->schema->fields) {
+      if (!type_->schema->is_choice()) return field.mandatory() ? enter(field) : stop();
+      if (!field_matches(field, identifier_)) continue;
+      if (field.tagging == Tagging::explicitly) return enter(field);
+      type_ = &type_of(field.type());
+      return Status::success();
+    }
+    found_ = false;
+    return Status::success();
+  }
+
+  Status stop() {
+    type_ = nullptr;
+    return Status::success();
+  }
+
+  Status enter(const Field &field) {
+    std::int64_t length = 0;
+    Status status = read_length(in_, length);
+    if (!status) return note(schema_, in_, status, QUARN_ASN1_ERROR_READ_LENGTH);
+    found_ = length != 0;
+    if (!found_) return status;
+    status = read_identifier(in_, identifier_);
+    if (!status) return note(schema_, in_, status, QUARN_ASN1_ERROR_READ_IDENTIFIER);
+    type_ = &type_of(field.type());
+    found_ = matches(*type_, identifier_);
+    return status;
+  }
+
+  const Schema &schema_;
+  Reader &in_;
+  const Type *type_;
+  Identifier identifier_;
+  bool found_ = true;
+};
+
+// Whether what follows an identifier begins as a type does, without moving on.
+Status look_inside(
+    const Schema &schema, Reader &in, const Type &type, const Identifier &identifier, bool &found) {
+  Capture octets(in);
+  const Status status = FirstComponents(schema, in, type, identifier).find(found);
+  if (!status || octets.give_back()) return status;
+  return fail(schema, in, QUARN_ERROR_NO_MEMORY);
 }
 
 // Reads one element as quarn_asn1_readoneobject() does, to be read again from the octets kept.
@@ -208,14 +270,32 @@ class RecordDecoder {
       const bool whole = field.tagging == Tagging::plain && !in_hand_;
       return whole ? take_named(field, *component) : named(field, take_expected(field, component));
     }
+    if (field.presence == Presence::selected) return take_selected(field, component);
     Status status = look();
     if (!status) return status;
-    if (in_hand_ && field_matches(field, identifier_)) {
+    bool found = in_hand_ && field_matches(field, identifier_);
+    if (found && field.told_inside()) {
+      status = named(field, look_inside(schema_, in_, type_of(field.type()), identifier_, found));
+      if (!status) return status;
+    }
+    if (found) {
       status = named(field, take_rest(field, component));
       return status ? look() : status;
     }
     if (take_default(field, component)) return status;
     return named(field, fail(schema_, in_, QUARN_ERROR_NO_MEMORY));
+  }
+
+  // The number before it says whether it is there. One that selects nothing is refused at once.
+  Status take_selected(const Field &field, void **component) {
+    if (!allowed(schema_, components_)) return refuse(schema_, in_.ctx(), in_.offset());
+    const Field *selector = &field;
+    while (selector->presence == Presence::selected) selector--;
+    const void *number = component[selector - &field];
+    std::int64_t selected = 0;
+    if (quarn_asn1_integer_getlong(static_cast<const quarn_asn1_integer *>(number), &selected) != 1)
+      return Status::success();
+    return selected == field.default_value ? take_named(field, *component) : Status::success();
   }
 
   // Says in which component a failure lies.

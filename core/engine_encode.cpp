@@ -24,7 +24,7 @@ std::uint64_t tag_number_of(const Type &type, const void *value) {
   if (value == nullptr || type.schema == nullptr || !type.schema->is_choice()) {
     return type.tag_number;
   }
-  const Field &field = chosen(*type.schema, value);
+  const Field &field = told_by_identifier(*type.schema, value);
   return field.tagging == Tagging::plain && field.tag == 0 ? type_of(field.type()).tag_number
                                                            : field.tag;
 }
@@ -168,9 +168,10 @@ class Encoder {
 
   // Identifier, length and content.
   Status whole(const Type &type, void *value, std::int64_t length) {
-    const Status status = type.schema->is_choice()
-                              ? field_header(*type.schema, chosen(*type.schema, value), length)
-                              : write_header(type, out_, length);
+    const Status status =
+        type.schema->is_choice()
+            ? field_header(*type.schema, told_by_identifier(*type.schema, value), length)
+            : write_header(type, out_, length);
     return status ? structured(type, value, length) : status;
   }
 

@@ -99,6 +99,23 @@ void *component_value(const Type &type, const void *value, std::int64_t index) {
   }
 }
 
+// A CHOICE that callers have no id for: they see what was chosen.
+bool is_inner(const Field &field) {
+  return field.type_id >= QUARN_ASN1_TYPE_COUNT;
+}
+
+int inner_component(const Field &field, const void *value, quarn_asn1_component *component) {
+  const Field &alternative = chosen(*type_of(field.type()).schema, value);
+  *component = {.name = field.name,
+                .value = static_cast<const Choice *>(value)->value,
+                .type_id = alternative.type(),
+                .optional = 0,
+                .is_default = 0,
+                .tagging = tagging_of(alternative),
+                .tag = alternative.tag};
+  return 1;
+}
+
 }  // namespace
 
 }  // namespace quarn::asn1
@@ -140,6 +157,7 @@ int quarn_asn1_component_get(int64_t type_id,
   const Type &type = *find_type(type_id);
   const Field &field = field_of(type, value, static_cast<std::size_t>(index));
   void *part = component_value(type, value, index);
+  if (is_inner(field)) return inner_component(field, part, component);
   const bool record = kind_of(type) == QUARN_ASN1_KIND_RECORD;
   const bool optional = record && !field.mandatory();
   const int tagging = tagging_of(field);

@@ -45,17 +45,50 @@ Status Reader::short_read() {
   return kStreamUnit.fail(ctx_, QUARN_STREAM_ERROR_END, offset());
 }
 
+// From what was given back; how many octets that was.
+std::uint64_t Reader::take_again(std::uint8_t *out, std::uint64_t count) {
+  const std::uint64_t taken = std::min<std::uint64_t>(count, given_back_.size() - taken_again_);
+  if (taken > 0) std::memcpy(out, given_back_.data() + taken_again_, taken);
+  taken_again_ += taken;
+  return taken;
+}
+
+bool Capture::give_back() {
+  if (in_.in_memory_) {
+    in_.next_ = start_;
+    return true;
+  }
+  const std::size_t count = size();
+  in_.settled_ -= count;
+  // Octets that had been given back before are still there, unless the stream has gone on.
+  const bool again = count <= in_.taken_again_;
+  if (again) {
+    in_.taken_again_ -= count;
+  } else {
+    in_.given_back_.truncate(0);
+    in_.taken_again_ = 0;
+  }
+  const bool done = again || in_.given_back_.append(in_.captured_.data() + offset_, count);
+  in_.captured_.truncate(offset_);
+  return done;
+}
+
 Status Reader::octets_slowly(std::uint8_t *out, std::uint64_t count) {
   if (in_memory_) return short_read();
   if (stream_ == nullptr) return kHeaderUnit.fail(ctx_, QUARN_ERROR_ARGUMENT);
-  const auto status =
-      Status::from(quarn_stream_readn(stream_, out, static_cast<std::int64_t>(count), ctx_));
-  if (!status) return status;
+  const std::uint64_t again = take_again(out, count);
+  if (again < count) {
+    given_back_.truncate(0);
+    taken_again_ = 0;
+    const auto status = Status::from(
+        quarn_stream_readn(stream_, out + again, static_cast<std::int64_t>(count - again), ctx_));
+    if (!status) return status;
+  }
   settled_ += count;
   if (captures_ > 0 && !captured_.append(out, count)) {
     return kStreamUnit.fail(ctx_, QUARN_ERROR_NO_MEMORY, offset());
   }
-  return status;
+  return Status::success();
 }
 
 Status Reader::skip(std::uint64_t count) {

@@ -23,9 +23,14 @@ class Reader {
  public:
   // A null stream gives a Reader on which is_null() is true and every read fails for the argument.
   Reader(quarn_stream *stream, quarn_err_ctx *ctx) : stream_(stream), ctx_(ctx) { borrow(); }
-  // Reads octets that stay where they are while the Reader lives.
-  Reader(const std::uint8_t *octets, std::size_t count, quarn_err_ctx *ctx)
-      : begin_(octets), next_(octets), end_(octets + count), ctx_(ctx), in_memory_(true) {}
+  // Reads octets that stay where they are while the Reader lives. depth: of what they are inside.
+  Reader(const std::uint8_t *octets, std::size_t count, quarn_err_ctx *ctx, int depth = 0)
+      : begin_(octets),
+        next_(octets),
+        end_(octets + count),
+        ctx_(ctx),
+        depth_(depth),
+        in_memory_(true) {}
   // Reads again the octets that another Reader has just given out and that are kept: positions,
   // nesting and the path of a failure go on from there, and values may share the block.
   Reader(Reader &outer, const Kept &kept)
@@ -119,6 +124,7 @@ class Reader {
   friend class Capture;
 
   void borrow();
+  std::uint64_t take_again(std::uint8_t *out, std::uint64_t count);
   Status octets_slowly(std::uint8_t *out, std::uint64_t count);
 
   const std::uint8_t *begin_ = nullptr;
@@ -131,6 +137,8 @@ class Reader {
   Diversion *diversion_ = nullptr;
   std::uint64_t settled_ = 0;
   Buffer captured_;
+  Buffer given_back_;            // by a Capture; read before the stream goes on
+  std::size_t taken_again_ = 0;  // of these
   int captures_ = 0;
   int depth_ = 0;
   int limit_ = 0;
@@ -169,6 +177,9 @@ class Capture {
     return in_.in_memory_ ? start_ : in_.captured_.data() + offset_;
   }
   std::size_t size() const { return static_cast<std::size_t>(in_.count() - before_); }
+
+  // Has the Reader give them out again. False when memory is short; then they are lost.
+  [[nodiscard]] bool give_back();
 
  private:
   Reader &in_;

@@ -34,12 +34,16 @@ enum class Tagging : std::uint8_t {
 
 enum class Presence : std::uint8_t {
   mandatory,
+  mandatory_exact,  // in another form than its type's, what comes is something else
   optional,
-  optional_exact,  // in another form than its type's, what comes is another component
-  content,         // optional: what a message carries, which may be decoded apart from the rest
+  optional_exact,
+  content,          // optional: what a message carries, which may be decoded apart from the rest
+  optional_inside,  // told from the next component by what stands first inside it, too
+  selected,         // there when the INTEGER before it is default_value
   default_boolean,
   default_integer,
-  default_encoding
+  default_encoding,
+  default_inside  // an encoding, and told as optional_inside is
 };
 
 // A component of a record, or an alternative of a CHOICE.
@@ -48,13 +52,20 @@ struct Field {
   const std::uint8_t *default_octets;  // DER encoding of a default that is neither of the two below
   std::uint16_t type_id;
   std::uint16_t tag;  // n of [n]; plain: the universal tag that is written, 0 for the type's
-  std::int8_t default_value;  // 0 and 1 for FALSE and TRUE; how many default_octets there are
+  std::int8_t default_value;  // 0 and 1 for FALSE and TRUE; how many default_octets there are;
+                              // the number that selects the component
   std::int8_t size;  // octets of a string; negative: it has at least as many; 0: any number
   Tagging tagging;
   Presence presence;
 
   constexpr quarn_asn1_type_id type() const { return static_cast<quarn_asn1_type_id>(type_id); }
-  constexpr bool mandatory() const { return presence == Presence::mandatory; }
+  constexpr bool mandatory() const { return presence <= Presence::mandatory_exact; }
+  constexpr bool exact() const {
+    return presence == Presence::mandatory_exact || presence == Presence::optional_exact;
+  }
+  constexpr bool told_inside() const {
+    return presence == Presence::optional_inside || presence == Presence::default_inside;
+  }
   constexpr bool has_default() const { return presence >= Presence::default_boolean; }
 };
 
@@ -129,6 +140,8 @@ struct Size {
   std::int8_t octets;
 };
 struct PrimitiveForm {};
+struct ExactForm {};
+struct ToldInside {};
 struct AtLeast {
   std::uint8_t count;
 };
@@ -151,6 +164,12 @@ constexpr void note(Field &field, Size size) {
 }
 constexpr void note(Field &field, PrimitiveForm /*form*/) {
   field.tagging = Tagging::implicit_primitive;
+}
+constexpr void note(Field &field, ExactForm /*form*/) {
+  field.presence = field.mandatory() ? Presence::mandatory_exact : Presence::optional_exact;
+}
+constexpr void note(Field &field, ToldInside /*inside*/) {
+  field.presence = field.has_default() ? Presence::default_inside : Presence::optional_inside;
 }
 constexpr void note(Schema &schema, Keep keep) {
   schema.keep = keep;
@@ -198,17 +217,26 @@ constexpr notation::PrimitiveForm primitive_form() {
 constexpr notation::Occurrence optional() {
   return {Presence::optional, 0};
 }
-// An optional component that is recognised by class, tag and form: others go by class and tag, and
-// another form is a failure of theirs.
-constexpr notation::Occurrence optional_exact() {
-  return {Presence::optional_exact, 0};
+// After optional(), or on an alternative: recognised by class, tag and form. Others go by class and
+// tag, and another form is a failure of theirs.
+constexpr notation::ExactForm exact_form() {
+  return {};
+}
+// After optional() or default_encoding(): a component that begins with the same tag as the next one
+// and is recognised by what its own type has first inside.
+constexpr notation::ToldInside told_inside() {
+  return {};
+}
+// There when the INTEGER before it, and before others so selected, is this number.
+constexpr notation::Occurrence selected_by(std::int8_t number) {
+  return {Presence::selected, number};
 }
 // An optional component under a tag, of type ANY or OCTET STRING: the content of a message.
 constexpr notation::Occurrence content() {
   return {Presence::content, 0};
 }
 constexpr notation::Occurrence defaults_to(bool value) {
-  return {Presence::default_boolean, static_cast<std::int8_t>(value)};
+  return {Presence::default_boolean, static_cast<std::int8_t>(value ? 1 : 0)};
 }
 constexpr notation::Occurrence defaults_to(int value) {
   return {Presence::default_integer, static_cast<std::int8_t>(value)};

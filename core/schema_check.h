@@ -1,5 +1,5 @@
 // What the engine takes for granted about schemas, checked when the registry is compiled: whatever
-// identifier comes next, at most one component can be meant by it.
+// identifier comes next, at most one component can be meant by it, or a note says what else tells.
 #ifndef QUARN_CORE_SCHEMA_CHECK_H
 #define QUARN_CORE_SCHEMA_CHECK_H
 
@@ -45,6 +45,12 @@ class SchemaCheck {
     return row(field).tag_number != 0 || row(field).tag_class != kUniversal;
   }
 
+  // A CHOICE begins with those of its alternatives.
+  constexpr bool begins_with_known_tag(const Field &field) const {
+    const Schema *schema = row(field).schema;
+    return has_own_tag(field) || (schema != nullptr && schema->is_choice());
+  }
+
   constexpr bool sound(const Field &field) const {
     const bool replaces_tag = field.tagging == Tagging::implicit ||
                               field.tagging == Tagging::implicit_primitive ||
@@ -53,8 +59,14 @@ class SchemaCheck {
     if (field.tagging == Tagging::implicit_primitive && row(field).form != 0) return false;
     if (field.size != 0 && !is_string(field)) return false;
     if (field.presence == Presence::default_boolean) return field.type_id == QUARN_ASN1_BOOLEAN;
-    if (field.presence == Presence::default_integer) return field.type_id == QUARN_ASN1_INTEGER;
-    if (field.presence == Presence::default_encoding) {
+    if (field.presence == Presence::default_integer) {
+      return field.type_id == QUARN_ASN1_INTEGER || field.type_id == QUARN_ASN1_ENUMERATED;
+    }
+    if (field.exact() && field.tagging == Tagging::explicitly) return false;
+    if (field.told_inside() && (field.tagging != Tagging::plain || row(field).schema == nullptr)) {
+      return false;
+    }
+    if (field.presence >= Presence::default_encoding) {
       return field.default_value >= 2 && field.default_value <= kMostDefaultOctets;
     }
     if (field.presence == Presence::content) {
@@ -111,9 +123,15 @@ class SchemaCheck {
   }
 
   // Components that share a tag on purpose.
-  static constexpr bool take_turns(const Field &a, const Field &b) {
+  static constexpr bool told_apart(const Field &a, const Field &b) {
+    if (a.told_inside()) return true;
     return a.tagging == Tagging::implicit_primitive && b.tagging == Tagging::implicit_primitive &&
            a.type_id == b.type_id;
+  }
+
+  static constexpr bool follows_number(std::span<const Field> fields, std::size_t i) {
+    while (i > 0 && fields[i].presence == Presence::selected) i--;
+    return fields[i].mandatory() && fields[i].type_id == QUARN_ASN1_INTEGER;
   }
 
   // Each field that may be absent differs from those that may come in its place: the others that
@@ -121,8 +139,12 @@ class SchemaCheck {
   constexpr bool decidable(std::span<const Field> fields) const {
     for (std::size_t i = 0; i < fields.size(); i++) {
       if (fields[i].mandatory()) continue;
+      if (fields[i].presence == Presence::selected) {
+        if (!follows_number(fields, i)) return false;
+        continue;
+      }
       for (std::size_t next = i + 1; next < fields.size(); next++) {
-        if (clash(fields[i], fields[next]) && !take_turns(fields[i], fields[next])) return false;
+        if (clash(fields[i], fields[next]) && !told_apart(fields[i], fields[next])) return false;
         if (fields[next].mandatory()) break;
       }
       // An open type cannot be begun once its identifier has been read.
@@ -153,7 +175,8 @@ class SchemaCheck {
   constexpr bool distinct(std::span<const Field> alternatives) const {
     for (std::size_t i = 0; i < alternatives.size(); i++) {
       const Field &a = alternatives[i];
-      if (!a.mandatory() || (a.tagging == Tagging::plain && !has_own_tag(a))) return false;
+      if (!a.mandatory() || (a.tagging == Tagging::plain && !begins_with_known_tag(a)))
+        return false;
       for (std::size_t next = i + 1; next < alternatives.size(); next++) {
         if (clash(a, alternatives[next])) return false;
       }

@@ -54,8 +54,9 @@ struct Type {
   int decode_error() const { return error_code + 1; }
 };
 
-// The rows, by id. Defined on the top floor, in modules/.
-extern const Type kTypes[QUARN_ASN1_TYPE_COUNT];
+// The rows, by id, and behind them those of types that only stand inside others and that callers
+// have no id for. Defined on the top floor, in modules/.
+extern const Type kTypes[];
 
 // The row of an id, or null when there is none.
 inline const Type *find_type(std::int64_t id) {
@@ -80,7 +81,8 @@ Status decode_content(
 void free_value(const Type &type, void *value);
 
 // A copy of a value: what its encoding decodes to.
-Status duplicate(const Type &type, void *value, void **copy, quarn_err_ctx *ctx);
+// around: values that the copy is to stand inside, which count towards the limit.
+Status duplicate(const Type &type, void *value, void **copy, quarn_err_ctx *ctx, int around = 0);
 
 // Whether a value can begin with an identifier.
 bool matches(const Type &type, const Identifier &identifier);

@@ -1,5 +1,7 @@
-// The array of all rows, put together on the top floor: the core only declares it, with the number
-// of rows that it must have, so that nothing below depends on the modules.
+// The array of all rows, put together on the top floor: the core only declares it, so that nothing
+// below depends on the modules.
+#include <iterator>
+
 #include "core/schema_check.h"
 #include "core/type.h"
 #include "modules/own.h"
@@ -11,10 +13,14 @@ namespace {
 
 #include "modules/gen/ASN1_Attribute.inc"
 #include "modules/gen/ASN1_Authenticode.inc"
+#include "modules/gen/ASN1_CAdES.inc"
 #include "modules/gen/ASN1_CMS.inc"
+#include "modules/gen/ASN1_CertStore.inc"
 #include "modules/gen/ASN1_ECC.inc"
+#include "modules/gen/ASN1_ERS.inc"
 #include "modules/gen/ASN1_ESS.inc"
 #include "modules/gen/ASN1_Extension.inc"
+#include "modules/gen/ASN1_LDAP.inc"
 #include "modules/gen/ASN1_OCSP.inc"
 #include "modules/gen/ASN1_PKCS1.inc"
 #include "modules/gen/ASN1_PKCS10.inc"
@@ -22,6 +28,8 @@ namespace {
 #include "modules/gen/ASN1_PKCS3.inc"
 #include "modules/gen/ASN1_PKCS5.inc"
 #include "modules/gen/ASN1_PKCS8.inc"
+#include "modules/gen/ASN1_SCVP.inc"
+#include "modules/gen/ASN1_SES.inc"
 #include "modules/gen/ASN1_TSP.inc"
 #include "modules/gen/ASN1_X500.inc"
 #include "modules/gen/ASN1_X509.inc"
@@ -30,6 +38,7 @@ namespace {
 
 #include "modules/gen/registry.inc"
 
+static_assert(std::size(kTypes) >= QUARN_ASN1_TYPE_COUNT);
 static_assert(all_well_formed(kTypes));
 
 }  // namespace quarn::asn1

@@ -137,7 +137,8 @@ def codec_reference(row):
 
 def registry_table():
     lines = [made_from("modules/registry.tsv and modules/*.asn1"), "constexpr Type kTypes[] = {\n"]
-    for row in registry():
+    inner = [variant.row for _, variant in described().values() if variant.row.inner]
+    for row in [*registry(), *sorted(inner, key=lambda row: row.id)]:
         wire = row.id in described() and "wire" in described()[row.id][0].notes
         tag, form = (16, "constructed") if wire else (row.tag, row.form)
         parts = [c_string(row.name), codec_reference(row), str(tag), f"{row.code:#x}",

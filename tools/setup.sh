@@ -5,7 +5,8 @@
 set -eu
 
 packages="g++ cmake ninja-build pkg-config python3 rapidjson-dev libboost-dev libcli11-dev libgtest-dev
-googletest openssl libssl-dev gpgsm gpg-agent gnutls-bin ca-certificates jq tzdata"
+googletest openssl libssl-dev gpgsm gpg-agent gnutls-bin ca-certificates jq tzdata
+python3-pyasn1-modules ldap-utils slapd"
 case "${1:-}" in
   bench) packages="$packages libbenchmark-dev libmbedtls-dev libbotan-2-dev libtasn1-6-dev
 libtasn1-bin libgnutls28-dev libksba-dev heimdal-multidev" ;;
@@ -20,7 +21,8 @@ for package in $packages; do
 done
 [ -n "$missing" ] || exit 0
 
-command="apt-get install -y --no-install-recommends$missing"
+# So that no package starts a service.
+command="env RUNLEVEL=1 apt-get install -y --no-install-recommends$missing"
 if [ "$(id -u)" != 0 ]; then
   echo "These packages are missing; as root, run:" >&2
   echo "  apt-get update && $command" >&2

@@ -176,12 +176,12 @@ quarn_asn1_any *to_any(const Type &type, void *value) {
 
 }  // namespace
 
-Status duplicate(const Type &type, void *value, void **copy, quarn_err_ctx *ctx) {
+Status duplicate(const Type &type, void *value, void **copy, quarn_err_ctx *ctx, int around) {
   const Scratch scratch(ctx);
   const Status status =
       write_to(scratch, ctx, [&](Writer &out) { return encode(type, out, value); });
   if (!status) return kUnit.pass_on(status, ctx, type.encode_error());
-  Reader in(scratch.data(), scratch.size(), ctx);
+  Reader in(scratch.data(), scratch.size(), ctx, around);
   return decode_all(in, type, copy, decode, nothing_more);
 }
 

@@ -1,7 +1,8 @@
 /* Generated from modules/ASN1_CMS.asn1 by tools/generate.py; do not edit. */
 /**
- * Messages: the Cryptographic Message Syntax and its PKCS #7 forms (RFC 5652, RFC 2315, RFC 6211).
- * Versions are not checked against contents: callers decode what later standards number anew.
+ * Messages: the Cryptographic Message Syntax and its PKCS #7 forms (RFC 5652, RFC 2315, RFC 6211),
+ * and what is signed with Diffie-Hellman keys (RFC 6955). Versions are not checked against
+ * contents: callers decode what later standards number anew.
  *
  * Constructors copy their arguments and return null when a mandatory one is null, one has another
  * SIZE than the definition says, or memory is short. Getters lend: what they return lives as long
@@ -1220,6 +1221,33 @@ QUARN_ASN1_API quarn_cmsalgorithmprotection *quarn_cmsalgorithmprotection_newsig
 /** Of a message with a message authentication code. Both arguments are mandatory. */
 QUARN_ASN1_API quarn_cmsalgorithmprotection *quarn_cmsalgorithmprotection_newmac(
     const quarn_x509algoid *digest, const quarn_x509algoid *mac);
+
+/* ---- DhSigStatic */
+
+/**
+ * Proof that a certificate's requester has its Diffie-Hellman key: a MAC, and whose static key it
+ * was made with (RFC 6955, 4). That its values are SEQUENCEs is inferred from the standard.
+ *
+ *     DhSigStatic ::= SEQUENCE {
+ *         issuerAndSerial  IssuerAndSerialNumber OPTIONAL,
+ *         hashValue        OCTET STRING
+ *     }
+ *
+ * Type id QUARN_ASN1_DHSIGSTATIC (218).
+ */
+typedef struct quarn_dhsigstatic quarn_dhsigstatic;
+/** As quarn_asn1_value_free() under QUARN_ASN1_DHSIGSTATIC. */
+QUARN_ASN1_API void quarn_dhsigstatic_free(quarn_dhsigstatic *value);
+/** From its components. Null leaves out issuer_and_serial. */
+QUARN_ASN1_API quarn_dhsigstatic *quarn_dhsigstatic_new(
+    const quarn_cmsissuerandsn *issuer_and_serial, const quarn_asn1_octetstring *hash_value);
+/** 1 when issuerAndSerial is there. */
+QUARN_ASN1_API int quarn_dhsigstatic_hasissuersn(const quarn_dhsigstatic *value);
+/** issuerAndSerial, null when it is absent. */
+QUARN_ASN1_API quarn_cmsissuerandsn *quarn_dhsigstatic_getissuersn(const quarn_dhsigstatic *value);
+/** hashValue. */
+QUARN_ASN1_API quarn_asn1_octetstring *quarn_dhsigstatic_gethashvalue(
+    const quarn_dhsigstatic *value);
 
 #ifdef __cplusplus
 }

@@ -1,7 +1,7 @@
 /* Generated from modules/ASN1_ESS.asn1 by tools/generate.py; do not edit. */
 /**
- * Enhanced security services: which certificate a signature is to be verified with (RFC 2634, RFC
- * 5035).
+ * Enhanced security services: which certificate a signature is to be verified with, and attributes
+ * of messages (RFC 2634, RFC 5035).
  *
  * Constructors copy their arguments and return null when a mandatory one is null, one has another
  * SIZE than the definition says, or memory is short. Getters lend: what they return lives as long
@@ -186,6 +186,63 @@ QUARN_ASN1_API int quarn_ess_signingcertificatev2_haspolicies(
 /** policies, null when it is absent. */
 QUARN_ASN1_API quarn_asn1_list *quarn_ess_signingcertificatev2_getpolicies(
     const quarn_ess_signingcertificatev2 *value);
+
+/* ---- ContentReference */
+
+/**
+ * Links a signed message to the one that it answers (RFC 2634, 2.11).
+ *
+ *     ContentReference ::= SEQUENCE {
+ *         contentType               OBJECT IDENTIFIER,
+ *         signedContentIdentifier   OCTET STRING,
+ *         originatorSignatureValue  OCTET STRING
+ *     }
+ *
+ * Type id QUARN_ASN1_CONTENTREFERENCE (263).
+ */
+typedef struct quarn_contentreference quarn_contentreference;
+/** As quarn_asn1_value_free() under QUARN_ASN1_CONTENTREFERENCE. */
+QUARN_ASN1_API void quarn_contentreference_free(quarn_contentreference *value);
+/** From its components. */
+QUARN_ASN1_API quarn_contentreference *quarn_contentreference_new(
+    const quarn_asn1_oid *content_type,
+    const quarn_asn1_octetstring *signed_content_identifier,
+    const quarn_asn1_octetstring *originator_signature_value);
+/** contentType. */
+QUARN_ASN1_API quarn_asn1_oid *quarn_contentreference_getcontenttype(
+    const quarn_contentreference *value);
+/** signedContentIdentifier. */
+QUARN_ASN1_API quarn_asn1_octetstring *quarn_contentreference_getsignedcontentid(
+    const quarn_contentreference *value);
+/** originatorSignatureValue. */
+QUARN_ASN1_API quarn_asn1_octetstring *quarn_contentreference_getoriginatorsignvalue(
+    const quarn_contentreference *value);
+
+/* ---- ContentHints */
+
+/**
+ * What the innermost content of a message is (RFC 2634, 2.9).
+ *
+ *     ContentHints ::= SEQUENCE {
+ *         contentDescription  UTF8String (SIZE (1..MAX)) OPTIONAL,
+ *         contentType         OBJECT IDENTIFIER
+ *     }
+ *
+ * Type id QUARN_ASN1_CONTENTHINTS (264).
+ */
+typedef struct quarn_contenthints quarn_contenthints;
+/** As quarn_asn1_value_free() under QUARN_ASN1_CONTENTHINTS. */
+QUARN_ASN1_API void quarn_contenthints_free(quarn_contenthints *value);
+/** From its components. Null leaves out content_description. */
+QUARN_ASN1_API quarn_contenthints *quarn_contenthints_new(
+    const quarn_asn1_octetstring *content_description, const quarn_asn1_oid *content_type);
+/** 1 when contentDescription is there. */
+QUARN_ASN1_API int quarn_contenthints_hascontentdescription(const quarn_contenthints *value);
+/** contentDescription, null when it is absent. */
+QUARN_ASN1_API quarn_asn1_octetstring *quarn_contenthints_getcontentdescription(
+    const quarn_contenthints *value);
+/** contentType. */
+QUARN_ASN1_API quarn_asn1_oid *quarn_contenthints_getcontenttype(const quarn_contenthints *value);
 
 #ifdef __cplusplus
 }

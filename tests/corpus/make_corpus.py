@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the corpus: certificates, CRLs, requests, attribute certificates and messages of every kind.
+"""Makes the corpus: certificates, CRLs, requests, attribute certificates, and messages of CMS and LDAP of every kind.
 
     make_corpus.py FOLDER [SOURCE]
 
@@ -18,8 +18,10 @@ from concurrent.futures import ThreadPoolExecutor
 
 import built
 import der
+import ldap_recorded
 import messages
 import oracle
+import pyasn1_made
 from der import openssl
 
 HERE = pathlib.Path(__file__).parent
@@ -116,7 +118,7 @@ class Maker:
     def __init__(self, folder):
         self.folder, self.work = folder, folder / "work"
         shutil.rmtree(folder, ignore_errors=True)
-        for name in ("work", *TYPES, *messages.HELD.values()):
+        for name in ("work", "made", *TYPES, *messages.HELD.values(), ldap_recorded.FOLDER):
             (folder / name).mkdir(parents=True)
         self.config, self.jobs, self.refused = [(HERE / "sections.cnf").read_text(encoding="utf-8")], [], []
 
@@ -281,6 +283,14 @@ class Maker:
         for name, message in messages.built(self.folder, self.work):
             (self.folder / messages.FOLDERS[0] / f"{name}.der").write_bytes(message)
 
+    def encode(self):
+        """What openssl can neither write nor sign, by other encoders."""
+        try:
+            for number, (kind, octets) in enumerate(pyasn1_made.made()):
+                (self.folder / "made" / f"{kind}.{number}.der").write_bytes(octets)
+        except ImportError as error:
+            self.refused.append(f"no values by pyasn1: {error}")
+
     def make(self, source):
         self.section("req", "distinguished_name = person")
         self.section("policy", "commonName = optional")
@@ -302,7 +312,9 @@ class Maker:
             list(pool.map(self.run, self.jobs))
             self.collect()
             self.build()
+            self.encode()
             messages.split(self.folder)
+            ldap_recorded.record(self.folder / ldap_recorded.FOLDER)
             if source:
                 for path in sorted(pathlib.Path(source).glob("*.crt")):
                     (self.folder / TYPES[0] / f"published_{path.stem}.der").write_bytes(from_pem(path))

@@ -102,5 +102,81 @@ TEST(Depth, every_type_ends_at_the_limit) {
   });
 }
 
+// What stands before levels of a type that holds itself, or of an open type deep inside.
+struct Nest {
+  std::int64_t type;
+  Octets before;
+  std::uint8_t identifier;
+};
+
+const Nest kNests[] = {
+    {QUARN_ASN1_LDAPFILTER, {}, 0xA0},
+    {QUARN_ASN1_LDAPFILTER, {}, 0xA2},
+    {QUARN_ASN1_LDAPMESSAGE,
+     {0x30, 0x80, 0x02, 0x01, 0x01, 0x63, 0x80, 0x04, 0x00, 0x0A, 0x01, 0x00,
+      0x0A, 0x01, 0x00, 0x02, 0x01, 0x00, 0x02, 0x01, 0x00, 0x01, 0x01, 0x00},
+     0xA1},
+};
+
+// A response, the request that it answers, that one's query, policy, and the policy's parameters.
+const Nest kOpenNest{
+    QUARN_ASN1_SCVPCVRESPONSE,
+    {0x30, 0x80, 0x02, 0x01, 0x01, 0x02, 0x01, 0x01, 0x18, 0x0F, '2',  '0',  '2',  '6',  '0',
+     '1',  '0',  '1',  '0',  '0',  '0',  '0',  '0',  '0',  'Z',  0x30, 0x00, 0xA1, 0x80, 0xA1,
+     0x80, 0x30, 0x80, 0xA0, 0x0B, 0xA1, 0x09, 0x04, 0x00, 0x30, 0x05, 0x30, 0x00, 0x02, 0x01,
+     0x01, 0x30, 0x03, 0x06, 0x01, 0x2A, 0x30, 0x80, 0x30, 0x80, 0x06, 0x01, 0x2A},
+    0x30};
+
+void ends_at_the_limit(const Nest &nest, Octets octets) {
+  octets.insert(octets.begin(), nest.before.begin(), nest.before.end());
+  void *value = nullptr;
+  const Stream stream = memory_stream(octets);
+  EXPECT_EQ(quarn_asn1_decode(stream.get(), nest.type, &value, nullptr, nullptr),
+            QUARN_ERROR_RECURSION);
+  EXPECT_EQ(value, nullptr);
+}
+
+TEST(Depth, levels_deep_inside_a_message_end_at_the_limit) {
+  on_small_stack([] {
+    Allocation allocation;
+    for (const Nest &nest : kNests) {
+      ends_at_the_limit(nest, nested_indefinite(nest.identifier, kLevels));
+      ends_at_the_limit(nest, nested_definite(nest.identifier, kLevels));
+    }
+    ends_at_the_limit(kOpenNest, nested_indefinite(kOpenNest.identifier, kLevels));
+    EXPECT_EQ(allocation.live_blocks(), 0);
+  });
+}
+
+TEST(Depth, values_are_built_as_deep_as_they_can_be_decoded) {
+  on_small_stack([] {
+    Allocation allocation;
+    quarn_asn1_octetstring *cn = quarn_asn1_octetstring_new(Octets{'c', 'n'}.data(), 2);
+    quarn_ldapfilter *filter = quarn_ldapfilter_newpresent(cn);
+    quarn_asn1_value_free(QUARN_ASN1_OCTETSTRING, cn);
+    int levels = 0;
+    while (quarn_ldapfilter *deeper = quarn_ldapfilter_newnot(filter)) {
+      quarn_ldapfilter_free(filter);
+      filter = deeper;
+      ASSERT_LT(++levels, quarn_get_recursive_level());
+    }
+    EXPECT_GT(levels, quarn_get_recursive_level() / 3);
+    const Blob blob(quarn_asn1_mem_encode(QUARN_ASN1_LDAPFILTER, filter));
+    ASSERT_NE(blob, nullptr);
+    EXPECT_EQ(quarn_asn1_length(QUARN_ASN1_LDAPFILTER, filter),
+              static_cast<std::int64_t>(blob->length));
+    void *copy = quarn_asn1_dupobject(QUARN_ASN1_LDAPFILTER, filter, nullptr);
+    EXPECT_NE(copy, nullptr) << "what is built can be decoded";
+    quarn_asn1_value_free(QUARN_ASN1_LDAPFILTER, copy);
+    Octets deeper{0xA2, 0x82, static_cast<std::uint8_t>(blob->length >> 8),
+                  static_cast<std::uint8_t>(blob->length)};
+    deeper.insert(deeper.end(), blob->data, blob->data + blob->length);
+    const Stream stream = memory_stream(deeper);
+    EXPECT_EQ(quarn_asn1_decode(stream.get(), QUARN_ASN1_LDAPFILTER, &copy, nullptr, nullptr),
+              QUARN_ERROR_RECURSION);
+    quarn_ldapfilter_free(filter);
+  });
+}
+
 }  // namespace
 }  // namespace quarn::test

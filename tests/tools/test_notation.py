@@ -14,15 +14,17 @@ STRUCTURED = {100: ("point", "Point", 16, "constructed"), 101: ("points", "Point
               102: ("shape", "shape", 0, "either"), 103: ("name", "name", 0, "either"),
               104: ("bag", "bag", 17, "constructed"), 105: ("spot", "Point", 16, "constructed"),
               106: ("odd", "odd", 0, "either"), 107: ("short", "name", 0, "either"),
-              108: ("vague", "vague", 16, "constructed"), 109: ("dim", "dim", 0, "either")}
+              108: ("vague", "vague", 16, "constructed"), 109: ("dim", "dim", 0, "either"),
+              110: ("done", "done", 3, "constructed"), 111: ("stop", "u2", 4, "primitive")}
 
 
 def registry():
     made = []
-    for number in range(110):
+    for number in range(112):
         name, stem, tag, form = STRUCTURED.get(number, (f"u{number}", f"u{number}", TAGS.get(number, number), "primitive"))
-        codec = "-" if number in STRUCTURED else "own"
-        made.append(model.Row(number, name, stem, tag, "universal", form, 0x10200, codec))
+        codec = "-" if number in STRUCTURED and number != 111 else "own"
+        tag_class = "application" if number >= 110 else "universal"
+        made.append(model.Row(number, name, stem, tag, tag_class, form, 0x10200 + number, codec))
     return made
 
 
@@ -41,6 +43,7 @@ POINT = """
 --- A place.
 --@ type id=100
 --@ also id=105 check=kSpot
+--@ also id=110
 Point ::= SEQUENCE { x INTEGER, y [0] EXPLICIT INTEGER DEFAULT 7 }
 --- Things.
 --@ type id=104
@@ -80,6 +83,9 @@ class Mistakes(unittest.TestCase):
                 ("T is a SEQUENCE of universal tag 16; row 104 of modules/registry.tsv has universal tag 17",
                  "--- T.\n--@ type id=104\nT ::= SEQUENCE { x INTEGER }"),
                 ("row 106 of modules/registry.tsv has", "--- T.\n--@ type id=106\nT ::= SEQUENCE { x INTEGER }"),
+                ("id 4 is no row of INTEGER", "--- T.\n--@ type id=100\nT ::= SEQUENCE {\nx INTEGER --@ id=4\n}"),
+                ("i has no type id: it is mandatory",
+                 "--- T.\n--@ type id=101\nT ::= SEQUENCE { i I }\n--- I.\n--@ inner of=101\nI ::= CHOICE { x NULL }"),
                 ("id 2 has the codec 'own'", "--- T.\n--@ type id=2\nT ::= SEQUENCE { x INTEGER }"),
                 ("there is no id 999", "--- T.\n--@ type id=999\nT ::= SEQUENCE { x INTEGER }"),
                 ("two components are called x", SEQUENCE + "{ x INTEGER, x NULL }"),
@@ -90,6 +96,11 @@ class Mistakes(unittest.TestCase):
                 ("the default of x is no OCTET STRING", SEQUENCE + "{ x OCTET STRING DEFAULT 0 }"),
                 ("SIZE is for strings in a record", SEQUENCE + "{ x INTEGER (SIZE (8)) }"),
                 ("the default of x is not between -128 and 127", SEQUENCE + "{ x INTEGER DEFAULT 128 }"),
+                ("form=exact is for OPTIONAL components and alternatives without an EXPLICIT tag",
+                 "--- T.\n--@ type id=102\nT ::= CHOICE {\nx [0] EXPLICIT NULL --@ form=exact\n}"),
+                ("form=inside is for components without a tag that may be absent", SEQUENCE + "{\nx NULL --@ form=inside\n}"),
+                ("when is a number up to 127, for OPTIONAL components without a tag",
+                 SEQUENCE + "{\ny INTEGER,\nx NULL --@ when=1\n}"),
                 ("a SEQUENCE inside a component is a definition of its own", SEQUENCE + "{ x SEQUENCE OF INTEGER }"),
                 ("unknown type Colour", "a BAG ::= { 1.2 Colour }"),
                 ("1.2 is there twice as bag", "a BAG ::= { 1.2 NULL }\nb BAG ::= { 1.2 ANY }"),
@@ -105,7 +116,7 @@ class Mistakes(unittest.TestCase):
         self.stops("Point is also defined in", POINT, "--- T.\n--@ type id=101\nPoint ::= SEQUENCE { x INTEGER }")
         self.stops("id 100 is no row of Bag", POINT,
                    "--- T.\n--@ type id=101\nT ::= SEQUENCE {\nx Bag --@ id=100\n}")
-        self.stops("has the stem Point of Point", POINT.replace("--@ also id=105 check=kSpot\n", "").replace(
+        self.stops("has the stem Point of Point", POINT.replace("--@ also id=105 check=kSpot\n--@ also id=110\n", "").replace(
             "--@ id=105", ""), "--- T.\n--@ type id=105\nT ::= SEQUENCE { x INTEGER }")
 
 

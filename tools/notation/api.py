@@ -56,7 +56,7 @@ def header(module, modules):
 def section(definition):
     described = [*paragraphs(definition.text), source(definition), identity(definition)]
     text = f"/* ---- {definition.name} */\n\n{comment(described)}\n"
-    if definition.struct != "quarn_asn1_list":
+    if definition.struct not in ("quarn_asn1_list", "void"):
         owner = definition.owner.struct
         text += f"typedef struct {owner} {definition.struct};\n"
     for function in functions_of(definition):
@@ -75,7 +75,10 @@ def source(definition):
 
 def identity(definition):
     """Under which ids, as what, and freed by what."""
-    names = [f"{variant.row.constant} ({variant.id})" for variant in definition.variants]
+    if definition.is_inner:
+        return "It has no type id. Its alternatives: " + ", ".join(
+            f"{component.number} {component.name} ({component.row.constant})" for component in definition.fields) + "."
+    names = [f"{variant.row.constant} ({variant.id}{application_tag(variant.row)})" for variant in definition.variants]
     text = ("Type ids " if len(names) > 1 else "Type id ") + ", ".join(names) + "."
     if definition.struct == "quarn_asn1_list":
         element = definition.fields[0]
@@ -83,6 +86,10 @@ def identity(definition):
     if definition.owner is not definition:
         text += f" Freed with quarn_{definition.row.stem}_free()."
     return text
+
+
+def application_tag(row):
+    return f", [APPLICATION {row.tag}]" if row.tag_class == "application" else ""
 
 
 # ---- Order

@@ -91,7 +91,7 @@ def components(definition, number):
         tag = f"[{component.tag[0]}] {component.tag[1].upper()}" if component.tag else ""
         presence = {"mandatory": "", "optional": "OPTIONAL"}.get(component.presence, f"DEFAULT {component.default_text}")
         name = "" if definition.is_list else component.name
-        lines.append(f"    {{{c_string(name)}, {component.row.constant}, {c_string(tag)}, {c_string(presence)}}},\n")
+        lines.append(f"    {{{c_string(name)}, {component.row.id if component.row.inner else component.row.constant}, {c_string(tag)}, {c_string(presence)}}},\n")
     return f"constexpr Component kComponents{number}[] = {{\n{''.join(lines)}}};\n"
 
 

@@ -48,7 +48,7 @@ def functions_of(definition):
 
 def free_function(definition, variant):
     """There is one for each stem: that of the first row that has it."""
-    if definition.owner is not definition or variant.row.stem in [
+    if definition.is_inner or definition.owner is not definition or variant.row.stem in [
             other.row.stem for other in definition.variants[:definition.variants.index(variant)]]:
         return None
     return Function("void ", f"quarn_{variant.row.stem}_free", [f"{definition.struct} *value"],

@@ -26,10 +26,11 @@ class Row:
     form: str
     code: int
     codec: str
+    inner: bool = False  # it is in no registry: of a definition without a type id
 
     @property
     def constant(self):
-        return f"QUARN_ASN1_{self.name.upper()}"
+        return f"k{self.name}Type" if self.inner else f"QUARN_ASN1_{self.name.upper()}"
 
 
 @dataclasses.dataclass
@@ -77,7 +78,7 @@ class Component:
 class Variant:
     """A row of the registry that a definition describes: that of its type note, or of an also note."""
 
-    id: int
+    id: int  # None of an inner definition until it gets a row
     notes: dict
     line: int
     row: Row = None
@@ -148,6 +149,10 @@ class Definition:
     @property
     def constant(self):
         return "k" + self.name.replace("-", "")
+
+    @property
+    def is_inner(self):
+        return self.row.inner
 
     @property
     def is_list(self):

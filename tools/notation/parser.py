@@ -10,10 +10,11 @@ MODULE_NOTES = {"unit": WORD, "header": WORD}
 TYPE_NOTES = {"id": NUMBER, "prefix": WORD, "new": "none|own", "accessors": "own", "check": CONSTANT,
               "keep": "encoding|body|bodyalone|positions", "codec": CONSTANT, "wire": "sequence", "first": NUMBER,
               "tail": "open", "strings": None, "layout": "inferred"}
+INNER_NOTES = {"of": NUMBER}
 PLACES = "attribute|bag|capability|content|extension|key|parameters|private|qualifier|response|statement"
 ALSO_NOTES = {word: TYPE_NOTES[word] for word in ("id", "prefix", "check")} | {"open": PLACES}
-COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive|exact",
-                   "through": None, "content": None, "open": PLACES, "data": r"[A-Z][A-Za-z0-9-]*"}
+COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive|exact|inside",
+                   "when": NUMBER, "through": None, "content": None, "open": PLACES, "data": r"[A-Z][A-Za-z0-9-]*"}
 
 TWO_WORDS = {"BIT": "STRING", "OCTET": "STRING", "OBJECT": "IDENTIFIER"}
 WITH_NAMES = ("INTEGER", "ENUMERATED", "BIT STRING")
@@ -139,8 +140,13 @@ class Parser:
                 if "id" not in notes:
                     self.fail(f"the {word} note lacks id=", line.number)
                 variants.append(Variant(notes["id"], notes, line.number))
+            elif word == "inner" and not variants:
+                notes = self.notes(line, INNER_NOTES)
+                if "of" not in notes:
+                    self.fail("the inner note lacks of=", line.number)
+                variants.append(Variant(None, notes, line.number))
             else:
-                self.fail(f"unknown note '{word}'; known here: type, also, export", line.number)
+                self.fail(f"unknown note '{word}'; known here: type, also, inner, export", line.number)
         return text, variants, exports
 
     def export(self, line, text, following):

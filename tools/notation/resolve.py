@@ -4,7 +4,7 @@ import dataclasses
 import difflib
 import re
 
-from .model import Component, NotationError, TypeName
+from .model import Component, NotationError, Row, TypeName
 
 BUILTIN = {
     "BOOLEAN": (1, "boolean"), "INTEGER": (2, "integer"), "BIT STRING": (3, "bitstring"),
@@ -28,7 +28,7 @@ class Resolver:
     """Fills in rows, C types and numbers of all modules, or stops at the first mistake."""
 
     def __init__(self, rows, modules):
-        self.rows = rows
+        self.rows = [*rows]
         self.modules = modules
         self.by_name = {}
         self.by_id = {}
@@ -61,6 +61,8 @@ class Resolver:
         if other is not definition:
             definition.fail(f"{definition.name} is also defined in {other.path}:{other.line}")
         for variant in definition.variants:
+            if variant.id is None:
+                self.add_row(definition, variant)
             if variant.id >= len(self.rows):
                 definition.fail(f"there is no id {variant.id} in modules/registry.tsv", variant.line)
             variant.row = self.rows[variant.id]
@@ -72,13 +74,24 @@ class Resolver:
                                 "a row with a notation has '-' there", variant.line)
             self.form(definition, variant)
             variant.prefix = variant.notes.get("prefix", "")
-        if not definition.variants[0].prefix:
+        if not definition.variants[0].prefix and not definition.is_inner:
             definition.variants[0].prefix = definition.row.name
+
+    def add_row(self, definition, variant):
+        """A row behind those of the registry. Failures have the code of the row that it is inside."""
+        around = variant.notes["of"]
+        if definition.kind != "choice" or around >= len(self.rows):
+            definition.fail("inner is for a CHOICE inside a row of modules/registry.tsv", variant.line)
+        variant.id = len(self.rows)
+        self.rows.append(Row(variant.id, definition.constant[1:], definition.name, 0, "universal", "either",
+                             self.rows[around].code, "-", True))
 
     @staticmethod
     def form(definition, variant):
         row = variant.row
         actual = (row.tag_class, row.tag)
+        if row.tag_class == "application" and variant is not definition.variants[0]:
+            actual = (definition.row.tag_class, definition.row.tag)  # the row tells the tag
         if definition.kind == "choice":
             wanted = ("universal", 0)
         else:
@@ -101,7 +114,8 @@ class Resolver:
         if "layout" in definition.notes and definition.is_list:
             definition.fail("layout=inferred is for records and CHOICEs")
         bare = definition.is_list and "keep" not in definition.notes and "codec" not in definition.notes
-        definition.struct = "quarn_asn1_list" if bare else f"quarn_{definition.variants[0].prefix}"
+        definition.struct = ("void" if definition.is_inner else "quarn_asn1_list" if bare
+                             else f"quarn_{definition.variants[0].prefix}")
 
     @staticmethod
     def sharing(definition):
@@ -135,6 +149,8 @@ class Resolver:
         target = self.by_name.get(component.type.name)
         c_name = BUILTIN[component.type.name][1] if target is None else None
         component.c_type = target.struct if target else f"quarn_asn1_{c_name}" if c_name else "void"
+        if component.row.inner and (component.tag or component.presence != "mandatory" or component.part):
+            definition.fail(f"{component.name} has no type id: it is mandatory, without a tag, and get=none", component.line)
         self.tagging(definition, component)
         self.presence(definition, component)
 
@@ -144,9 +160,10 @@ class Resolver:
             one.type = dataclasses.replace(self.aliases[one.type.name].type, line=one.type.line)
         name, wanted = one.type.name, one.notes.get("id")
         if name in BUILTIN:
-            if wanted is not None:
-                raise NotationError(path, one.line, f"id= is for definitions with several rows, not for {name}")
-            return self.rows[BUILTIN[name][0]]
+            row = self.rows[BUILTIN[name][0] if wanted is None else wanted]
+            if row.stem != self.rows[BUILTIN[name][0]].stem:
+                raise NotationError(path, one.line, f"id {wanted} is no row of {name}")
+            return row
         target = self.by_name.get(name)
         if target is None:
             near = difflib.get_close_matches(name, [*BUILTIN, *self.by_name, *self.aliases], 1)
@@ -184,7 +201,7 @@ class Resolver:
         sized = definition.kind == "record" and component.row.id in STRINGS
         if component.size and (not sized or not 1 <= component.size[0] <= 127):
             definition.fail("SIZE is for strings in a record, of 1 to 127 octets", component.line)
-        if {bool: 1, int: 2}.get(type(component.default), component.row.id) != component.row.id:
+        if component.row.id not in {bool: (1,), int: (2, 7)}.get(type(component.default), (component.row.id,)):
             definition.fail(f"the default of {component.name} is no {component.type.name}", component.line)
         if "through" in component.notes:
             component.record = self.by_name.get(component.type.name)
@@ -208,12 +225,11 @@ class Resolver:
         if "tail" in notes and (len(fields) != 2 or fields[1].row.id != ANY_ID or fields[1].presence != "optional"):
             definition.fail("tail=open is for a mandatory component and ANY OPTIONAL", definition.variants[0].line)
         for component in fields:
-            for word, kind in (("new", "choice"), ("written", "choice"), ("form", "record"), ("has", "record"),
-                               ("through", "record"), ("content", "record")):
+            for word, kind in (("new", "choice"), ("written", "choice"), ("has", "record"), ("through", "record"),
+                               ("when", "record"), ("content", "record")):
                 if word in component.notes and definition.kind != kind:
                     definition.fail(f"{word} is for components of a {KINDS[kind]}", component.line)
-            if component.notes.get("form") == "exact" and (component.presence != "optional" or component.tag):
-                definition.fail("form=exact is for OPTIONAL components without a tag", component.line)
+            self.recognition(definition, component)
             if "content" in component.notes and (component.presence != "optional" or component.tag is None or
                                                  component.type.name not in ("ANY", "OCTET STRING")):
                 definition.fail("content is for an OPTIONAL component under a tag, ANY or OCTET STRING", component.line)
@@ -221,6 +237,21 @@ class Resolver:
                 definition.fail(f"{component.name} is no character string", component.line)
         if definition.kind == "choice":
             self.numbers(definition)
+
+    @staticmethod
+    def recognition(definition, component):
+        """What a component may be known by besides its class and tag."""
+        form, tagging = component.notes.get("form"), component.tag[1] if component.tag else "plain"
+        may_lack = component.presence == "optional"
+        if form == "primitive" and definition.kind != "record":
+            definition.fail("form=primitive is for components of a SEQUENCE or SET", component.line)
+        if form == "exact" and (not may_lack and definition.kind != "choice" or tagging == "explicit"):
+            definition.fail("form=exact is for OPTIONAL components and alternatives without an EXPLICIT tag",
+                            component.line)
+        if form == "inside" and (not may_lack and not isinstance(component.default, bytes) or tagging != "plain"):
+            definition.fail("form=inside is for components without a tag that may be absent", component.line)
+        if "when" in component.notes and (not may_lack or tagging != "plain" or component.notes["when"] > 127):
+            definition.fail("when is a number up to 127, for OPTIONAL components without a tag", component.line)
 
     @staticmethod
     def numbers(definition):

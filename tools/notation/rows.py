@@ -2,6 +2,7 @@
 
 from .layout import WIDTH, call
 
+FORMS = {"primitive": "primitive_form()", "exact": "exact_form()", "inside": "told_inside()"}
 CODECS = {"record": "kRecordCodec", "list": "kListCodec", "choice": "kChoiceCodec"}
 # Of types that are read and written as elements of any type.
 INFERRED = {"record": "kListCodec", "choice": "kElementCodec"}
@@ -30,9 +31,10 @@ def field(definition, component):
     notes = [f'"{component.name}"', component.row.constant]
     if component.tag is not None:
         notes.append(f"{component.tag[1]}_tag({component.tag[0]})")
-    if component.presence == "optional":
-        exact = component.notes.get("form") == "exact"
-        notes.append("content()" if "content" in component.notes else "optional_exact()" if exact else "optional()")
+    if "when" in component.notes:
+        notes.append(f"selected_by({component.notes['when']})")
+    elif component.presence == "optional":
+        notes.append("content()" if "content" in component.notes else "optional()")
     elif isinstance(component.default, bytes):
         notes.append(f"default_encoding({default_constant(definition, component)})")
     elif component.presence == "default":
@@ -41,8 +43,8 @@ def field(definition, component):
         notes.append(f"{'at_least_octets' if component.size[1] else 'octets'}({component.size[0]})")
     if "written" in component.notes:
         notes.append(f"written_tag({component.notes['written']})")
-    if component.notes.get("form") == "primitive":
-        notes.append("primitive_form()")
+    if "form" in component.notes:
+        notes.append(FORMS[component.notes["form"]])
     return call("    field(", notes, "),") + "\n"
 
 
@@ -111,11 +113,13 @@ def rows(module):
 
 
 def own(modules):
-    """What the notation takes from the modules' sources: codecs and checks."""
-    codecs, checks = set(), set()
+    """What the notation takes from the modules' sources, codecs and checks, and what it gives them: ids."""
+    codecs, checks, ids = set(), set(), ""
     for module in modules:
         for definition in module.definitions:
             codecs |= {variant.notes["codec"] for variant in definition.variants if "codec" in variant.notes}
             checks |= {variant.notes["check"] for variant in definition.variants if "check" in variant.notes}
-    return "".join([f"extern const Codec {name};\n" for name in sorted(codecs)] +
+            if definition.is_inner:
+                ids += f"constexpr auto {definition.row.constant} = static_cast<quarn_asn1_type_id>({definition.row.id});\n"
+    return ids + "".join([f"extern const Codec {name};\n" for name in sorted(codecs)] +
                    [f"extern const Restriction {name};\n" for name in sorted(checks)])

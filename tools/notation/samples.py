@@ -17,10 +17,16 @@ LISTS_OF_ANY = {24: 0, 25: 1, 26: 0, 27: 1}  # and the elements that they have a
 ABSENT = {"kPkixAttributeTypeAndValue": {"primaryDistinguished", "valuesWithContext"},
           "kPkcs10Attribute": {"valuesWithContext"},
           "kPkixNameConstraints": {"requiredNameForms"}}
+# What it demands of those that may be absent.
+PRESENT = {"kSignerLocation": {"countryName"}}
 # Contents that a check of a row demands: without the optional components, and with them.
-DEMANDED = {"kRsaVersion": {"version": (b"\0", b"\1")}, "kPbeSalt": {"salt": (bytes(8), bytes(8))}}
+DEMANDED = {"kRsaVersion": {"version": (b"\0", b"\1")}, "kPbeSalt": {"salt": (bytes(8), bytes(8))},
+            "kCertListType": {"certListType": (b"\2", b"\1")}}
 # The type that a check of a row demands of the open types in it.
 OPEN = {"kCmsSignedData": OCTET_STRING_ID}
+# Elements that a check of a row demands at least, and small numbers.
+ELEMENTS = {"kLdapAttribute": 1}
+SALT = {"kLdapBindRequest": 0}
 
 
 def letter(salt):
@@ -85,7 +91,7 @@ class Sampler:
         """Class, form and tag that values of a type have, unless it is a CHOICE or open."""
         row = self.rows[type_id]
         if type_id not in self.described:
-            return UNIVERSAL, type_id in LISTS_OF_ANY, row.tag
+            return CLASS_BITS[row.tag_class], type_id in LISTS_OF_ANY, row.tag
         if "wire" in self.described[type_id][0].notes:
             return UNIVERSAL, True, 16
         return CLASS_BITS[row.tag_class], True, row.tag
@@ -93,7 +99,9 @@ class Sampler:
     def element(self, type_id, look):
         definition = self.described.get(type_id, [None])[0]
         if definition and definition.kind == "choice":
-            return self.alternative(definition, definition.fields[look.salt % len(definition.fields)], look)
+            # Far inside it is another one, so that types that hold themselves end.
+            number = (look.salt + max(0, look.depth - 3)) % len(definition.fields)
+            return self.alternative(definition, definition.fields[number], look)
         if type_id == ANY_ID:
             return self.element(look.open or [9, 2][look.salt % 2], look)
         if type_id == TIME_ID:
@@ -104,20 +112,33 @@ class Sampler:
         if type_id in LISTS_OF_ANY:
             return self.elements(ANY_ID, max(look.elements, LISTS_OF_ANY[type_id]), look)
         if type_id not in self.described:
-            return CONTENTS.get(type_id, letter)(look.salt) * look.octets
+            return CONTENTS.get(self.universal(type_id), letter)(look.salt) * look.octets
         definition, variant = self.described[type_id]
         if definition.is_list:
             return self.elements(definition.fields[0].row.id, max(look.elements, definition.at_least), look)
         check = variant.notes.get("check")
-        look = dataclasses.replace(look, open=OPEN.get(check, look.open))
+        look = dataclasses.replace(look, open=OPEN.get(check, look.open), salt=SALT.get(check, look.salt),
+                                   elements=max(look.elements, ELEMENTS.get(check, 0)))
         if check == "kUuidPair":
             return tlv(*self.header(4), bytes(range(16))) + tlv(*self.header(4), bytes(range(16, 32)))
-        demanded = DEMANDED.get(check, {})
-        return b"".join(tlv(*self.header(component.row.id), demanded[component.name][look.optional])
+        demanded = {name: contents[look.optional] for name, contents in DEMANDED.get(check, {}).items()}
+        return b"".join(tlv(*self.header(component.row.id), demanded[component.name])
                         if component.name in demanded else self.component(component, look.inside(salt))
                         for salt, component in enumerate(definition.fields)
-                        if component.name not in ABSENT.get(check, ())
-                        and (look.optional or component.presence == "mandatory"))
+                        if self.has(component, check, look, demanded.values()))
+
+    @staticmethod
+    def has(component, check, look, demanded):
+        if "when" in component.notes:
+            return bytes([component.notes["when"]]) in demanded
+        if component.presence == "mandatory" or component.name in PRESENT.get(check, ()):
+            return True
+        return look.optional and component.name not in ABSENT.get(check, ())
+
+    def universal(self, type_id):
+        """The universal type whose content a row with a tag of its own has."""
+        row = self.rows[type_id]
+        return type_id if row.tag_class == "universal" else next(one.id for one in self.rows if one.stem == row.stem)
 
     def elements(self, type_id, count, look):
         return b"".join(self.element(type_id, look.inside(salt)) for salt in range(count))
@@ -158,7 +179,7 @@ class Sampler:
 def vectors(rows, described):
     sampler = Sampler(rows, described)
     lines = []
-    for type_id in sorted(described):
+    for type_id in sorted(id for id in described if id < len(rows)):
         lines.append(f"\ntype = {rows[type_id].name}\n")
         for name, octets, written in sampler.samples(type_id):
             out = written.hex(" ").upper() if written else "same"

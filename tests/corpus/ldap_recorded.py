@@ -1,0 +1,194 @@
+"""What LDAP clients and a server say to each other, cut into messages.
+
+A server with an empty database runs in a temporary folder, behind a socket that writes down what passes. No port is
+used, and nothing outside the folder is read but the server's modules and schemas.
+"""
+
+import pathlib
+import select
+import shutil
+import socket
+import subprocess
+import tempfile
+import threading
+import time
+import urllib.parse
+
+CONFIGURATION = """
+include /etc/ldap/schema/core.schema
+include /etc/ldap/schema/cosine.schema
+include /etc/ldap/schema/inetorgperson.schema
+modulepath /usr/lib/ldap
+moduleload back_mdb
+moduleload syncprov
+pidfile {0}/pid
+database mdb
+directory {0}
+suffix "o=a"
+rootdn "cn=admin,o=a"
+rootpw secret
+overlay syncprov
+"""
+ENTRIES = """
+dn: o=a
+objectClass: organization
+o: a
+
+dn: ou=b,o=a
+objectClass: organizationalUnit
+ou: b
+description: Größe
+description:: AAEC/w==
+
+dn: cn=x,o=a
+objectClass: inetOrgPerson
+cn: x
+sn: y
+userPassword: secret
+employeeNumber: 7
+
+dn: ou=elsewhere,o=a
+objectClass: referral
+objectClass: extensibleObject
+ou: elsewhere
+ref: ldap://example.com/o=b
+ref: ldap://example.org/o=b
+"""
+CHANGES = """
+dn: cn=x,o=a
+changetype: modify
+add: description
+description: one
+description: two
+-
+replace: sn
+sn: z
+-
+delete: description
+
+dn: cn=none,o=a
+changetype: delete
+
+dn: ou=elsewhere,o=a
+changetype: modrdn
+newrdn: ou=nowhere
+deleteoldrdn: 0
+"""
+FILTERS = ["(cn=*)", "(&(cn=x)(!(sn=q))(|(cn>=a)(cn<=z)))", "(cn=a*b*c*d)", "(cn=*b*)", "(cn=a*)", "(cn=*d)", "(sn~=y)",
+           "(cn:caseExactMatch:=x)", "(cn:dn:2.5.13.2:=x)", "(:caseIgnoreMatch:=x)", "(cn=\\00\\2a\\ff)",
+           "(&(|(cn=x)(cn=y))(|(!(cn=a))(&(cn=x))))"]
+ADMIN = "-x -D cn=admin,o=a -w secret"
+# Command and what it reads. All of them end, whatever the server thinks of them.
+COMMANDS = [
+    (f"ldapadd {ADMIN} -M", ENTRIES), (f"ldapadd {ADMIN} -c", ENTRIES), (f"ldapmodify {ADMIN} -c", CHANGES),
+    *[("ldapsearch -x -b o=a '" + text + "'", "") for text in FILTERS],
+    ("ldapsearch -x -b o=a -A -s one -a always -z 1 -l 9 (cn=*) cn sn + *", ""),
+    ("ldapsearch -x -b cn=y,ou=elsewhere,o=a", ""), ("ldapsearch -x -b '' -s base + ", ""), ("ldapsearch -x -b o=q", ""),
+    ("ldapsearch -x -b o=a -E pr=1/noprompt", ""), ("ldapsearch -x -b o=a -E !pr=1/noprompt -M", ""),
+    ("ldapsearch -x -b o=a -E sync=ro/rid=000,csn=20000101000000.000000Z#000000#000#000000", ""),
+    ("ldapsearch -x -b o=a -E sync=ro -e !assert=(o=a)", ""), ("ldapsearch -x -b o=a -E 1.2.3=:dGV4dA==", ""),
+    (f"ldapsearch {ADMIN} -b o=a -e !abandon", ""), (f"ldapsearch {ADMIN} -b o=a -e !cancel", ""),
+    ("ldapcompare -x cn=x,o=a sn:z", ""), ("ldapcompare -x cn=x,o=a sn::/w==", ""),
+    (f"ldapmodrdn {ADMIN} -r cn=x,o=a cn=w", ""), (f"ldapmodrdn {ADMIN} -s ou=b,o=a cn=w,o=a cn=x", ""),
+    (f"ldapmodify {ADMIN} -e preread=sn -e postread=*", "dn: ou=b,o=a\nchangetype: modify\nincrement: n\nn: 1\n"),
+    (f"ldappasswd {ADMIN} -s other cn=x,ou=b,o=a", ""), (f"ldappasswd {ADMIN} cn=x,ou=b,o=a", ""),
+    ("ldapwhoami -x", ""), ("ldapwhoami -Q -Y EXTERNAL", ""), ("ldapwhoami -x -D cn=x,o=a -w wrong", ""),
+    ("ldapwhoami -x -Z", ""), (f"ldapexop {ADMIN} 1.2.3::AAEC", ""), (f"ldapexop {ADMIN} refresh o=a 9", ""),
+    (f"ldapdelete {ADMIN} -c cn=x,ou=b,o=a o=a", ""), (f"ldapdelete {ADMIN} -r -M ou=b,o=a", ""),
+]
+FOLDER = "ldapmessage"
+# Every operation of RFC 4511 by its tag.
+OPERATIONS = {*range(17), 19, 23, 24, 25}
+
+
+def messages(octets):
+    while octets:
+        size, start = octets[1], 2
+        if size >= 0x80:
+            start += size - 0x80
+            size = int.from_bytes(octets[2:start], "big")
+        yield bytes(octets[:start + size])
+        octets = octets[start + size:]
+
+
+class Recorder:
+    """Passes on what is said at one socket to another, and keeps it: what each side of each connection said."""
+
+    def __init__(self, here, there):
+        self.there, self.said, self.threads = there, [], []
+        self.socket = socket.socket(socket.AF_UNIX)
+        self.socket.bind(here)
+        self.socket.listen()
+        threading.Thread(target=self.accept, daemon=True).start()
+
+    def accept(self):
+        while True:
+            client, _ = self.socket.accept()
+            server = socket.socket(socket.AF_UNIX)
+            server.connect(self.there)
+            thread = threading.Thread(target=self.pass_on, args=(client, server), daemon=True)
+            self.threads.append(thread)
+            thread.start()
+
+    def pass_on(self, client, server):
+        said = {client: bytearray(), server: bytearray()}
+        self.said += said.values()
+        with client, server:
+            while True:
+                for speaker in select.select([client, server], [], [])[0]:
+                    try:
+                        octets = speaker.recv(65536)
+                        said[speaker] += octets
+                        (server if speaker is client else client).sendall(octets)
+                    except ConnectionError:  # one side went away without reading all
+                        octets = b""
+                    if not octets:
+                        return
+
+
+def wait_for(path):
+    for _ in range(500):
+        with socket.socket(socket.AF_UNIX) as probe:
+            if probe.connect_ex(path) == 0:
+                return
+        time.sleep(0.02)
+    raise SystemExit("corpus: the LDAP server does not start")
+
+
+def run(work):
+    (work / "slapd.conf").write_text(CONFIGURATION.format(work))
+    there, here = str(work / "server"), str(work / "recorder")
+    with open(work / "log", "wb") as log:
+        server = subprocess.Popen(["/usr/sbin/slapd", "-d", "0", "-f", work / "slapd.conf", "-h",
+                                   "ldapi://" + urllib.parse.quote(there, "")], stdout=log, stderr=log)
+    try:
+        wait_for(there)
+        recorder = Recorder(here, there)
+        for command, entered in COMMANDS:
+            tool, *arguments = [word.strip("'") for word in command.split(" ") if word]
+            subprocess.run([tool, "-H", "ldapi://" + urllib.parse.quote(here, ""), *arguments], input=entered.encode(),
+                           capture_output=True, timeout=30, check=False)
+        for thread in recorder.threads:
+            thread.join(5)
+        return [message for said in recorder.said for message in messages(said)]
+    finally:
+        server.terminate()
+        server.wait(10)
+
+
+def record(folder):
+    """Writes each message that differs from the others into the folder."""
+    if not shutil.which("ldapsearch") or not pathlib.Path("/usr/sbin/slapd").exists():
+        raise SystemExit("corpus: no LDAP server or clients; tools/setup.sh installs them")
+    with tempfile.TemporaryDirectory() as work:
+        heard = run(pathlib.Path(work))
+    operations = {}
+    for message in heard:
+        position = message.index(b"\x02") + 1  # the message number, after identifier and length
+        operations.setdefault(message[position + 1 + message[position]] & 0x1F, set()).add(message)
+    missing = OPERATIONS - set(operations)
+    if missing:
+        raise SystemExit(f"corpus: no LDAP message was heard of the operations {sorted(missing)}")
+    for operation, found in operations.items():
+        for number, message in enumerate(sorted(found)):
+            (folder / f"{operation}_{number}.der").write_bytes(message)
