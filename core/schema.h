@@ -231,7 +231,7 @@ constexpr notation::Occurrence selected_by(std::int8_t number) {
   return {Presence::selected, number};
 }
 constexpr notation::Occurrence defaults_to(bool value) {
-  return {Presence::default_boolean, value};
+  return {Presence::default_boolean, static_cast<std::int8_t>(value)};
 }
 constexpr notation::Occurrence defaults_to(int value) {
   return {Presence::default_integer, static_cast<std::int8_t>(value)};
