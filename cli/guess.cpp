@@ -16,43 +16,47 @@ namespace {
 
 constexpr std::size_t kMostReasons = 6;
 
-// The types that files hold, the likely ones first. One that is `sure` leaves no room for another:
-// what it demands of the octets is met by no accident. Those that this version cannot decode are
+// How a type is told by its octets: `sure` leaves no room for another, as what it demands is met by
+// no accident; `likely` does; `never` is met by too many other things, only a label tells.
+enum class Sight { sure, likely, never };
+using enum Sight;
+
+// The types that files hold, the likely ones first. Those that this version cannot decode are
 // passed over until it can.
 constexpr struct {
   std::int64_t type_id;
-  bool sure;
+  Sight sight;
   const char *labels;  // of PEM blocks
 } kCandidates[] = {
-    {QUARN_ASN1_X509PUBKEYCERT, true, "CERTIFICATE,X509 CERTIFICATE,TRUSTED CERTIFICATE"},
-    {QUARN_ASN1_X509CRL, true, "X509 CRL,CRL"},
-    {QUARN_ASN1_PKCS10CERTREQ, true, "CERTIFICATE REQUEST,NEW CERTIFICATE REQUEST"},
-    {QUARN_ASN1_ATTRIBUTECERTIFICATE, true, "ATTRIBUTE CERTIFICATE"},
-    {QUARN_ASN1_PKCS7CONTENTINFO, true, "PKCS7,CMS,PKCS #7 SIGNED DATA"},
-    {QUARN_ASN1_PKCS12PFX, true, "PKCS12"},
-    {QUARN_ASN1_PKCS8PRIVATEKEYINFO, true, "PRIVATE KEY"},
-    {QUARN_ASN1_PKCS8ENCPRIVATEKEYINFO, false, "ENCRYPTED PRIVATE KEY"},
-    {QUARN_ASN1_PKCS1RSAPRIVKEY, true, "RSA PRIVATE KEY"},
-    {QUARN_ASN1_ECPRIVATEKEY, false, "EC PRIVATE KEY"},
-    {QUARN_ASN1_ECPKPARAMETERS, false, "EC PARAMETERS"},
-    {QUARN_ASN1_PKCS3DHPRARAM, false, "DH PARAMETERS"},
-    {QUARN_ASN1_DSSPARAMS, false, "DSA PARAMETERS"},
-    {QUARN_ASN1_X509PUBLICKEYINFO, false, "PUBLIC KEY"},
-    {QUARN_ASN1_PKCS1RSAPUBKEY, false, "RSA PUBLIC KEY"},
-    {QUARN_ASN1_OCSP_OCSPRESPONSE, true, "OCSP RESPONSE"},
-    {QUARN_ASN1_OCSP_OCSPREQUEST, false, "OCSP REQUEST"},
-    {QUARN_ASN1_TSP_TIMESTAMPRESP, false, ""},
-    {QUARN_ASN1_TSP_TIMESTAMPREQ, false, ""},
-    {QUARN_ASN1_X509TBSCERTIFICATE, true, ""},
-    {QUARN_ASN1_PKCS10CERTREQINFO, true, ""},
-    {QUARN_ASN1_X509TBSCERTLIST, true, ""},
-    {QUARN_ASN1_X500NAME, false, ""},
-    {QUARN_ASN1_X509EXTENSIONS, false, ""},
-    {QUARN_ASN1_X509EXTENSION, false, ""},
-    {QUARN_ASN1_X500ATTRIBUTE, false, ""},
-    {QUARN_ASN1_PKCSDIGESTINFO, false, ""},
-    {QUARN_ASN1_X509ALGORITHMID, false, ""},
-    {QUARN_ASN1_X509GENERALNAMES, false, ""},
+    {QUARN_ASN1_X509PUBKEYCERT, sure, "CERTIFICATE,X509 CERTIFICATE,TRUSTED CERTIFICATE"},
+    {QUARN_ASN1_X509CRL, sure, "X509 CRL,CRL"},
+    {QUARN_ASN1_PKCS10CERTREQ, sure, "CERTIFICATE REQUEST,NEW CERTIFICATE REQUEST"},
+    {QUARN_ASN1_ATTRIBUTECERTIFICATE, sure, "ATTRIBUTE CERTIFICATE"},
+    {QUARN_ASN1_PKCS7CONTENTINFO, sure, "PKCS7,CMS,PKCS #7 SIGNED DATA"},
+    {QUARN_ASN1_PKCS12PFX, sure, "PKCS12"},
+    {QUARN_ASN1_PKCS8PRIVATEKEYINFO, sure, "PRIVATE KEY"},
+    {QUARN_ASN1_PKCS8ENCPRIVATEKEYINFO, likely, "ENCRYPTED PRIVATE KEY"},
+    {QUARN_ASN1_PKCS1RSAPRIVKEY, sure, "RSA PRIVATE KEY"},
+    {QUARN_ASN1_ECPRIVATEKEY, likely, "EC PRIVATE KEY"},
+    {QUARN_ASN1_ECPKPARAMETERS, never, "EC PARAMETERS"},
+    {QUARN_ASN1_PKCS3DHPRARAM, likely, "DH PARAMETERS"},
+    {QUARN_ASN1_DSSPARAMS, likely, "DSA PARAMETERS"},
+    {QUARN_ASN1_X509PUBLICKEYINFO, likely, "PUBLIC KEY"},
+    {QUARN_ASN1_PKCS1RSAPUBKEY, likely, "RSA PUBLIC KEY"},
+    {QUARN_ASN1_OCSP_OCSPRESPONSE, sure, "OCSP RESPONSE"},
+    {QUARN_ASN1_OCSP_OCSPREQUEST, likely, "OCSP REQUEST"},
+    {QUARN_ASN1_TSP_TIMESTAMPRESP, likely, ""},
+    {QUARN_ASN1_TSP_TIMESTAMPREQ, likely, ""},
+    {QUARN_ASN1_X509TBSCERTIFICATE, sure, ""},
+    {QUARN_ASN1_PKCS10CERTREQINFO, sure, ""},
+    {QUARN_ASN1_X509TBSCERTLIST, sure, ""},
+    {QUARN_ASN1_X500NAME, likely, ""},
+    {QUARN_ASN1_X509EXTENSIONS, likely, ""},
+    {QUARN_ASN1_X509EXTENSION, likely, ""},
+    {QUARN_ASN1_X500ATTRIBUTE, likely, ""},
+    {QUARN_ASN1_PKCSDIGESTINFO, likely, ""},
+    {QUARN_ASN1_X509ALGORITHMID, likely, ""},
+    {QUARN_ASN1_X509GENERALNAMES, likely, ""},
 };
 
 bool supported(std::int64_t type_id) {
@@ -160,8 +164,8 @@ Guess guess(Octets octets, const std::string &label) {
     return result;
   }
   for (const auto &candidate : kCandidates) {
-    if (!supported(candidate.type_id)) continue;
-    if (try_type(result, candidate.type_id, octets) && candidate.sure) break;
+    if (candidate.sight == never || !supported(candidate.type_id)) continue;
+    if (try_type(result, candidate.type_id, octets) && candidate.sight == sure) break;
   }
   std::stable_sort(result.failed.begin(), result.failed.end(), nearer);
   return result;
@@ -172,7 +176,7 @@ Decoded recognise(Octets octets, const std::string &label) {
       std::any_of(std::begin(kCandidates), std::end(kCandidates),
                   [&](const auto &candidate) { return has_label(candidate.labels, label); });
   for (const auto &candidate : kCandidates) {
-    const bool fits = told ? has_label(candidate.labels, label) : candidate.sure;
+    const bool fits = told ? has_label(candidate.labels, label) : candidate.sight == sure;
     if (!fits || !supported(candidate.type_id)) continue;
     Decoded value(candidate.type_id, octets);
     if (value.get() != nullptr) return value;
@@ -206,14 +210,18 @@ std::string notation_of(std::int64_t type_id) {
   return quarn_asn1_type_shape(type_id, &shape) == 1 ? shape.name : "?";
 }
 
+std::int64_t find_type(const std::string &name) {
+  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    if (name == std::to_string(id) || same_word(name, registered_name(id))) return id;
+  }
+  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    if (supported(id) && same_word(name, notation_of(id))) return id;
+  }
+  return -1;
+}
+
 std::int64_t type_named(const std::string &command, const std::string &name) {
-  std::int64_t found = -1;
-  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT && found < 0; id++) {
-    if (name == std::to_string(id) || same_word(name, registered_name(id))) found = id;
-  }
-  for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT && found < 0; id++) {
-    if (supported(id) && same_word(name, notation_of(id))) found = id;
-  }
+  const std::int64_t found = find_type(name);
   if (found < 0) throw no_such_type(command, name);
   if (supported(found)) return found;
   throw UsageError(command, "this version cannot decode the type " + in_quotes(name));

@@ -13,8 +13,18 @@
 
 namespace quarn::cli {
 
-// Where the octets stand whose type an identifier tells.
-enum class Place { extension, attribute, qualifier, statement, parameters, key, content };
+// Where the octets stand whose type an identifier tells, in the order of the alphabet.
+enum class Place {
+  attribute,
+  bag,
+  capability,
+  content,
+  extension,
+  key,
+  parameters,
+  qualifier,
+  statement
+};
 
 // A record whose component number `value` has the type that the identifier in the first tells; a
 // list of such values when `elements` is set.
@@ -34,6 +44,9 @@ struct Opening {
 };
 // Null when the type is not known, or not decoded by this version.
 const Opening *find_opening(Place place, std::string_view dotted);
+
+// "extension 2.5.29.15" for each identifier that tells a type.
+std::vector<std::string> identifiers_of(std::int64_t type_id);
 
 // The names of the bits or numbers of a component; null when they have none.
 const char *component_names(std::int64_t record_type, std::string_view component);

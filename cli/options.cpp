@@ -157,13 +157,17 @@ std::vector<Command> form_commands() {
 std::vector<Command> reference_commands() {
   return {
       {"types",
-       "[PATTERN]",
-       "List the ASN.1 types that the library names",
+       "[NAME|PATTERN]",
+       "List the ASN.1 types that the library names, or show what one is made of",
        "Lists id, name, tag and error codes of the types, or of those whose name contains PATTERN "
-       "or matches it when it has *, ? or [. Upper and lower case are the same. A type marked * "
-       "has its name and codes reserved and cannot be decoded by this version.",
+       "or matches it when it has *, ? or [. Of a type whose id or whole name is given, the ASN.1, "
+       "the standard, the places where it stands and its functions are shown too. Upper and lower "
+       "case are the same. A type marked * has its name and codes reserved and cannot be decoded "
+       "by "
+       "this version.",
        {Opt::json},
        {{"quarn types time", "types with time in their name"},
+        {"quarn types Certificate", "what a certificate is made of"},
         {"quarn types --json 'x509*' | jq .", "the same for programs"}},
        0,
        1,

@@ -1,10 +1,16 @@
-// `quarn types`: the registry as a table.
+// `quarn types`: the registry as a table, and what one type is made of.
 #include <fnmatch.h>
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
+#include <sstream>
 
+#include "cli/catalogue.h"
 #include "cli/commands.h"
 #include "cli/failure.h"
+#include "cli/guess.h"
+#include "cli/open.h"
 #include "cli/output.h"
 #include "cli/text.h"
 #include "quarn_asn1/core.h"
@@ -40,46 +46,160 @@ bool matches(const char *name, const std::string &pattern) {
   return strcasestr(name, pattern.c_str()) != nullptr;
 }
 
+std::string table_head() {
+  return painted(Paint::tag, column("id", 3) + column("name", 34) + column("tag", 14) +
+                                 column("form", 11) + column("encode", 7) + "decode") +
+         "\n";
+}
+
 std::string table_line(std::int64_t id, const quarn_asn1_type_description &type) {
   return column(std::to_string(id), 3) + column(type.name, 34) + column(tag_text(type), 14) +
          column(form_text(type), 11) + column(code_text(type.error_code), 7) +
          code_text(type.error_code + 1) + (type.supported == 1 ? "" : "  *") + "\n";
 }
 
+// The members of an object, without its braces.
 std::string json_line(std::int64_t id, const quarn_asn1_type_description &type) {
-  return "{\"id\":" + std::to_string(id) + ",\"name\":" + json_string(type.name) +
+  return "\"id\":" + std::to_string(id) + ",\"name\":" + json_string(type.name) +
          ",\"class\":" + (type.tag_class == 0x40 ? "\"APPLICATION\"" : "\"UNIVERSAL\"") +
          ",\"tag\":" + std::to_string(type.tag_number) + ",\"form\":\"" + form_text(type) +
          "\",\"encode_code\":\"" + code_text(type.error_code) + "\",\"decode_code\":\"" +
          code_text(type.error_code + 1) +
-         "\",\"supported\":" + (type.supported == 1 ? "true" : "false") + "}";
+         "\",\"supported\":" + (type.supported == 1 ? "true" : "false");
+}
+
+quarn_asn1_type_description description_of(std::int64_t id) {
+  quarn_asn1_type_description type{};
+  static_cast<void>(quarn_asn1_type_describe(id, &type));
+  return type;
+}
+
+// Words in lines of at most 100 columns, behind a title unless that is empty.
+std::string wrapped(const std::string &title, const std::vector<std::string> &words) {
+  constexpr std::size_t kWidth = 100;
+  const std::string indent(title.empty() ? 0 : 12, ' ');
+  std::string text;
+  std::string line = title + indent.substr(std::min(title.size(), indent.size()));
+  for (const std::string &word : words) {
+    if (line.size() > indent.size() && line.size() + 1 + word.size() > kWidth) {
+      text += line + "\n";
+      line = indent;
+    }
+    line += (line.size() > indent.size() ? " " : "") + word;
+  }
+  return words.empty() ? "" : text + line + "\n";
+}
+
+std::vector<std::string> words_of(const char *text) {
+  std::istringstream in(text);
+  return {std::istream_iterator<std::string>(in), {}};
+}
+
+std::string indented(const char *text) {
+  std::istringstream in(text);
+  std::string all;
+  for (std::string line; std::getline(in, line);) all += "    " + line + "\n";
+  return all;
+}
+
+std::string list_text(const std::string &title, std::vector<std::string> words) {
+  for (std::size_t i = 0; i + 1 < words.size(); i++) words[i] += ",";
+  return wrapped(title, words);
+}
+
+// Where a type stands, and what identifies it there.
+std::string uses_text(std::int64_t id) {
+  return list_text("stands in", places_of(id)) + list_text("named by", identifiers_of(id));
+}
+
+std::string paragraphs_text(const char *text) {
+  std::istringstream in(text);
+  std::string all;
+  for (std::string line; std::getline(in, line);)
+    all += line.empty() ? "\n" : wrapped("", words_of(line.c_str()));
+  return all;
+}
+
+// One type, whole: its rows, what it is, its ASN.1, where it stands and its functions.
+std::string description_text(std::int64_t id) {
+  const Definition *definition = definition_of(id);
+  std::string text = table_head();
+  if (definition == nullptr) return text + table_line(id, description_of(id)) + uses_text(id);
+  for (const std::int64_t one : ids_of(*definition)) text += table_line(one, description_of(one));
+  text += "\n" + paragraphs_text(definition->text) + "\n" + indented(definition->asn1) + "\n";
+  text += wrapped("standard", words_of(definition->standard));
+  text += uses_text(id);
+  text += wrapped("header", {definition->header});
+  return text + wrapped("functions", words_of(definition->functions));
+}
+
+std::string json_list(const std::vector<std::string> &words) {
+  std::string text;
+  for (const std::string &word : words) text += (text.empty() ? "" : ",") + json_string(word);
+  return "[" + text + "]";
+}
+
+std::string json_components(const Definition &definition) {
+  std::string text;
+  for (const Component &component : definition.components) {
+    text += std::string(text.empty() ? "" : ",") + "{\"name\":" + json_string(component.name) +
+            ",\"type_id\":" + std::to_string(component.type_id) +
+            ",\"type\":" + json_string(notation_of(component.type_id)) +
+            ",\"tag\":" + json_string(component.tag) +
+            ",\"presence\":" + json_string(component.presence) + "}";
+  }
+  return "[" + text + "]";
+}
+
+std::string description_json(std::int64_t id) {
+  std::string text = json_line(id, description_of(id));
+  if (const Definition *definition = definition_of(id); definition != nullptr) {
+    text += ",\"text\":" + json_string(definition->text) +
+            ",\"standard\":" + json_string(definition->standard) +
+            ",\"asn1\":" + json_string(definition->asn1) +
+            ",\"components\":" + json_components(*definition) +
+            ",\"header\":" + json_string(definition->header) +
+            ",\"functions\":" + json_list(words_of(definition->functions));
+  }
+  return text + ",\"stands_in\":" + json_list(places_of(id)) +
+         ",\"named_by\":" + json_list(identifiers_of(id));
+}
+
+std::vector<std::int64_t> matching(const std::string &pattern) {
+  std::vector<std::int64_t> ids;
+  for (std::int64_t id = 0; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    if (matches(description_of(id).name, pattern)) ids.push_back(id);
+  }
+  return ids;
+}
+
+std::string table(const std::vector<std::int64_t> &ids) {
+  std::string text = table_head();
+  for (const std::int64_t id : ids) text += table_line(id, description_of(id));
+  return text;
+}
+
+std::string json_table(const std::vector<std::int64_t> &ids) {
+  std::string text;
+  for (const std::int64_t id : ids) {
+    text += (text.empty() ? "{" : ",\n{") + json_line(id, description_of(id)) + "}";
+  }
+  return "[" + text + "]\n";
 }
 
 }  // namespace
 
 int run_types(const Arguments &arguments) {
-  const std::string pattern = arguments.operands.empty() ? "" : arguments.operands[0];
+  const std::string name = arguments.operands.empty() ? "" : arguments.operands[0];
   const bool json = arguments.has(Opt::json);
-  std::string body;
-  for (std::int64_t id = 0; id < QUARN_ASN1_TYPE_COUNT; id++) {
-    quarn_asn1_type_description type{};
-    if (quarn_asn1_type_describe(id, &type) != 1 || !matches(type.name, pattern)) continue;
-    if (json) {
-      body += (body.empty() ? "" : ",\n") + json_line(id, type);
-    } else {
-      body += table_line(id, type);
-    }
+  if (const std::int64_t id = name.empty() ? -1 : find_type(name); id >= 0) {
+    standard_output().write(json ? "[{" + description_json(id) + "}]\n" : description_text(id));
+    return kGood;
   }
-  if (json) {
-    standard_output().write("[" + body + "]\n");
-  } else if (!body.empty()) {
-    standard_output().write(painted(Paint::tag, column("id", 3) + column("name", 34) +
-                                                    column("tag", 14) + column("form", 11) +
-                                                    column("encode", 7) + "decode") +
-                            "\n" + body);
-  }
-  if (!body.empty()) return kGood;
-  say("quarn types: no type's name matches " + in_quotes(pattern));
+  const std::vector<std::int64_t> ids = matching(name);
+  if (json || !ids.empty()) standard_output().write(json ? json_table(ids) : table(ids));
+  if (!ids.empty()) return kGood;
+  say("quarn types: no type's name matches " + in_quotes(name));
   return kBadInput;
 }
 

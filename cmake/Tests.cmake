@@ -43,7 +43,6 @@ if(TARGET quarn_cli AND Python3_FOUND)
   add_test(NAME files COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_files.py)
   add_test(NAME check COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_check.py)
   set_tests_properties(check PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
-  set_tests_properties(files PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
 endif()
 
 # Real files, made once for each build directory: for the program of that name and for the command.
@@ -56,7 +55,7 @@ if(Python3_FOUND AND QUARN_OPENSSL)
   set_tests_properties(corpus PROPERTIES FIXTURES_REQUIRED corpus ENVIRONMENT "QUARN_CORPUS=${corpus}")
   if(TARGET quarn_cli)
     add_test(NAME corpus_fields COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/corpus/test_corpus.py)
-    set_tests_properties(corpus_fields PROPERTIES FIXTURES_REQUIRED corpus
+    set_tests_properties(corpus_fields files PROPERTIES FIXTURES_REQUIRED corpus
       ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>;QUARN_CORPUS=${corpus}")
   endif()
 endif()

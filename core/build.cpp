@@ -71,15 +71,6 @@ void *build_null_alternative(quarn_asn1_type_id type, std::uint64_t number) {
   return build_alternative(type, number, null_value());
 }
 
-void *build_empty_list(quarn_asn1_type_id id) {
-  return build_list(*type_of(id).schema);
-}
-
-void *copy_of(quarn_asn1_type_id type, const void *value) {
-  void *copy = nullptr;
-  return value != nullptr && copy_into(type_of(type), value, &copy) ? copy : nullptr;
-}
-
 void *part_of(const void *value, std::size_t index) {
   return component(value, index);
 }

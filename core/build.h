@@ -29,10 +29,6 @@ void *build_record(quarn_asn1_type_id type, std::span<const void *const> parts);
 void *build_alternative(quarn_asn1_type_id type, std::uint64_t number, const void *value);
 // The same of an alternative that is a NULL.
 void *build_null_alternative(quarn_asn1_type_id type, std::uint64_t number);
-// A value of a list type, without elements.
-void *build_empty_list(quarn_asn1_type_id type);
-// A copy of a value; null for null.
-void *copy_of(quarn_asn1_type_id type, const void *value);
 void *alternative_of(quarn_asn1_type_id type, const void *value, std::uint64_t number);
 void *part_of(const void *value, std::size_t index);
 // Of a type whose layout is inferred: the record that the getters look into, null for what is laid

@@ -9,6 +9,7 @@
 //            decoded whole    but extnValue's
 #include "core/engine.h"
 #include "types/any.h"
+#include "types/diversion.h"
 #include "types/list.h"
 #include "util/memory.h"
 
@@ -41,13 +42,26 @@ Status decode_whole(const Schema &schema, const Field &field, Reader &in, void *
   return note(schema, in, decode(type, in, value), type.decode_error());
 }
 
+// Where the content of a message goes, if the component is that and it goes elsewhere than into the
+// value; else null.
+Diversion *diversion_for(const Field &field, Reader &in) {
+  return field.presence == Presence::content ? in.take_diversion() : nullptr;
+}
+
 // What stands inside an explicit tag.
 Status decode_inside_tag(
     const Schema &schema, const Field &field, Reader &in, std::int64_t length, void **value) {
   const std::uint64_t start = in.count();
-  const Status status = decode_whole(schema, field, in, value);
+  Diversion *diversion = diversion_for(field, in);
+  const Type &type = type_of(field.type());
+  const Status status =
+      diversion == nullptr
+          ? decode_whole(schema, field, in, value)
+          : note(schema, in, divert_element(type, in, *diversion), type.decode_error());
   if (!status) return status;
-  if (is_end_of_contents(field, *value)) return fail(schema, in, QUARN_ASN1_ERROR_ITEM);
+  const bool is_end = diversion == nullptr ? is_end_of_contents(field, *value)
+                                           : diversion->identifier.is_end_of_contents();
+  if (is_end) return fail(schema, in, QUARN_ASN1_ERROR_ITEM);
   if (length == kIndefinite) {
     return note(schema, in, read_end_of_contents(in), QUARN_ASN1_ERROR_READ_END);
   }
@@ -73,6 +87,9 @@ Status decode_field_rest(const Schema &schema,
     return decode_inside_tag(schema, field, in, length, value);
   }
   const bool primitive = identifier.primitive && field.tagging != Tagging::implicit_primitive;
+  if (Diversion *diversion = diversion_for(field, in); diversion != nullptr) {
+    return note(schema, in, divert_content(in, *diversion, primitive, length), code);
+  }
   return note(schema, in, decode_content(type, in, value, primitive, length), code);
 }
 
@@ -324,6 +341,9 @@ class RecordDecoder {
 
   Status take_rest(const Field &field, void **component) {
     in_hand_ = false;
+    if (field.presence == Presence::content && in_.diversion() != nullptr) {
+      in_.diversion()->offset = static_cast<std::int64_t>(start_ + looked_at_);
+    }
     const int code = type_of(field.type()).decode_error();
     const Status status = decode_field_rest(schema_, field, in_, identifier_, code, component);
     return status ? check_end() : status;

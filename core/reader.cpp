@@ -14,6 +14,9 @@ constexpr Unit kHeaderUnit{"QUARN_ASN1_Lib"};
 // From a stream that cannot say what it still holds, buffers grow by at most this much ahead.
 constexpr std::uint64_t kStep = 8192;
 
+// What is passed over but captured is read in pieces of this size.
+constexpr std::uint64_t kSkipped = 2048;
+
 // Lengths that no memory can hold are answered as lack of memory before anything is read.
 constexpr std::uint64_t kAddressable = std::uint64_t{1} << 47;
 
@@ -84,6 +87,26 @@ Status Reader::octets_slowly(std::uint8_t *out, std::uint64_t count) {
   settled_ += count;
   if (captures_ > 0 && !captured_.append(out, count)) {
     return kStreamUnit.fail(ctx_, QUARN_ERROR_NO_MEMORY, offset());
+  }
+  return Status::success();
+}
+
+Status Reader::skip(std::uint64_t count) {
+  if (in_memory_) {
+    if (count > left()) return short_read();
+    next_ += count;
+    return Status::success();
+  }
+  if (captures_ == 0) {
+    const auto status = Status::from(quarn_stream_skip(stream_, count, ctx_));
+    if (status) settled_ += count;
+    return status;
+  }
+  std::uint8_t piece[kSkipped];
+  while (count > 0) {
+    const std::uint64_t step = std::min(count, kSkipped);
+    if (const Status status = octets_slowly(piece, step); !status) return status;
+    count -= step;
   }
   return Status::success();
 }

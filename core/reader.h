@@ -17,6 +17,8 @@
 
 namespace quarn::asn1 {
 
+struct Diversion;
+
 class Reader {
  public:
   // A null stream gives a Reader on which is_null() is true and every read fails for the argument.
@@ -82,11 +84,23 @@ class Reader {
 
   // Appends exactly count octets to a buffer that grows as they arrive.
   Status octets(Buffer &out, std::uint64_t count, const Unit &unit);
+  // Moves on over exactly count octets, without reading them where the stream can.
+  Status skip(std::uint64_t count);
 
   // Fails as a read past the end does: with the record that the stream makes.
   Status short_read();
   // Whether a read failed because octets in memory came to their end.
   bool ran_out() const { return ran_out_; }
+
+  // The content of the message that is read goes elsewhere than into its value; see
+  // types/diversion.h. Taken by the first component that is content.
+  void divert(Diversion &diversion) { diversion_ = &diversion; }
+  Diversion *diversion() const { return diversion_; }
+  Diversion *take_diversion() {
+    Diversion *taken = diversion_;
+    diversion_ = nullptr;
+    return taken;
+  }
 
   // The depth of values inside values that are being decoded; see Nesting.
   bool at_depth_limit() {
@@ -115,6 +129,7 @@ class Reader {
   quarn_err_ctx *ctx_;
   FailurePath path_;
   SharedOctets *block_ = nullptr;
+  Diversion *diversion_ = nullptr;
   std::uint64_t settled_ = 0;
   Buffer captured_;
   Buffer given_back_;            // by a Capture; read before the stream goes on

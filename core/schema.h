@@ -38,6 +38,7 @@ enum class Presence : std::uint8_t {
   optional,
   optional_exact,
   optional_inside,  // told from the next component by what stands first inside it, too
+  content,          // optional: what a message carries, which may be decoded apart from the rest
   selected,         // there when the INTEGER before it is default_value
   default_boolean,
   default_integer,
@@ -229,6 +230,10 @@ constexpr notation::ToldInside told_inside() {
 // There when the INTEGER before it, and before others so selected, is this number.
 constexpr notation::Occurrence selected_by(std::int8_t number) {
   return {Presence::selected, number};
+}
+// An optional component under a tag, of type ANY or OCTET STRING: the content of a message.
+constexpr notation::Occurrence content() {
+  return {Presence::content, 0};
 }
 constexpr notation::Occurrence defaults_to(bool value) {
   return {Presence::default_boolean, static_cast<std::int8_t>(value)};

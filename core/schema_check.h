@@ -61,6 +61,11 @@ class SchemaCheck {
     if (field.presence >= Presence::default_encoding) {
       return field.default_value >= 2 && field.default_value <= kMostDefaultOctets;
     }
+    if (field.presence == Presence::content) {
+      return field.tagging == Tagging::explicitly
+                 ? is_any(field) || field.type_id == QUARN_ASN1_OCTETSTRING
+                 : field.tagging == Tagging::implicit && field.type_id == QUARN_ASN1_OCTETSTRING;
+    }
     return true;
   }
 

@@ -43,6 +43,7 @@
 #include "quarn_asn1/extension.h"
 #include "quarn_asn1/inspect.h"
 #include "quarn_asn1/json.h"
+#include "quarn_asn1/message.h"
 #include "quarn_asn1/ocsp.h"
 #include "quarn_asn1/pkcs1.h"
 #include "quarn_asn1/pkcs10.h"

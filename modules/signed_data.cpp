@@ -32,12 +32,6 @@ constexpr std::uint64_t kOidTag = 6;
 constexpr std::uint64_t kSequenceTag = 16;
 constexpr std::uint64_t kSetTag = 17;
 
-// The content types that are signed messages. The numbers are those that callers know.
-constexpr struct {
-  std::int64_t form;
-  const char *oid;
-} kForms[] = {{0, "1.2.840.113549.1.7.2"}, {2, "1.2.156.10197.6.1.4.2.2"}};
-
 class OnePass {
  public:
   explicit OnePass(Reader &in) : in_(in), message_(type_of(QUARN_ASN1_PKCS7SIGNEDDATA)) {}
@@ -228,16 +222,46 @@ class OnePass {
 
 using namespace quarn::asn1;
 
-int quarn_asn1_decode_pkcs7signeddata(quarn_stream *stream,
-                                      quarn_pkcs7signeddata **message,
-                                      uint64_t *consumed,
-                                      quarn_err_ctx *ctx) {
+namespace {
+
+// With a diversion the content goes where that says.
+int decode_in_one_pass(quarn_stream *stream,
+                       Diversion *diversion,
+                       quarn_pkcs7signeddata **message,
+                       uint64_t *consumed,
+                       quarn_err_ctx *ctx) {
   if (message != nullptr) *message = nullptr;
   if (stream == nullptr || message == nullptr) return kUnit.fail(ctx, QUARN_ERROR_ARGUMENT).raw();
   std::uint64_t count = 0;
   const int result = reading(stream, &count, ctx, [=](Reader &in) {
+    if (diversion != nullptr) in.divert(*diversion);
     return OnePass(in).decode_message(untyped(message));
   });
   if (*message != nullptr && consumed != nullptr) *consumed = count;
+  return result;
+}
+
+}  // namespace
+
+int quarn_asn1_decode_pkcs7signeddata(quarn_stream *stream,
+                                      quarn_pkcs7signeddata **message,
+                                      uint64_t *consumed,
+                                      quarn_err_ctx *ctx) {
+  return decode_in_one_pass(stream, nullptr, message, consumed, ctx);
+}
+
+int quarn_asn1_decode_pkcs7signeddata_ex(quarn_stream *stream,
+                                         quarn_stream *content,
+                                         quarn_pkcs7signeddata **message,
+                                         quarn_asn1_content_place *place,
+                                         uint64_t *consumed,
+                                         quarn_err_ctx *ctx) {
+  if (message != nullptr) *message = nullptr;
+  if (place != nullptr) *place = kNowhere;
+  // Octets of a memory stream are read in place: it cannot grow meanwhile.
+  if (content != nullptr && content == stream) return kUnit.fail(ctx, QUARN_ERROR_ARGUMENT).raw();
+  Diversion diversion{content};
+  const int result = decode_in_one_pass(stream, &diversion, message, consumed, ctx);
+  if (message != nullptr && *message != nullptr && place != nullptr) *place = place_of(diversion);
   return result;
 }

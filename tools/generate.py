@@ -14,7 +14,8 @@ import pathlib
 import re
 import sys
 
-from notation import api, functions, model, parser, resolve, rows, samples
+from notation import api, catalogue, functions, model, openings, parser, resolve, rows, samples
+from notation.layout import c_string
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 FORM_NUMBERS = {"primitive": 1, "constructed": 0, "either": -1}
@@ -62,10 +63,6 @@ def messages():
 
 def made_from(source, opening="//", closing=""):
     return f"{opening} Generated from {source} by tools/generate.py; do not edit.{closing}\n"
-
-
-def c_string(text):
-    return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
 
 
 def ids_header():
@@ -149,22 +146,9 @@ def registry_table():
     return "".join(lines) + "};\n"
 
 
-def types_page():
-    lines = ["<!-- Generated from modules/registry.tsv and modules/*.asn1 by tools/generate.py; do not edit. -->\n",
-             "# Types\n\nEvery ASN.1 type that the library names, by its id. A tag of its own is written only where\n"
-             "the row has one; CHOICEs and open types have none. The decode code is the encode code plus one. Types\n"
-             "without a header are universal or open types, or not in this version.\n\n",
-             "| id | constant | ASN.1 | tag | form | encode code | header | in this version |\n"
-             "|---|---|---|---|---|---|---|---|\n"]
-    headers = {definition.name: module.header for module in modules() for definition in module.definitions}
-    for row in registry():
-        tag_text = f"{'APPLICATION ' if row.tag_class == 'application' else ''}{row.tag}"
-        name = described()[row.id][0].name if row.id in described() else ""
-        header = f"{headers[name]}.h" if name else ""
-        state = "no" if row.codec == "-" and not name else "yes"
-        lines.append(f"| {row.id} | `{row.constant}` | {name} | {tag_text} | {row.form} | `{row.code:#x}` | {header} "
-                     f"| {state} |\n")
-    return "".join(lines)
+@functools.cache
+def described_types():
+    return catalogue.Catalogue(registry(), modules(), described())
 
 
 def errors_page():
@@ -217,7 +201,9 @@ def outputs():
     yield "modules/gen/registry.inc", registry_table()
     yield "cli/gen/oid_names.inc", oid_names()
     yield "cli/gen/error_uses.inc", error_uses()
-    yield "docs/types.md", types_page()
+    yield "cli/gen/openings.inc", made_from("modules/*.asn1") + openings.tables(modules())
+    yield "cli/gen/catalogue.inc", made_from("modules/registry.tsv and modules/*.asn1") + described_types().table()
+    yield "docs/types.md", described_types().page()
     yield "tests/vectors/gen/samples.vec", (made_from("modules/*.asn1", "#") + samples.vectors(registry(), described()))
     yield "docs/errors.md", errors_page()
 

@@ -35,15 +35,15 @@ def type_ids():
 def vectors():
     ids = dict(type_ids())
     for path in sorted((ROOT / "tests/vectors").rglob("*.vec")):
-        type_id = 0
+        type_id, defined = 0, {}
         for line in path.read_text(encoding="utf-8").splitlines():
-            row = line.split("#")[0].split("|")
-            key, _, value = (part.strip() for part in row[0].partition("="))
-            if len(row) > 1:
-                key, value = "in", row[0]
+            line = re.sub("<.*?>", lambda m: defined.get(m[0], m[0]), line.split("#")[0])
+            key, _, value = (part.strip() for part in line.partition("="))
             if key == "type":
-                type_id = int(value) if value.isdigit() else ids[value]
-            elif key == "in" and len(content := octets(value)) <= 4096:
+                type_id = ids[value]
+            elif key.startswith("def "):
+                defined[f"<{key[4:]}>"] = value
+            elif key and len(content := octets(line.split("|")[0])) <= 4096:
                 yield type_id, content
 
 

@@ -26,10 +26,10 @@ constexpr std::uint8_t kForms[] = {1, 1, 1, 3, 3, 1, 1, 3, 2, 1, 1, 2, 3, 1, 1, 
 
 // Moves over exactly count octets of content and hands them to a copy, if there is to be one.
 Status pass_octets(Reader &in, std::uint64_t count, Writer *copy) {
+  if (copy == nullptr) return in.skip(count);
   if (in.in_memory()) {
     if (count > in.left()) return in.short_read();
-    Status status = Status::success();
-    if (copy != nullptr) status = copy->octets(in.next(), count);
+    const Status status = copy->octets(in.next(), count);
     in.advance(count);
     return status;
   }
@@ -38,22 +38,29 @@ Status pass_octets(Reader &in, std::uint64_t count, Writer *copy) {
     const std::uint64_t step = std::min(count, kPiece);
     if (const Status status = in.octets(piece, step); !status) return status;
     count -= step;
-    if (copy == nullptr) continue;
     if (const Status status = copy->octets(piece, step); !status) return status;
   }
   return Status::success();
 }
 
-// Moves over identifier and length, or an end-of-contents.
+// Moves over identifier and length. An end-of-contents is left to the caller to copy.
 Status pass_header(Reader &in, Element &out, Writer *copy) {
   if (copy == nullptr) return read_element_header(in, out);
   const Capture header(in);
   const Status status = read_element_header(in, out);
-  return status ? copy->octets(header.data(), header.size()) : status;
+  const bool copied = status && !out.end_of_contents;
+  return copied ? copy->octets(header.data(), header.size()) : status;
 }
 
-// Moves over content. An element counts as one level deeper than what it stands in, whatever its
-// own form, so that the innermost level of all holds nothing but its end-of-contents.
+Status copy_end_of_contents(Writer *copy) {
+  constexpr std::uint8_t kMarker[] = {0, 0};
+  return copy == nullptr ? Status::success() : copy->octets(kMarker, sizeof kMarker);
+}
+
+}  // namespace
+
+// An element counts as one level deeper than what it stands in, whatever its own form, so that the
+// innermost level of all holds nothing but its end-of-contents.
 Status pass_content(Reader &in, std::int64_t length, Writer *copy) {
   if (length != kIndefinite) return pass_octets(in, static_cast<std::uint64_t>(length), copy);
   const int limit = quarn_get_recursive_level();
@@ -62,7 +69,8 @@ Status pass_content(Reader &in, std::int64_t length, Writer *copy) {
     Status status = pass_header(in, element, copy);
     if (!status) return status;
     if (element.end_of_contents) {
-      open--;
+      if (--open > 0) status = copy_end_of_contents(copy);
+      if (!status) return status;
       continue;
     }
     if (open >= limit) return Status::too_deep();
@@ -75,6 +83,8 @@ Status pass_content(Reader &in, std::int64_t length, Writer *copy) {
   }
   return Status::success();
 }
+
+namespace {
 
 // A value for an element, with room for its header and so many octets of content.
 quarn_asn1_any *new_any(const Element &element, std::uint64_t content_size) {
@@ -117,7 +127,8 @@ Status decode_any_into(Reader &in, quarn_stream *content, quarn_asn1_any **out) 
     v->in_stream = true;
     v->content_stream = content;
     Writer copy(content, in.ctx());
-    const Status status = pass_content(in, element.content_length, &copy);
+    Status status = pass_content(in, element.content_length, &copy);
+    if (status && element.content_length == kIndefinite) status = copy_end_of_contents(&copy);
     if (!status) return status;
   }
   *out = v.release();

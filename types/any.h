@@ -52,6 +52,9 @@ struct Element {
 // Reads identifier and length, or an end-of-contents, and checks the form. Leaves content_size
 // alone.
 Status read_element_header(Reader &in, Element &out);
+// Moves over content, copying it unless copy is null. The end-of-contents that closes content of
+// indefinite length is read but not copied.
+Status pass_content(Reader &in, std::int64_t length, Writer *copy);
 // Moves over one element as decode_any() does, with the same failures.
 Status find_element(Reader &in, Element &out);
 

@@ -126,6 +126,10 @@ Status decode_string_content_into(const SegmentRules &rules,
                                   void **value,
                                   bool primitive,
                                   std::int64_t length);
+// Content of an OCTET STRING on to a Writer, or passed over when copy is null. level is how deep
+// the string itself counts towards the limit of nesting; count receives how many octets there were.
+Status pass_octetstring_content(
+    Reader &in, Writer *copy, int level, bool primitive, std::int64_t length, std::uint64_t &count);
 // Whole elements under the tag of the rules.
 Status decode_string(const SegmentRules &rules, Reader &in, void **value);
 Status decode_string_into(const SegmentRules &rules,

@@ -13,16 +13,20 @@ constexpr std::uint64_t kPiece = 8192;
 
 constexpr std::uint32_t kMostUnusedBits = 7;
 
-// Where the octets of a string go while it is decoded.
+// Where the octets of a string go while it is decoded: a buffer, a stream, or nowhere.
 class Sink {
  public:
   explicit Sink(Buffer &buffer) : buffer_(&buffer) {}
-  explicit Sink(Writer &writer) : writer_(&writer) {}
+  explicit Sink(Writer *writer) : writer_(writer) {}
 
-  // Moves exactly count octets from the Reader, in pieces, so that memory grows as they arrive.
+  // Moves exactly count octets from the Reader: from memory at once, else in pieces, so that memory
+  // grows as they arrive.
   Status take(Reader &in, std::uint64_t count, const Unit &unit) {
+    count_ += count;
+    if (buffer_ == nullptr && writer_ == nullptr) return in.skip(count);
     while (count > 0) {
-      const std::uint64_t step = std::min(count, kPiece);
+      const bool all_there = count <= in.left();
+      const std::uint64_t step = all_there ? count : std::min(count, kPiece);
       Status status = Status::success();
       if (buffer_ != nullptr) {
         status = in.octets(*buffer_, step, unit);
@@ -34,6 +38,9 @@ class Sink {
     }
     return Status::success();
   }
+
+  // Octets that were to be moved.
+  std::uint64_t count() const { return count_; }
 
  private:
   Status take_in_place(Reader &in, std::uint64_t count) {
@@ -51,6 +58,7 @@ class Sink {
 
   Buffer *buffer_ = nullptr;
   Writer *writer_ = nullptr;
+  std::uint64_t count_ = 0;
   Buffer piece_;
 };
 
@@ -227,13 +235,25 @@ Status decode_string_content_into(const SegmentRules &rules,
   util::Block<StringValue> made(new_string(0));
   if (made == nullptr) return rules.unit.fail(in.ctx(), QUARN_ERROR_NO_MEMORY, in.offset());
   Writer out(destination, in.ctx());
-  Sink sink(out);
+  Sink sink(&out);
   Segments segments(rules, in, sink);
   const Status status = segments.content(0, primitive, length);
   if (!status) return status;
   made->stream = destination;
   made->unused_bits = segments.unused_bits();
   *value = made.release();
+  return status;
+}
+
+Status pass_octetstring_content(Reader &in,
+                                Writer *copy,
+                                int level,
+                                bool primitive,
+                                std::int64_t length,
+                                std::uint64_t &count) {
+  Sink sink(copy);
+  const Status status = Segments(kOctetRules, in, sink).content(level, primitive, length);
+  count = sink.count();
   return status;
 }
 

@@ -29,7 +29,7 @@ extern "C" {
  * The digest of a key or a certificate (RFC 5755, 4.2.2).
  *
  *     ObjectDigestInfo ::= SEQUENCE {
- *         digestedObjectType  ENUMERATED,
+ *         digestedObjectType  ENUMERATED { publicKey(0), publicKeyCert(1), otherObjectTypes(2) },
  *         otherObjectTypeID   OBJECT IDENTIFIER OPTIONAL,
  *         digestAlgorithm     AlgorithmIdentifier,
  *         objectDigest        BIT STRING
@@ -228,7 +228,7 @@ QUARN_ASN1_API void quarn_acattributes_free(quarn_asn1_list *value);
  * The part of an attribute certificate that its issuer signs (RFC 5755, 4.1).
  *
  *     AttributeCertificateInfo ::= SEQUENCE {
- *         version                 INTEGER,
+ *         version                 INTEGER { v2(1) },
  *         holder                  Holder,
  *         issuer                  AttCertIssuer,
  *         signature               AlgorithmIdentifier,
@@ -604,8 +604,11 @@ QUARN_ASN1_API void quarn_ac_securitycategories_free(quarn_asn1_list *value);
  *
  *     Clearance ::= SEQUENCE {
  *         policyId            OBJECT IDENTIFIER,
- *         classList           BIT STRING,
+ *         classList           ClassList,
  *         securityCategories  SecurityCategories OPTIONAL
+ *     }
+ *     ClassList ::= BIT STRING {
+ *         unmarked(0), unclassified(1), restricted(2), confidential(3), secret(4), topSecret(5)
  *     }
  *
  * Type id QUARN_ASN1_AC_CLEARANCE (287).

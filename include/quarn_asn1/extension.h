@@ -598,8 +598,12 @@ QUARN_ASN1_API quarn_asn1_list *quarn_x509dpname_getnamerelativetocrlissuer(
  *
  *     DistributionPoint ::= SEQUENCE {
  *         distributionPoint  [0] EXPLICIT DistributionPointName OPTIONAL,
- *         reasons            [1] IMPLICIT BIT STRING OPTIONAL,
+ *         reasons            [1] IMPLICIT ReasonFlags OPTIONAL,
  *         cRLIssuer          [2] IMPLICIT GeneralNames OPTIONAL
+ *     }
+ *     ReasonFlags ::= BIT STRING {
+ *         unused(0), keyCompromise(1), cACompromise(2), affiliationChanged(3), superseded(4),
+ *         cessationOfOperation(5), certificateHold(6), privilegeWithdrawn(7), aACompromise(8)
  *     }
  *
  * Type id QUARN_ASN1_X509DISTPOINT (84).
@@ -683,9 +687,13 @@ QUARN_ASN1_API void quarn_pkixaia_free(quarn_asn1_list *value);
  *         distributionPoint           [0] EXPLICIT DistributionPointName OPTIONAL,
  *         onlyContainsUserCerts       [1] IMPLICIT BOOLEAN DEFAULT FALSE,
  *         onlyContainsCACerts         [2] IMPLICIT BOOLEAN DEFAULT FALSE,
- *         onlySomeReasons             [3] IMPLICIT BIT STRING OPTIONAL,
+ *         onlySomeReasons             [3] IMPLICIT ReasonFlags OPTIONAL,
  *         indirectCRL                 [4] IMPLICIT BOOLEAN DEFAULT FALSE,
  *         onlyContainsAttributeCerts  [5] IMPLICIT BOOLEAN DEFAULT FALSE
+ *     }
+ *     ReasonFlags ::= BIT STRING {
+ *         unused(0), keyCompromise(1), cACompromise(2), affiliationChanged(3), superseded(4),
+ *         cessationOfOperation(5), certificateHold(6), privilegeWithdrawn(7), aACompromise(8)
  *     }
  *
  * Type id QUARN_ASN1_PKIXIDP (88).
@@ -731,11 +739,15 @@ QUARN_ASN1_API quarn_asn1_boolean *quarn_pkixidp_getonlycontainsattributecerts(
  *
  *     AAIssuingDistributionPoint ::= SEQUENCE {
  *         distributionPoint           [0] EXPLICIT DistributionPointName OPTIONAL,
- *         onlySomeReasons             [1] IMPLICIT BIT STRING OPTIONAL,
+ *         onlySomeReasons             [1] IMPLICIT ReasonFlags OPTIONAL,
  *         indirectCRL                 [2] IMPLICIT BOOLEAN DEFAULT FALSE,
  *         containsUserAttributeCerts  [3] IMPLICIT BOOLEAN DEFAULT TRUE,
  *         containsAACerts             [4] IMPLICIT BOOLEAN DEFAULT TRUE,
  *         containsSOAPublicKeyCerts   [5] IMPLICIT BOOLEAN DEFAULT TRUE
+ *     }
+ *     ReasonFlags ::= BIT STRING {
+ *         unused(0), keyCompromise(1), cACompromise(2), affiliationChanged(3), superseded(4),
+ *         cessationOfOperation(5), certificateHold(6), privilegeWithdrawn(7), aACompromise(8)
  *     }
  *
  * Type id QUARN_ASN1_X509AAIDP (89).

@@ -40,7 +40,7 @@ QUARN_ASN1_API void quarn_pkcs10attributes_free(quarn_asn1_list *value);
  * The part of a request that its subject signs. attributes is written also when it is empty.
  *
  *     CertificationRequestInfo ::= SEQUENCE {
- *         version        INTEGER,
+ *         version        INTEGER { v1(0) },
  *         subject        Name,
  *         subjectPKInfo  SubjectPublicKeyInfo,
  *         attributes     [0] IMPLICIT Attributes

@@ -155,7 +155,7 @@ QUARN_ASN1_API void quarn_x509Extensions_free(quarn_asn1_list *value);
  * The part of a certificate that its issuer signs (RFC 5280, 4.1.2). version is 0 for v1, 2 for v3.
  *
  *     TBSCertificate ::= SEQUENCE {
- *         version               [0] EXPLICIT INTEGER DEFAULT 0,
+ *         version               [0] EXPLICIT INTEGER { v1(0), v2(1), v3(2) } DEFAULT 0,
  *         serialNumber          INTEGER,
  *         signature             AlgorithmIdentifier,
  *         issuer                Name,
@@ -394,7 +394,7 @@ QUARN_ASN1_API void quarn_x509RevokedCerts_free(quarn_asn1_list *value);
  * DEFAULT: a list of version 1 has none, one of version 2 has INTEGER 1, and an explicit 0 stays.
  *
  *     TBSCertList ::= SEQUENCE {
- *         version              INTEGER OPTIONAL,
+ *         version              INTEGER { v1(0), v2(1) } OPTIONAL,
  *         signature            AlgorithmIdentifier,
  *         issuer               Name,
  *         thisUpdate           Time,

@@ -1,17 +1,14 @@
 #!/usr/bin/env python3
 """`quarn check` and `quarn convert`: expected findings from the rules of X.690 worked out by hand, and
-from a judge of its own, written in Python, over what openssl makes and what was changed in it.
+none in what openssl makes but for what was changed in it.
 
 Environment: as test_quarn.py.
 """
 
 import base64
-import datetime
 import os
 import pathlib
 import pty
-import random
-import re
 import shutil
 import subprocess
 import unittest
@@ -25,150 +22,6 @@ def findings(octets, *arguments):
     run = Run("check", "--json", "--in-form=der", *arguments, data=octets)
     assert run.err == "" and run.code == (1 if run.out else 0), (run.code, run.err)
     return [(record["finding"]["offset"], record["finding"]["rule"]) for record in run.records()]
-
-
-# A judge of its own: the rules as Python says them, over BER that is well-formed.
-
-def header(octets, at, limit):
-    first, start, at = octets[at], at, at + 1
-    number = first & 31
-    if number == 31:
-        number = 0
-        while True:
-            number, at = number << 7 | octets[at] & 127, at + 1
-            if octets[at - 1] < 128:
-                break
-        if number < 31 or number >= 1 << 64:
-            raise ValueError("not judged")
-    found = [(start + 1, "minimal-tag")] if first & 31 == 31 and octets[start + 1] == 0x80 else []
-    place, size, at = at, octets[at], at + 1
-    if size == 0xFF:
-        raise ValueError("reserved")
-    if size == 0x80:
-        found.append((place, "definite-length"))
-        size = None
-    elif size > 128:
-        count = size & 127
-        size, at = int.from_bytes(octets[at:at + count], "big"), at + count
-        if size < 128 or count != (size.bit_length() + 7) // 8:
-            found.append((place, "minimal-length"))
-    if at > limit or (size is not None and at + size > limit) or (size is None and not first & 32):
-        raise ValueError("too long")
-    return first >> 6, number, bool(first & 32), at, size, found
-
-
-TIMES = {23: r"\d{12}Z", 24: r"\d{14}(\.\d*[1-9])?Z"}
-
-
-def is_time(kind, text):
-    if not re.fullmatch(TIMES[kind], text, re.ASCII):
-        return False
-    digits = re.match(r"\d*", text)[0]
-    digits = digits if kind == 24 else ("19" if digits[0] >= "5" else "20") + digits
-    try:
-        datetime.datetime(int(digits[:4]) or 2000, *(int(digits[i:i + 2]) for i in (4, 6, 8, 10)))
-    except ValueError:
-        return False
-    return digits[12:14] <= "60"
-
-
-def bad_arcs(content):
-    ends = [i for i, octet in enumerate(content) if octet < 128]
-    starts = [0] + [i + 1 for i in ends]
-    return not ends or ends[-1] != len(content) - 1 or any(content[i] == 128 for i in starts[:-1])
-
-
-def content_rules(number, content):
-    """The names of rules that the content of a primitive element breaks."""
-    if number == 1 and content not in (b"\0", b"\xff"):
-        yield "boolean-length" if len(content) != 1 else "boolean-true"
-    if number in (2, 10):
-        if not content:
-            yield "integer-octets"
-        elif len(content) > 1 and (content[0], content[1] >> 7) in ((0, 0), (255, 1)):
-            yield "integer-minimal"
-    if number == 3:
-        if not content:
-            yield "bit-count-missing"
-        elif content[0] > 7:
-            yield "bit-count"
-        elif content[0] and len(content) == 1:
-            yield "bit-count-empty"
-        elif content[-1] % (1 << content[0]):
-            yield "bit-padding"
-    if number == 5 and content:
-        yield "null-content"
-    if number in (6, 13) and bad_arcs(content):
-        yield {6: "oid-arcs", 13: "relative-oid-arcs"}[number]
-    alphabets = {18: rb"[0-9 ]*", 19: rb"[A-Za-z0-9 '()+,./:=?-]*", 22: rb"[\0-\x7f]*", 26: rb"[ -~]*"}
-    if number in alphabets and not re.fullmatch(alphabets[number], content):
-        yield "alphabet"
-    codecs = {12: ("utf-8", 1, "utf8"), 28: ("utf-32-be", 4, "alphabet"), 30: ("utf-16-be", 2, "alphabet")}
-    if number in codecs:
-        codec, width, rule = codecs[number]
-        try:
-            surrogates = any(content[i] >> 3 == 0x1B for i in range(0, len(content), 2)) and number == 30
-            if len(content) % width or surrogates:
-                raise UnicodeError
-            content.decode(codec)
-        except UnicodeError:
-            yield "character-width" if len(content) % width else rule
-
-
-STRINGS = {3, 4, 7, 12, *range(18, 29), 30}
-PRIMITIVE = {1, 2, 5, 6, 10, 13, 14, *range(31, 37)}
-CONSTRUCTED = {8, 11, 16, 17, 29}
-
-
-def order_rule(octets, places):
-    """The first component of a SET at which neither order holds any more."""
-    tags = [header(octets, start, end)[:2] for start, end in places]
-    encodings = [octets[start:end] for start, end in places]
-    for i in range(1, len(places)):
-        by_tag = all(a < b for a, b in zip(tags[:i], tags[1:i + 1]))
-        if not by_tag and encodings[:i + 1] != sorted(encodings[:i + 1]):
-            return [(places[i][0], "set-of-order" if len(set(tags[:i + 1])) == 1 else "set-order")]
-    return []
-
-
-def judge(octets, at, limit):
-    """([(offset, rule)], end) of the element at an offset."""
-    start = at
-    tag_class, number, constructed, at, size, found = header(octets, at, limit)
-    kind = number if tag_class == 0 else None
-    if kind == 0 or kind == 9:
-        raise ValueError("not judged")
-    if constructed and kind in STRINGS:
-        found.append((start, "primitive-string"))
-    if kind in (CONSTRUCTED, PRIMITIVE)[constructed]:
-        found.append((start, "form"))
-    if not constructed:
-        content = octets[at:at + size]
-        text = content.decode("latin-1")
-        if kind in TIMES and not is_time(kind, text):
-            found.append((start, "time"))
-        return found + [(start, rule) for rule in content_rules(kind, content)], at + size
-    places, end = [], limit if size is None else at + size
-    while at < end and (size is not None or octets[at:at + 2] != b"\0\0"):
-        inner, after = judge(octets, at, end)
-        found, places = found + inner, places + [(at, after)]
-        segment = 3 if kind == 3 else 4
-        if kind in STRINGS and header(octets, at, end)[:2] != (0, segment):
-            found.append((at, "segment"))
-        at = after
-    if size is None and at + 2 > limit:
-        raise ValueError("no end")
-    found += order_rule(octets, places) if kind == 17 else []
-    return found, at if size is not None else at + 2
-
-
-def expected(octets):
-    """What the judge finds; None for octets that are no encoding or not for it to judge."""
-    try:
-        found, end = judge(octets, 0, len(octets))
-    except (ValueError, IndexError):
-        return None
-    return found if end == len(octets) else None
 
 
 def real(text):
@@ -320,33 +173,8 @@ class Typed(Case):
             self.assertEqual(paths, ["Certificate.tbsCertificate." + each for each in kept], form)
 
 
-def comparable(octets, *arguments):
-    """Findings as the judge has them: of headers with their offset, of content without, a time once."""
-    headers, contents, times = [], [], set()
-    run = Run("check", "--json", "--in-form=der", "--no-dig", *arguments, data=octets)
-    for finding in (record["finding"] for record in run.records()):
-        rule = finding["rule"]
-        if rule.startswith(("time", "utctime", "gentime")):
-            times.add(finding["path"])
-        elif finding["path"].startswith(("Certificate", "ContentInfo")):
-            continue  # what the type tells, the judge does not know
-        elif rule.startswith(HEADER_RULES):
-            headers.append((finding["offset"], rule))
-        else:
-            contents.append(rule)
-    return sorted(headers), sorted(contents + ["time"] * len(times))
-
-
-HEADER_RULES = ("minimal-", "definite", "primitive-", "form", "segment", "set-", "short")
-
-
-def as_judged(found):
-    return (sorted(each for each in found if each[1].startswith(HEADER_RULES)),
-            sorted(rule for _, rule in found if not rule.startswith(HEADER_RULES)))
-
-
 @unittest.skipUnless(shutil.which("openssl"), "needs the openssl command")
-class Judged(Case):
+class RealFiles(Case):
     def setUp(self):
         super().setUp()
         def openssl(*arguments, data=None):
@@ -363,36 +191,24 @@ class Judged(Case):
         openssl("x509", "-in", "cert.pem", "-trustout", "-addtrust", "serverAuth", "-out", "trusted.pem")
         openssl("x509", "-in", "cert.pem", "-outform", "DER", "-out", "cert.der")
 
-    def test_real_files_are_der_and_their_ber_forms_have_the_findings_of_another_judge(self):
+    def test_real_files_are_der_and_each_form_of_ber_has_the_findings_of_what_was_changed(self):
         for name in ("cert.der", "cms.der"):
             octets = (self.path / name).read_bytes()
             self.check(Run("check", str(self.path / name)), 0)
-            for form, changed in variants(octets).items():
-                self.assertEqual(comparable(changed), as_judged(expected(changed)), (name, form))
             self.assertEqual(encode(parse(octets), lambda depth: False), octets)
+            for form, changed in variants(octets).items():
+                rules = {rule for _, rule in findings(changed, "--no-dig")}
+                self.assertIn("primitive-string" if "segments" in form else "definite-length", rules, form)
+                self.assertLessEqual(rules, {"definite-length", "primitive-string", "set-of-order"}, form)
 
     @unittest.skipUnless(PUBLISHED.is_dir(), "no published certificates on this machine")
-    def test_published_certificates_break_no_rule_for_either_judge_but_one_of_named_bits(self):
+    def test_published_certificates_break_no_rule_but_one_of_named_bits(self):
         run = Run("check", "--json", "-r", str(PUBLISHED))
         self.assertEqual(run.err, "")
         for record in run.records():  # key usages that go on after the last bit set
             octets = base64.b64decode(pathlib.Path(record["source"]).read_text().split("-----")[2])
             self.assertEqual(record["finding"]["rule"], "named-bits")
             self.assertIn(bytes.fromhex("0603551d0f0101ff0405 0303070600"), octets)
-        for path in PUBLISHED.glob("*.crt"):
-            self.assertEqual(expected(base64.b64decode(path.read_text().split("-----")[2])), [], path)
-
-    def test_changed_octets_are_judged_alike(self):
-        chance, judged = random.Random(2), 0
-        octets = (self.path / "cert.der").read_bytes()
-        for _ in range(int(os.environ.get("QUARN_FLIPS", "300"))):
-            changed = bytearray(octets)
-            changed[chance.randrange(len(octets))] ^= chance.choice([1 << chance.randrange(8), chance.randrange(1, 256)])
-            found = expected(bytes(changed))
-            if found is not None:
-                judged += 1
-                self.assertEqual(comparable(bytes(changed)), as_judged(found), changed.hex())
-        self.assertGreater(judged, 50)
 
     def test_conversion_goes_through_every_form_and_guesses_labels(self):
         for path in self.path.glob("*.pem"):

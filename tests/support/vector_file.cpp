@@ -4,6 +4,7 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <sstream>
 #include <stdexcept>
 
@@ -83,9 +84,7 @@ class OctetText {
 };
 
 std::int64_t type_named(const std::string &text) {
-  const bool number =
-      std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c); });
-  const std::int64_t id = number ? std::stoll(text) : quarn_asn1_type_find(text.c_str());
+  const std::int64_t id = quarn_asn1_type_find(text.c_str());
   if (id < 0) throw std::runtime_error("no type " + text);
   return id;
 }
@@ -101,32 +100,28 @@ std::vector<int> codes_of(const std::string &text) {
 }
 
 void set(Vector &vector, const std::string &key, const std::string &value) {
-  if (key == "in") {
-    vector.in = OctetText(value).read();
-  } else if (key == "out") {
-    vector.out = value == "same" ? vector.in : OctetText(value).read();
-  } else if (key == "code") {
+  if (key == "code") {
     vector.codes = codes_of(value);
   } else if (key == "result") {
     vector.result = std::stoi(value, nullptr, 16);
   } else if (key == "consumed") {
     vector.consumed = std::stoull(value);
   } else {
-    throw std::runtime_error("no such key: " + key);
+    vector.out = value == "same" ? vector.in : read_octets(value);
   }
 }
 
 // A row: octets in | octets out, or a key and its value, or both | name.
-void set_row(Vector &vector, const std::string &row) {
-  std::istringstream cells(row);
+Vector row(const std::string &line, Vector vector) {
+  std::istringstream cells(line);
   std::string cell;
   std::getline(cells, cell, '|');
-  set(vector, "in", trim(cell));
+  vector.in = read_octets(cell);
   std::getline(cells, cell, '|');
   std::getline(cells, vector.name);
   vector.name = trim(vector.name);
   std::string value;
-  std::string key = "out";
+  std::string key;
   std::istringstream words(cell + " end");
   for (std::string word; words >> word;) {
     if (word != "end" && word != "code" && word != "result" && word != "consumed") {
@@ -137,42 +132,50 @@ void set_row(Vector &vector, const std::string &row) {
     value.clear();
     key = word;
   }
+  if (vector.type < 0) throw std::runtime_error("a row before any type");
+  if (!vector.out && vector.codes.empty() && vector.result == 0) {
+    throw std::runtime_error("the row expects nothing");
+  }
+  return vector;
 }
 
-void check(const Vector &vector) {
-  if (vector.type < 0) throw std::runtime_error("a case before any type");
-  if (!vector.out && vector.codes.empty() && vector.result == 0) {
-    throw std::runtime_error("case '" + vector.name + "' expects nothing");
+// The line with what its <names> stand for.
+std::string expanded(std::string line, const std::map<std::string, std::string> &defined) {
+  for (const auto &[name, octets] : defined) {
+    for (auto at = line.find(name); at != std::string::npos; at = line.find(name)) {
+      line.replace(at, name.size(), octets);
+    }
   }
+  return line;
 }
 
 }  // namespace
 
+Octets read_octets(const std::string &text) {
+  return OctetText(text).read();
+}
+
 std::vector<Vector> read_vectors(const std::string &path) {
   std::ifstream file(path);
   std::vector<Vector> vectors;
+  std::map<std::string, std::string> defined;
   std::int64_t type = -1;
   std::string text;
   int number = 0;
   try {
     while (std::getline(file, text)) {
       number++;
-      const std::string line = trim(text.substr(0, text.find('#')));
+      const std::string line = expanded(trim(text.substr(0, text.find('#'))), defined);
       const std::string key = trim(line.substr(0, line.find('=')));
       const std::string value = trim(line.substr(line.find('=') + 1));
-      const bool row = line.find('|') != std::string::npos;
       if (line.empty()) continue;
       if (key == "type") {
         type = type_named(value);
-        continue;
+      } else if (key.starts_with("def ")) {
+        defined["<" + key.substr(4) + ">"] = value;
+      } else {
+        vectors.push_back(row(line, {path, number, type, {}, {}, {}, {}, 0, {}}));
       }
-      if (row || key == "case") vectors.push_back({path, number, type, value, {}, {}, {}, 0, {}});
-      if (row) set_row(vectors.back(), line);
-      if (!row && key != "case" && !vectors.empty()) set(vectors.back(), key, value);
-    }
-    for (const Vector &vector : vectors) {
-      number = vector.line;
-      check(vector);
     }
   } catch (const std::exception &error) {
     throw std::runtime_error(path + ":" + std::to_string(number) + ": " + error.what());

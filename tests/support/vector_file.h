@@ -1,17 +1,13 @@
-// Reads .vec files, in which a case is a row, or lines of `key = value` when it is too long for
-// one:
+// Reads .vec files, in which a line is a case:
 //
+//     def zero = 01 01 00
 //     type = boolean
-//     01 01 FF | same       | true
+//     <zero>   | same       | false
 //     01 01 01 | 01 01 FF   | any octet but zero is true and is written as FF
 //     01 00    | code 10203 | empty content
 //
-//     case = any octet but zero is true and is written as FF
-//     in   = 01 01 01
-//     out  = 01 01 FF
-//
 // type holds until the next type line; `#` begins a comment. Octets are hexadecimal or "text"; a
-// group in parentheses can be repeated: (30 80)*3.
+// group in parentheses can be repeated: (30 80)*3. <zero> stands for what was defined.
 #ifndef QUARN_TESTS_SUPPORT_VECTOR_FILE_H
 #define QUARN_TESTS_SUPPORT_VECTOR_FILE_H
 
@@ -35,6 +31,9 @@ struct Vector {
   int result = 0;                         // of a decode that fails
   std::optional<std::uint64_t> consumed;  // of one that succeeds; default: all of in
 };
+
+// Octets as a .vec file writes them.
+Octets read_octets(const std::string &text);
 
 // All vectors of a file. Throws std::runtime_error with file and line for a line it cannot read.
 std::vector<Vector> read_vectors(const std::string &path);

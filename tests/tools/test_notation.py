@@ -6,7 +6,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
 
-from notation import api, functions, model, parser, resolve, rows  # noqa: E402
+from notation import api, catalogue, functions, model, openings, parser, resolve, rows  # noqa: E402
 
 # Universal rows by their tags, and after them rows of structured types: name, stem, tag, form.
 TAGS = {9: 12, 11: 19}
@@ -94,9 +94,9 @@ class Output(unittest.TestCase):
                  "kPointFields, restricted_by(kSpot));",
                  'field("point", QUARN_ASN1_SPOT)', "kBagElement, at_least(1));")
         self.has(rows.rows(modules[1]), "numbered_from(1)", 'string_choice("Name", kM1Unit, kNameAlternatives)')
-        gaps = resolved("--- T.\n--@ type id=102\nT ::= CHOICE { a [0] IMPLICIT NULL, b [3] IMPLICIT NULL }")[0]
+        gaps = resolved("--- T.\n--@ type id=102\nT ::= CHOICE { a [0] IMPLICIT NULL, b [3] IMPLICIT INTEGER }")[0]
         self.has(rows.rows(gaps), "kTAlternatives, numbered_by_tag());")
-        self.has(api.bodies(gaps), "build_choice<quarn_shape>(QUARN_ASN1_SHAPE, 3)")
+        self.has(api.bodies(gaps), "choice_part<quarn_asn1_integer>(QUARN_ASN1_SHAPE, value, 3)")
         point = modules[0].definitions[0]
         self.assertEqual([rows.registry_reference(point, variant) for variant in point.variants],
                          ["&kRecordCodec, &kPointSchema", "&kRecordCodec, &kPoint105Schema"])
@@ -152,6 +152,23 @@ class Output(unittest.TestCase):
         self.assertEqual([rows.registry_reference(one, one.variants[0]) for one in kept[0].definitions[2:4]],
                          ["&kRecordCodec, &kOSchema", "&kC, &kCSchema"])
 
+    def test_names_and_openings(self):
+        modules = resolved("Colours ::= BIT STRING { red(0), blue(2) }\n"
+                           "--- P (RFC 1, 2).\n--@ type id=100 new=own\n--@ also id=105 open=key\n"
+                           "P ::= SEQUENCE {\na INTEGER { one(1) },\nb [0] IMPLICIT Colours OPTIONAL,\n"
+                           "c SET OF ANY --@ open=bag\n}\n"
+                           "second BAG ::= { 1.2.3 P }  --@ id=105\nfirst BAG ::= { 1.2.10 Colours }")
+        self.has(openings.tables(modules), '{QUARN_ASN1_POINT, 2, Place::bag, true}',
+                 '{QUARN_ASN1_SPOT, 2, Place::key, true}', '{QUARN_ASN1_POINT, "a", ",one"}',
+                 '{QUARN_ASN1_POINT, "b", "red,,blue"}',
+                 '{Place::bag, "1.2.10", {QUARN_ASN1_U3, "red,,blue"}},\n'
+                 '    {Place::bag, "1.2.3", {QUARN_ASN1_SPOT, nullptr}},')
+        self.has(api.header(modules[0], modules), " *     Colours ::= BIT STRING { red(0), blue(2) }\n")
+        definition = modules[0].definitions[0]
+        types = catalogue.Catalogue([definition.row], modules, {100: (definition, definition.variants[0])})
+        self.assertEqual(types.standard(definition), "RFC 1, 2")
+        self.has(types.table(), '{"b", QUARN_ASN1_U3, "[0] IMPLICIT", "OPTIONAL"}', '"quarn_Point_free', "    0,\n")
+
 
 class Mistakes(unittest.TestCase):
     def stops(self, message, *bodies):
@@ -201,6 +218,10 @@ class Mistakes(unittest.TestCase):
                  "--- T.\n--@ type id=100\nT ::= SEQUENCE {\ny INTEGER,\nx NULL --@ when=1\n}"),
                 ("a SEQUENCE inside a component is a definition of its own",
                  "--- T.\n--@ type id=100\nT ::= SEQUENCE { x SEQUENCE OF INTEGER }"),
+                ("unknown type Colour", "a BAG ::= { 1.2 Colour }"),
+                ("1.2 is there twice as bag", "a BAG ::= { 1.2 NULL }\nb BAG ::= { 1.2 ANY }"),
+                ("y has the number of x", "C ::= INTEGER { x(1), y(1) }"),
+                ("where the object identifier stands expected, not 'BOX'", "a BOX ::= { 1.2 NULL }"),
                 ("',' expected, not 'y'", "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER y NULL }"),
                 ("',' expected, not 'END'", "--- T.\n--@ type id=100\nT ::= SEQUENCE { x INTEGER")):
             with self.subTest(message):

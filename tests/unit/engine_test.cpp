@@ -3,43 +3,22 @@
 
 #include "core/engine.h"
 #include "core/schema_check.h"
-#include "quarn_asn1.h"
-#include "tests/support/allocation.h"
-#include "tests/support/streams.h"
+#include "tests/unit/values.h"
 #include "types/list.h"
 
 namespace quarn::asn1 {
 namespace {
 
-using Octets = std::vector<std::uint8_t>;
 using test::Context;
+using test::Held;
 using test::Stream;
 
-class Structured {
- public:
-  Structured(std::int64_t id, const Octets &octets) : id_(id) {
-    quarn_asn1_mem_decode(octets.data(), static_cast<std::int64_t>(octets.size()), id, &value_);
-  }
-  ~Structured() { quarn_asn1_value_free(id_, value_); }
-  Structured(const Structured &) = delete;
-  Structured &operator=(const Structured &) = delete;
-
-  const Type &type() const { return *find_type(id_); }
-  void *get() const { return value_; }
-
- private:
-  std::int64_t id_;
-  void *value_ = nullptr;
-};
-
 TEST(Engine, a_default_is_held_and_an_absent_component_is_null) {
-  const Structured value(QUARN_ASN1_X509BASICCONSTRAINTS, {0x30, 0x00});
-  const auto *ca = static_cast<quarn_asn1_boolean *>(component(value.get(), 0));
-  ASSERT_NE(ca, nullptr);
-  EXPECT_EQ(quarn_asn1_boolean_istrue(ca), 0);
+  const Held value(QUARN_ASN1_X509BASICCONSTRAINTS, "30 00");
+  EXPECT_EQ(quarn_asn1_boolean_istrue(static_cast<quarn_asn1_boolean *>(component(value.get(), 0))),
+            0);
   EXPECT_EQ(component(value.get(), 1), nullptr);
-
-  const Structured tree(QUARN_ASN1_X509GENERALTREE, {0x30, 0x03, 0x82, 0x01, 0x61});
+  const Held tree(QUARN_ASN1_X509GENERALTREE, "30 03 820161");
   std::int64_t minimum = -1;
   quarn_asn1_integer_getlong(static_cast<quarn_asn1_integer *>(component(tree.get(), 1)), &minimum);
   EXPECT_EQ(minimum, 0);
@@ -48,47 +27,46 @@ TEST(Engine, a_default_is_held_and_an_absent_component_is_null) {
 TEST(Engine, alternatives_have_the_numbers_that_callers_know) {
   const struct {
     std::int64_t id;
-    Octets octets;
+    const char *octets;
     std::uint64_t number;
     std::uint64_t of_null;
   } rows[] = {
-      {QUARN_ASN1_X509GENERALNAME, {0x86, 0x01, 'u'}, 6, UINT32_MAX},
-      {QUARN_ASN1_X500DIRSTRING, {0x13, 0x01, 'u'}, 19, 0},
-      {QUARN_ASN1_TYPEOFBIOMETRICDATA, {0x02, 0x01, 5}, 1, UINT32_MAX},
-      {QUARN_ASN1_TYPEOFBIOMETRICDATA, {0x06, 0x01, 0x2A}, 2, UINT32_MAX},
+      {QUARN_ASN1_X509GENERALNAME, "86 01 75", 6, UINT32_MAX},
+      {QUARN_ASN1_X500DIRSTRING, "13 01 75", 19, 0},
+      {QUARN_ASN1_IDENTITYCODE, "82 01 41", 2, UINT32_MAX},
+      {QUARN_ASN1_TYPEOFBIOMETRICDATA, "02 01 05", 1, UINT32_MAX},
+      {QUARN_ASN1_TYPEOFBIOMETRICDATA, "06 01 2A", 2, UINT32_MAX},
   };
   for (const auto &[id, octets, number, of_null] : rows) {
-    const Structured value(id, octets);
-    EXPECT_EQ(alternative_number(value.type(), value.get()), number);
-    EXPECT_NE(alternative(value.type(), value.get(), number), nullptr);
-    EXPECT_EQ(alternative(value.type(), value.get(), number + 1), nullptr);
-    EXPECT_EQ(alternative_number(value.type(), nullptr), of_null);
-    EXPECT_EQ(alternative(value.type(), nullptr, number), nullptr);
+    const Held value(id, octets);
+    const Type &type = *find_type(id);
+    EXPECT_EQ(alternative_number(type, value.get()), number);
+    EXPECT_NE(alternative(type, value.get(), number), nullptr);
+    EXPECT_EQ(alternative(type, value.get(), number + 1), nullptr);
+    EXPECT_EQ(alternative_number(type, nullptr), of_null);
+    EXPECT_EQ(alternative(type, nullptr, number), nullptr);
   }
 }
 
 TEST(Engine, content_is_written_in_the_form_that_is_asked_for) {
   const struct {
     std::int64_t id;
-    Octets octets;
+    const char *octets;
     std::int64_t length;
-    Octets content;
+    const char *content;
   } rows[] = {
-      {QUARN_ASN1_X509ALGORITHMID, {0x30, 3, 6, 1, 0x2A}, 3, {6, 1, 0x2A}},
-      {QUARN_ASN1_X509ALGORITHMID, {0x30, 3, 6, 1, 0x2A}, -1, {6, 1, 0x2A, 0, 0}},
-      {QUARN_ASN1_X509GENERALNAME, {0x88, 1, 0x2A}, 1, {0x2A}},
-      {QUARN_ASN1_X509DPNAME, {0xA0, 3, 0x88, 1, 0x2A}, 3, {0x88, 1, 0x2A}},
+      {QUARN_ASN1_X509ALGORITHMID, "30 03 06012A", 3, "06012A"},
+      {QUARN_ASN1_X509ALGORITHMID, "30 03 06012A", -1, "06012A 0000"},
+      {QUARN_ASN1_X509GENERALNAME, "88 01 2A", 1, "2A"},
+      {QUARN_ASN1_X509DPNAME, "A0 03 88012A", 3, "88012A"},
   };
   for (const auto &[id, octets, length, content] : rows) {
-    const Structured value(id, octets);
-    const Stream out(quarn_stream_new_mem(0, nullptr));
+    const Held value(id, octets);
+    const Stream out = test::growable();
     std::uint64_t written = 0;
     EXPECT_EQ(quarn_asn1_encode_content(out.get(), id, value.get(), length, &written, nullptr), 1);
-    const std::uint8_t *there = nullptr;
-    std::uint64_t count = 0;
-    quarn_memstream_peek(out.get(), &there, &count);
-    EXPECT_EQ(Octets(there, there + count), content);
-    EXPECT_EQ(written, content.size());
+    EXPECT_EQ(test::held_by(out), test::hex(content));
+    EXPECT_EQ(written, test::hex(content).size());
   }
   void *value = &value;
   const Stream in = test::memory_stream({0x61});

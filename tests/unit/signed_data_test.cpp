@@ -21,12 +21,15 @@ struct Outcome {
   Codes codes;
 };
 
-Outcome decoded(quarn_stream *stream) {
+Outcome decoded(quarn_stream *stream, quarn_asn1_content_place *place = nullptr) {
   const Context ctx(quarn_err_ctx_new());
   Outcome outcome;
   quarn_pkcs7signeddata *message = nullptr;
   outcome.result =
-      quarn_asn1_decode_pkcs7signeddata(stream, &message, &outcome.consumed, ctx.get());
+      place == nullptr
+          ? quarn_asn1_decode_pkcs7signeddata(stream, &message, &outcome.consumed, ctx.get())
+          : quarn_asn1_decode_pkcs7signeddata_ex(stream, nullptr, &message, place,
+                                                 &outcome.consumed, ctx.get());
   outcome.message.reset(message);
   outcome.codes = codes_in(ctx.get());
   return outcome;
@@ -49,14 +52,19 @@ Octets framed(const char *oid, unsigned indefinite, const Octets &content) {
   return element(0x30, (indefinite & 4) != 0, whole);
 }
 
-// From memory and from a stream that gives one octet at a time; what follows is not read.
+// From memory and from a stream that gives one octet at a time, with the content and apart from it;
+// what follows is not read.
 void expect_message(Octets octets, int form, const Places &places) {
   const std::size_t size = octets.size();
   octets.push_back(0x05);
   SlowSource source(octets);
-  const Stream streams[] = {memory_stream(octets), source.stream()};
+  SlowSource source_apart(octets);
+  const Stream streams[] = {memory_stream(octets), source.stream(), memory_stream(octets),
+                            source_apart.stream()};
+  quarn_asn1_content_place place{};
   for (const Stream &stream : streams) {
-    const Outcome outcome = decoded(stream.get());
+    const bool apart = &stream >= streams + 2;
+    const Outcome outcome = decoded(stream.get(), apart ? &place : nullptr);
     ASSERT_EQ(outcome.result, 1);
     const quarn_pkcs7signeddata *message = outcome.message.get();
     ASSERT_NE(message, nullptr);
@@ -68,8 +76,14 @@ void expect_message(Octets octets, int form, const Places &places) {
                       quarn_pkcs7signeddata_getsignerinfosoffset(message)}),
               places);
     EXPECT_EQ(quarn_pkcs7signeddata_hascerts(message), places[2] > places[1]);
+    const auto *info = quarn_pkcs7signeddata_getcontentinfo(message);
+    const bool there = octets[static_cast<std::size_t>(places[0]) + 1] > 3;
+    EXPECT_EQ(quarn_pkcs7contentinfo_hascontent(info), there && !apart);
     EXPECT_EQ(rest_of(stream), "\x05");
   }
+  const bool there = place.length >= 0;
+  EXPECT_EQ((Places{place.offset, place.end, place.length}),
+            there ? (Places{places[0] + 7, places[1], 1}) : (Places{-1, -1, -1}));
 }
 
 TEST(OnePass, places_are_right_in_every_framing) {

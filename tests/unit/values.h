@@ -4,15 +4,15 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <string>
 #include <vector>
 
 #include "quarn_asn1.h"
 #include "tests/support/streams.h"
+#include "tests/support/vector_file.h"
 
 namespace quarn::test {
 
-using Octets = std::vector<std::uint8_t>;
 using Codes = std::vector<int>;
 
 template <std::int64_t kType>
@@ -22,13 +22,8 @@ struct FreeValue {
 template <typename T, std::int64_t kType>
 using Value = std::unique_ptr<T, FreeValue<kType>>;
 
-// Octets of hexadecimal digits with blanks between octets.
-inline Octets hex(const char *text) {
-  Octets octets;
-  for (char *end = nullptr; *text != '\0'; text = *end == ' ' ? end + 1 : end) {
-    octets.push_back(static_cast<std::uint8_t>(std::strtoul(text, &end, 16)));
-  }
-  return octets;
+inline Octets hex(const std::string &text) {
+  return read_octets(text);
 }
 
 // A stream in memory that already holds some octets.
@@ -47,12 +42,44 @@ inline Octets held_by(const Stream &s) {
 
 // Nothing for a value that cannot be encoded.
 inline Octets encoding_of(std::int64_t type, void *value) {
-  quarn_data_blob *blob = quarn_asn1_mem_encode(type, value);
-  if (blob == nullptr) return {};
-  Octets octets(blob->data, blob->data + blob->length);
-  quarn_data_blob_free(blob);
-  return octets;
+  const Blob blob(quarn_asn1_mem_encode(type, value));
+  return blob == nullptr ? Octets() : Octets(blob->data, blob->data + blob->length);
 }
+
+// The value that some octets are decoded to, which are all read.
+template <typename T, std::int64_t kType>
+Value<T, kType> decoded(const Octets &octets) {
+  void *value = nullptr;
+  const auto count = static_cast<std::int64_t>(octets.size());
+  EXPECT_EQ(quarn_asn1_mem_decode(octets.data(), count, kType, &value), count);
+  return Value<T, kType>(static_cast<T *>(value));
+}
+
+// A value of any type, which frees itself; null when the octets do not decode.
+class Held {
+ public:
+  Held(std::int64_t type, void *value) : type_(type), value_(value) {}
+  Held(std::int64_t type, const Octets &octets) : type_(type) {
+    const auto count = static_cast<std::int64_t>(octets.size());
+    quarn_asn1_mem_decode(octets.data(), count, type, &value_);
+  }
+  Held(std::int64_t type, const char *octets) : Held(type, hex(octets)) {}
+  Held(const Held &) = delete;
+  Held &operator=(const Held &) = delete;
+  ~Held() { quarn_asn1_value_free(type_, value_); }
+
+  std::int64_t type() const { return type_; }
+  void *get() const { return value_; }
+  template <typename T>
+  T *as() const {
+    return static_cast<T *>(value_);
+  }
+  Octets encoding() const { return encoding_of(type_, value_); }
+
+ private:
+  std::int64_t type_;
+  void *value_ = nullptr;
+};
 
 }  // namespace quarn::test
 

@@ -68,7 +68,9 @@ def section(definition):
 
 
 def source(definition):
-    return ["    " + line for line in textwrap.dedent("\n".join(definition.source)).splitlines()]
+    """Its lines, and those that say what the numbers and bits in it are called."""
+    lines = [*definition.source, *definition.aliases]
+    return ["    " + line for line in textwrap.dedent("\n".join(lines)).splitlines()]
 
 
 def identity(definition):

@@ -64,3 +64,8 @@ def paragraphs(lines):
             made.append("")
         made[-1] += (" " if made[-1] and line else "") + line
     return [paragraph for paragraph in made if paragraph]
+
+
+def c_string(text):
+    escaped = text.replace("\\", "\\\\").replace('"', '\\"').replace("\n", "\\n")
+    return f'"{escaped}"'

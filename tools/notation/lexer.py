@@ -6,7 +6,7 @@ import re
 
 from .model import NotationError
 
-TOKEN = re.compile(r"\s*(::=|\.\.|[{}()\[\],;]|'[0-9A-Fa-f]*'H|-?\d+|[A-Za-z][A-Za-z0-9-]*)")
+TOKEN = re.compile(r"\s*(::=|\.\.|[{}()\[\],;]|'[0-9A-Fa-f]*'H|\d+(?:\.\d+)+|-?\d+|[A-Za-z][A-Za-z0-9-]*)")
 
 
 @dataclasses.dataclass

@@ -38,6 +38,7 @@ class TypeName:
 
     name: str
     line: int
+    names: dict = None  # number or bit to name, where they have names
 
 
 @dataclasses.dataclass
@@ -92,6 +93,28 @@ class Export:
 
 
 @dataclasses.dataclass
+class Alias:
+    """Another name of a builtin type, for the sake of the names of its numbers or bits."""
+
+    type: TypeName
+    source: list
+
+
+@dataclasses.dataclass
+class Object:
+    """What an object identifier stands for in one place: the type of the octets beside it."""
+
+    name: str
+    place: str
+    dotted: str
+    type: TypeName
+    line: int
+    notes: dict = dataclasses.field(default_factory=dict)
+    # Filled in by resolve.py.
+    row: Row = None
+
+
+@dataclasses.dataclass
 class Definition:
     name: str
     path: str
@@ -105,6 +128,7 @@ class Definition:
     own_tag: tuple  # (class, number) when it has another tag than SEQUENCE or SET
     variants: list
     exports: list = dataclasses.field(default_factory=list)
+    aliases: list = dataclasses.field(default_factory=list)  # the lines of those that it names
     # Filled in by resolve.py.
     struct: str = ""  # C type of its values
     first: int = 0  # number of a CHOICE's first alternative
@@ -143,3 +167,5 @@ class Module:
     unit: str
     header: str
     definitions: list
+    aliases: dict  # name to Alias
+    objects: list

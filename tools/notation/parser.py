@@ -3,19 +3,21 @@
 import re
 
 from .lexer import Token, lines_of, parse_notes, tokens_of
-from .model import Component, Definition, Export, Module, NotationError, TypeName, Variant
+from .model import Alias, Component, Definition, Export, Module, NotationError, Object, TypeName, Variant
 
 NUMBER, CONSTANT, WORD = r"\d+", r"k[A-Za-z0-9]+", r"[A-Za-z0-9_]+"
 MODULE_NOTES = {"unit": WORD, "header": WORD}
 TYPE_NOTES = {"id": NUMBER, "prefix": WORD, "new": "none|own", "accessors": "own", "check": CONSTANT,
               "keep": "encoding|body|bodyalone|positions", "codec": CONSTANT, "wire": "sequence", "first": NUMBER,
               "tail": "open", "strings": None, "layout": "inferred"}
-ALSO_NOTES = {word: TYPE_NOTES[word] for word in ("id", "prefix", "check")}
+PLACES = "extension|attribute|qualifier|statement|parameters|capability|key|content|bag"
+ALSO_NOTES = {word: TYPE_NOTES[word] for word in ("id", "prefix", "check")} | {"open": PLACES}
 COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive|exact|inside",
-                   "when": NUMBER, "through": None}
+                   "when": NUMBER, "through": None, "content": None, "open": PLACES}
 
 TWO_WORDS = {"BIT": "STRING", "OCTET": "STRING", "OBJECT": "IDENTIFIER"}
 WITH_NAMES = ("INTEGER", "ENUMERATED", "BIT STRING")
+MOST_NAMES = 256
 
 
 class Parser:
@@ -25,6 +27,8 @@ class Parser:
         self.tokens = [token for line in self.lines if line.kind == "code" for token in tokens_of(path, line)]
         self.position = 0
         self.trailing = {line.number: line.note for line in self.lines if line.note is not None}
+        self.aliases = {}
+        self.objects = []
 
     # ---- Tokens
 
@@ -80,7 +84,7 @@ class Parser:
         definitions = self.definitions(self.tokens[self.position - 1].line)
         for line in sorted(self.trailing):
             self.fail("a note that belongs to no component", line)
-        return Module(self.path, family[1], head, words["unit"], words["header"], definitions)
+        return Module(self.path, family[1], head, words["unit"], words["header"], definitions, self.aliases, self.objects)
 
     def definitions(self, line):
         made = []
@@ -91,9 +95,8 @@ class Parser:
                 made[-1].exports += exports
             elif exports:
                 self.fail("an export follows the definition that it belongs to", exports[0].line)
-            if text is None and variants == []:
-                self.fail(f"{self.next.text} has no '---' text and no '--@ type'")
-            made.append(self.definition(text, variants))
+            if text or variants or not self.assignment():
+                made.append(self.definition(text, variants))
             line = self.tokens[self.position - 1].line
         text, variants, exports = self.standing(self.between(line, self.next.line))
         if variants or text:
@@ -157,6 +160,39 @@ class Parser:
         whole = " ".join(parts)
         return "(" in whole and whole.count("(") == whole.count(")")
 
+    # ---- Names of builtin types, and what object identifiers stand for
+
+    def assignment(self):
+        """Takes one, if one is next."""
+        if re.fullmatch(r"[a-z].*", self.next.text):
+            self.objects.append(self.object())
+            return True
+        if [token.text for token in self.tokens[self.position + 1:self.position + 3]] in (
+                ["::=", name.split()[0]] for name in WITH_NAMES):
+            self.alias()
+            return True
+        return False
+
+    def object(self):
+        name = self.take()
+        place = self.take_name(PLACES.upper(), "where the object identifier stands").text.lower()
+        self.take("::=")
+        self.take("{")
+        dotted = self.take_name(r"[0-2](\.\d+)+", "an object identifier").text
+        made = Object(name.text, place, dotted, self.type_name(), name.line)
+        self.take("}")
+        return self.noted(made, {"id": NUMBER})
+
+    def alias(self):
+        name = self.take()
+        self.take("::=")
+        type_name = self.type_name()
+        last = self.tokens[self.position - 1].line
+        self.aliases[name.text] = Alias(type_name, self.code(name.line, last))
+
+    def code(self, first, last):
+        return [line.text for line in self.lines[first - 1:last] if line.kind == "code"]
+
     # ---- Definitions
 
     def definition(self, text, variants):
@@ -181,7 +217,7 @@ class Parser:
         last = self.tokens[self.position - 1].line
         if last >= self.next.line:
             self.fail("a definition begins on a line of its own")
-        source = [line.text for line in self.lines[self.tokens[first].line - 1:last] if line.kind == "code"]
+        source = self.code(self.tokens[first].line, last)
         return Definition(name.text, self.path, name.line, text, source, shape, kind == "SET", fields, at_least,
                           own_tag, variants)
 
@@ -253,13 +289,13 @@ class Parser:
             made.default = self.default()
         return made
 
-    def noted(self, component):
-        """The note at the end of the lines from the component's first token to its last."""
-        for number in range(component.line, self.tokens[self.position - 1].line + 1):
+    def noted(self, one, allowed=None):
+        """The note at the end of the lines from the first token of a component or an object to its last."""
+        for number in range(one.line, self.tokens[self.position - 1].line + 1):
             note = self.trailing.pop(number, None)
             if note is not None:
-                component.notes.update(parse_notes(self.path, number, note, COMPONENT_NOTES))
-        return component
+                one.notes.update(parse_notes(self.path, number, note, allowed or COMPONENT_NOTES))
+        return one
 
     def tag(self):
         if not self.accept("["):
@@ -294,10 +330,22 @@ class Parser:
         if name == "ANY" and self.accept("DEFINED"):
             self.take("BY")
             self.take()
-        if name in WITH_NAMES and self.accept("{"):
-            while self.take().text != "}":
-                pass
-        return TypeName(name, token.line)
+        names = self.names() if name in WITH_NAMES and self.accept("{") else None
+        return TypeName(name, token.line, names)
+
+    def names(self):
+        """Of numbers or bits, behind the brace that opens them."""
+        made = {}
+        while True:
+            name = self.take_name(r"[a-z][A-Za-z0-9-]*", "a name")
+            self.take("(")
+            number = int(self.take_name(r"\d+", "its number").text)
+            self.take(")")
+            if number in made or number >= MOST_NAMES:
+                self.fail(f"{name.text} has the number of {made.get(number, 'none that can have a name')}", name.line)
+            made[number] = name.text
+            if self.take(",", "}").text == "}":
+                return made
 
     def any_list(self, token):
         least = self.size()

@@ -1,7 +1,10 @@
 """Names of types as rows of the registry, and everything that a definition and the registry must agree on."""
 
+import dataclasses
 import difflib
 import re
+
+from .model import NotationError
 
 BUILTIN = {
     "BOOLEAN": (1, "boolean"), "INTEGER": (2, "integer"), "BIT STRING": (3, "bitstring"),
@@ -30,6 +33,7 @@ class Resolver:
         self.by_name = {}
         self.by_id = {}
         self.by_stem = {}
+        self.aliases = {name: alias for module in modules for name, alias in module.aliases.items()}
 
     def resolve(self):
         definitions = [definition for module in self.modules for definition in module.definitions]
@@ -43,6 +47,7 @@ class Resolver:
             self.shape(definition)
         for definition in definitions:
             self.sharing(definition)
+        self.objects()
         self.claims()
         self.headers()
         return self.modules
@@ -120,26 +125,44 @@ class Resolver:
     # ---- Components
 
     def component(self, definition, component):
-        name = component.type.name
-        wanted = component.notes.get("id")
-        if name in BUILTIN:
-            number, c_name = BUILTIN[name]
-            component.c_type = f"quarn_asn1_{c_name}" if c_name else "void"
-            if wanted is not None:
-                definition.fail(f"id= is for definitions with several rows, not for {name}", component.line)
-        else:
-            target = self.by_name.get(name)
-            if target is None:
-                near = difflib.get_close_matches(name, [*BUILTIN, *self.by_name], 1)
-                hint = f"; did you mean {near[0]}?" if near else ""
-                definition.fail(f"unknown type {name}{hint}", component.type.line)
-            number = wanted if wanted is not None else target.row.id
-            if number not in [variant.id for variant in target.variants]:
-                definition.fail(f"id {number} is no row of {name}", component.line)
-            component.c_type = target.struct
-        component.row = self.rows[number]
+        alias = self.aliases.get(component.type.name)
+        if alias is not None:
+            definition.aliases += [line for line in alias.source if line not in definition.aliases]
+        component.row = self.named(component, definition.path)
+        target = self.by_name.get(component.type.name)
+        c_name = BUILTIN[component.type.name][1] if target is None else None
+        component.c_type = target.struct if target else f"quarn_asn1_{c_name}" if c_name else "void"
         self.tagging(definition, component)
         self.presence(definition, component)
+
+    def named(self, one, path):
+        """The row of what a component or an object names."""
+        if one.type.name in self.aliases:
+            one.type = dataclasses.replace(self.aliases[one.type.name].type, line=one.type.line)
+        name, wanted = one.type.name, one.notes.get("id")
+        if name in BUILTIN:
+            if wanted is not None:
+                raise NotationError(path, one.line, f"id= is for definitions with several rows, not for {name}")
+            return self.rows[BUILTIN[name][0]]
+        target = self.by_name.get(name)
+        if target is None:
+            near = difflib.get_close_matches(name, [*BUILTIN, *self.by_name, *self.aliases], 1)
+            hint = f"; did you mean {near[0]}?" if near else ""
+            raise NotationError(path, one.type.line, f"unknown type {name}{hint}")
+        number = target.row.id if wanted is None else wanted
+        if number not in [variant.id for variant in target.variants]:
+            raise NotationError(path, one.line, f"id {number} is no row of {name}")
+        return self.rows[number]
+
+    def objects(self):
+        """An identifier tells one type in one place."""
+        seen = set()
+        for module in self.modules:
+            for one in module.objects:
+                one.row = self.named(one, module.path)
+                if (one.place, one.dotted) in seen:
+                    raise NotationError(module.path, one.line, f"{one.dotted} is there twice as {one.place}")
+                seen.add((one.place, one.dotted))
 
     def is_choice(self, component):
         target = self.by_name.get(component.type.name)
@@ -183,10 +206,13 @@ class Resolver:
             definition.fail("tail=open is for a mandatory component and ANY OPTIONAL", definition.variants[0].line)
         for component in fields:
             for word, kind in (("new", "choice"), ("written", "choice"), ("has", "record"), ("through", "record"),
-                               ("when", "record")):
+                               ("when", "record"), ("content", "record")):
                 if word in component.notes and definition.kind != kind:
                     definition.fail(f"{word} is for components of a {KINDS[kind]}", component.line)
             self.recognition(definition, component)
+            if "content" in component.notes and (component.presence != "optional" or component.tag is None or
+                                                 component.type.name not in ("ANY", "OCTET STRING")):
+                definition.fail("content is for an OPTIONAL component under a tag, ANY or OCTET STRING", component.line)
             if definition.is_strings and component.row.id not in CHARACTER_STRINGS:
                 definition.fail(f"{component.name} is no character string", component.line)
         if definition.kind == "choice":

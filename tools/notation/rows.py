@@ -34,7 +34,7 @@ def field(definition, component):
     if "when" in component.notes:
         notes.append(f"selected_by({component.notes['when']})")
     elif component.presence == "optional":
-        notes.append("optional()")
+        notes.append("content()" if "content" in component.notes else "optional()")
     elif isinstance(component.default, bytes):
         notes.append(f"default_encoding({default_constant(definition, component)})")
     elif component.presence == "default":

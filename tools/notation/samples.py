@@ -172,5 +172,5 @@ def vectors(rows, described):
         lines.append(f"\ntype = {rows[type_id].name}\n")
         for name, octets, written in sampler.samples(type_id):
             out = written.hex(" ").upper() if written else "same"
-            lines.append(f"\ncase = {name}\nin   = {octets.hex(' ').upper()}\nout  = {out}\n")
+            lines.append(f"{octets.hex(' ').upper()} | {out} | {name}\n")
     return "".join(lines)

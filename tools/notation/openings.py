@@ -1,0 +1,53 @@
+"""What object identifiers tell about the octets beside them, and what numbers and bits are called: tables for people."""
+
+from .layout import c_string
+
+
+def tables(modules):
+    definitions = [definition for module in modules for definition in module.definitions]
+    return "\n".join([open_records(definitions), objects(modules), named(definitions)])
+
+
+def array(name, kind, lines):
+    return f"constexpr {kind} {name}[] = {{\n" + "".join(f"    {{{line}}},\n" for line in lines) + "};\n"
+
+
+def open_records(definitions):
+    """Records with a component whose type another component tells, by id."""
+    rows = {}
+    for definition in definitions:
+        for index, component in enumerate(definition.fields):
+            if "open" not in component.notes:
+                continue
+            for variant in definition.variants:
+                place = variant.notes.get("open", component.notes["open"])
+                elements = str(" OF " in component.type.name).lower()
+                rows[variant.id] = f"{variant.row.constant}, {index}, Place::{place}, {elements}"
+    return array("kRecords", "OpenRecord", [rows[number] for number in sorted(rows)])
+
+
+def objects(modules):
+    """In the order of places and identifiers as strings, for a binary search."""
+    rows = []
+    for module in modules:
+        for one in module.objects:
+            rows.append((one.place, one.dotted, f"Place::{one.place}, {c_string(one.dotted)}, "
+                                                f"{{{one.row.constant}, {names(one.type)}}}"))
+    return array("kOpenings", "PlacedOpening", [text for _, _, text in sorted(rows)])
+
+
+def named(definitions):
+    rows = []
+    for definition in definitions:
+        for component in definition.fields:
+            if component.type.names:
+                rows += [f"{variant.row.constant}, {c_string(component.name)}, {names(component.type)}"
+                         for variant in definition.variants]
+    return array("kNamed", "NamedComponent", rows)
+
+
+def names(type_name):
+    """From number 0 on, separated by commas."""
+    if not type_name.names:
+        return "nullptr"
+    return c_string(",".join(type_name.names.get(number, "") for number in range(max(type_name.names) + 1)))
