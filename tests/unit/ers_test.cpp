@@ -32,7 +32,7 @@ std::string found_in(Stream stream) {
 TEST(LongTermValidation, what_stands_inside_tells_evidence_from_lists) {
   const struct {
     const char *rest, *found;
-  } kCases[] = {
+  } cases[] = {
       {"A0 05 30 03 06 01 2A", "P"},                     // a ContentInfo
       {"A0 80 30 80 06 01 2A 00 00 00 00", "P"},         // the same
       {"A1 09 30 07 02 01 01 30 00 30 00", "P"},         // an EvidenceRecord
@@ -46,7 +46,7 @@ TEST(LongTermValidation, what_stands_inside_tells_evidence_from_lists) {
       {"A0 05 30 03 06 01 2A A1 09 30 07 02 01 01 30 00 30 00", "refused"},  // evidence twice
       {"A0 00 A0 00", "refused"},                                            //
   };
-  for (const auto &[rest, found] : kCases) {
+  for (const auto &[rest, found] : cases) {
     SCOPED_TRACE(rest);
     const Octets octets = validation(rest);
     EXPECT_EQ(found_in(memory_stream(octets)), found);
