@@ -1,13 +1,5 @@
-#!/usr/bin/env python3
-"""Makes keys, parameters, PKCS #12 files, OCSP and time-stamps with openssl: a folder for each type, named after it,
-also of what lies inside them and an OBJECT IDENTIFIER tells the type of.
-
-    containers.py FOLDER
-"""
-
-import pathlib
-import shutil
-import sys
+"""Keys, parameters, PKCS #12 files, OCSP and time-stamps that openssl makes; and what lies inside any object and an
+OBJECT IDENTIFIER tells the type of: extensions, attributes, parameters, contents."""
 
 import der
 
@@ -80,8 +72,17 @@ def recipes():
                                " -keyopt rsa_oaep_md:sha256 -keyopt rsa_oaep_label:0A0B -aes256")
 
 
-# The types of what stands behind these OBJECT IDENTIFIERs.
+# The types of what stands behind these OBJECT IDENTIFIERs (RFC 5280, 3739, 5755, 8551, 5035 and others).
+EXTENSIONS = {
+    9: "x509subjectdirattrs", 14: "octetstring", 15: "bitstring", 16: "x509privkeyusageperiod",
+    17: "x509generalnames", 18: "x509generalnames", 19: "x509basicconstraints", 20: "integer", 21: "enumerated",
+    23: "oid", 24: "gentime", 27: "integer", 28: "pkixidp", 29: "x509generalnames", 30: "pkixnameconstaints",
+    31: "x509crldp", 32: "x509certpolicies", 33: "x509policymappings", 35: "x509akid", 36: "x509policyconstaints",
+    37: "x509exkeyusage", 46: "x509crldp", 54: "integer", 55: "ac_seqoftargets", 56: "null",
+}
 BEHIND = {
+    **{f"2.5.29.{number}": kind for number, kind in EXTENSIONS.items()},
+    "1.3.6.1.5.5.7.1.1": "pkixaia", "1.3.6.1.5.5.7.1.3": "qcstatements", "1.3.6.1.5.5.7.1.11": "pkixaia",
     "1.2.840.113549.1.1.7": "pkcs1rsaesoaepprarams",
     "1.2.840.113549.1.1.10": "pkcs1rsassapssprarams", "1.2.840.113549.1.3.1": "pkcs3dhpraram",
     "1.2.840.113549.1.5.3": "pkcs5pbeparam", "1.2.840.113549.1.5.12": "pkcs5pbkdf2params",
@@ -109,12 +110,14 @@ def elements(octets):
 def inside(element):
     """Type and octets of each value in an element that an OBJECT IDENTIFIER stands before."""
     parts = elements(element.content) if element.identifier & 0x20 or element.identifier == 4 else []
-    if len(parts) > 1 and parts[0].octets in BEHIND:
-        value, kind = parts[1], BEHIND[parts[0].octets]
-        while value.identifier in HOLDERS and elements(value.content):
-            value = elements(value.content)[0]
-        if value.identifier == 0x30 or kind == "ecpkparameters":  # a capability of RC2 is a number
-            yield kind, value.octets
+    kind = BEHIND.get(parts[0].octets) if len(parts) in (2, 3) else None
+    if kind:  # behind a BOOLEAN in critical extensions
+        value = parts[-1] if parts[1].identifier == 1 else parts[1]
+        for held in [value] if value.identifier not in HOLDERS else elements(value.content):
+            while held.identifier in HOLDERS and kind != "octetstring" and elements(held.content):
+                held = elements(held.content)[0]
+            if held.identifier == 0x30 or kind != "pkcs5rc2cbcparameter":  # a capability of RC2 is a number
+                yield kind, held.octets
     for part in parts:
         yield from inside(part)
 
@@ -153,37 +156,16 @@ def prepare(work):
     openssl("ts -query -data text -tspolicy 1.2.3.5 -out refused")
 
 
-def make(folder):
-    work = folder / "work"
-    work.mkdir(parents=True)
+def made(work, refused):
+    """Type and octets of all that openssl makes here."""
+    work.mkdir()
     prepare(work)
-    files = {}
     for kind, command in recipes():
         try:
             octets = der.openssl(*command.split(), cwd=work)
         except RuntimeError as error:
-            print(str(error).splitlines()[0])  # what this openssl cannot do
+            refused.append(str(error).splitlines()[0])
             continue
-        whole = der.Element(octets)
-        assert whole.octets == octets, command
-        files.setdefault(octets, kind)
-        for inner, held in [*inside(whole), *(safes(whole) if kind == "pkcs12pfx" else [])]:
-            files.setdefault(held, inner)
-    for number, (octets, kind) in enumerate(files.items()):
-        (folder / kind).mkdir(exist_ok=True)
-        (folder / kind / f"{number}.der").write_bytes(octets)
-    shutil.rmtree(work)
-    (folder / "done").touch()
-    return len(files)
-
-
-def main(folder):
-    folder = pathlib.Path(folder)
-    done = folder / "done"
-    if not done.exists() or done.stat().st_mtime < pathlib.Path(__file__).stat().st_mtime:
-        shutil.rmtree(folder, ignore_errors=True)
-        print(f"containers: {make(folder)} files")
-
-
-if __name__ == "__main__":
-    main(*sys.argv[1:])
+        yield kind, octets
+        if kind == "pkcs12pfx":
+            yield from safes(der.Element(octets))
