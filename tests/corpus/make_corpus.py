@@ -4,8 +4,8 @@ and the extensions, attributes and parameters inside.
 
     make_corpus.py FOLDER [SOURCE]
 
-FOLDER gets a folder of DER files for each type, named after it, and `facts.json`: what openssl finds in the files of
-some types (see oracle.py). SOURCE is a folder of published certificates in PEM to add. A folder
+FOLDER gets a folder of DER files for each type, named after it, and `facts.json`: what openssl finds in each file (see
+oracle.py). SOURCE is a folder of published certificates in PEM to add. A folder
 that is newer than the recipes is left alone.
 """
 
@@ -326,10 +326,10 @@ class Maker:
             self.others()
             messages.split(self.folder)
             ldap_recorded.record(self.folder / ldap_recorded.FOLDER)
-            facts = oracle.facts([self.folder / kind for kind in TYPES])
             messages.places(self.folder)
-        (self.folder / "refused.txt").write_text("".join(each + "\n" for each in self.refused))
         shutil.rmtree(self.work)
+        facts = oracle.facts([path for path in self.folder.iterdir() if path.is_dir()])
+        (self.folder / "refused.txt").write_text("".join(each + "\n" for each in self.refused))
         (self.folder / "facts.json").write_text(json.dumps(facts, indent=1))
 
 
