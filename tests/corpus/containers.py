@@ -3,21 +3,17 @@ OBJECT IDENTIFIER tells the type of: extensions, attributes, parameters, content
 
 import der
 
+# Keys beside those of make_corpus.py.
 KEYS = {
-    "rsa": "genpkey -algorithm RSA -pkeyopt rsa_keygen_bits:2048",
-    "three": "genpkey -algorithm RSA -pkeyopt rsa_keygen_bits:2048 -pkeyopt rsa_keygen_primes:3",
-    "pss": "genpkey -algorithm RSA-PSS -pkeyopt rsa_keygen_bits:1024 -pkeyopt rsa_pss_keygen_md:sha256",
-    "ec": "genpkey -algorithm EC -pkeyopt ec_paramgen_curve:P-256",
-    "explicit": "genpkey -algorithm EC -pkeyopt ec_paramgen_curve:P-384 -pkeyopt ec_param_enc:explicit",
-    "sm2": "genpkey -algorithm SM2", "ed25519": "genpkey -algorithm ED25519", "x448": "genpkey -algorithm X448",
-    "dsa": "genpkey -paramfile dsa.params", "dh": "genpkey -algorithm DH -pkeyopt group:ffdhe2048",
+    "three": "-algorithm RSA -pkeyopt rsa_keygen_bits:2048 -pkeyopt rsa_keygen_primes:3",
+    "explicit": "-algorithm EC -pkeyopt ec_paramgen_curve:P-384 -pkeyopt ec_param_enc:explicit",
 }
 CURVES = "secp256r1 sect163k1 brainpoolP256r1 SM2"
 CIPHERS = ["-v2 aes-256-cbc", "-v2 aes-128-cbc -v2prf hmacWithSHA1", "-v2 des3 -v2prf hmacWithSHA512", "-scrypt",
            "-v1 PBE-SHA1-3DES", "-v1 PBE-MD5-DES -provider legacy -provider default",
            "-v2 rc2-cbc -provider legacy -provider default"]
 FILES = ["", "-nomac", "-keypbe NONE -certpbe NONE", "-keypbe PBE-SHA1-3DES -certpbe PBE-SHA1-3DES -macalg sha1",
-         "-certfile rsa.pem -name one -caname two -CSP three -keyex", "-maciter -iter 1", "-nokeys", "-nocerts"]
+         "-certfile ca_rsa.pem -name one -caname two -CSP three -keyex", "-maciter -iter 1", "-nokeys", "-nocerts"]
 QUERIES = ["", "-cert", "-cert -no_nonce -sha512", "-tspolicy 1.2.3", "-sha1"]
 REPLIES = ["sha256 ess_cert_id_chain = yes", "sha1 accuracy = secs:1, millisecs:500, microsecs:100",
            "sha512 ordering = yes", "sha256 clock_precision_digits = 3", "sha384 tsa_name = yes"]
@@ -35,7 +31,7 @@ INDEX = "V\t300101000000Z\t\t01\tunknown\t/CN=x\nR\t300101000000Z\t240101120000Z
 
 def recipes():
     """Type and command that writes its encoding to standard output."""
-    for key in KEYS:
+    for key in (*KEYS, "rsa", "psslimited", "ec", "sm2", "ed25519", "x448", "dsa", "dh"):
         yield "pkcs8privatekeyinfo", f"pkcs8 -topk8 -nocrypt -in {key}.key -outform DER"
     for key in ("rsa", "three"):
         yield "pkcs1rsaprivkey", f"rsa -in {key}.key -traditional -outform DER"
@@ -51,24 +47,24 @@ def recipes():
     yield "pkcs3dhpraram", "dhparam -in dh.params -outform DER"
     yield "pkcs3dhpraram", "dhparam -dsaparam -outform DER 512"
     for way in FILES:
-        yield "pkcs12pfx", f"pkcs12 -export -in ec.pem -inkey ec.key -passout pass:a {way}"
+        yield "pkcs12pfx", f"pkcs12 -export -in ca_ec.pem -inkey ec.key -passout pass:a {way}"
     for key, kind in (("ec", "ecdsasigvalue"), ("dsa", "dsssigvalue")):
         yield kind, f"dgst -sha256 -sign {key}.key text"
     yield "ecdsasigvalue", "pkeyutl -sign -rawin -digest sm3 -inkey sm2.key -in text"
     yield "sm2cipher", "pkeyutl -encrypt -inkey sm2.key -in text"
-    for way in ("", "-no_nonce", "-signer rsa.pem -signkey rsa.key", "-signer ec.pem -signkey ec.key -no_certs"):
-        yield "ocsp_ocsprequest", f"ocsp -issuer ec.pem -serial 1 -serial 2 -serial 3 -reqout /dev/stdout {way}"
+    for way in ("", "-no_nonce", "-signer ca_rsa.pem -signkey rsa.key", "-signer ca_ec.pem -signkey ec.key -no_certs"):
+        yield "ocsp_ocsprequest", f"ocsp -issuer ca_ec.pem -serial 1 -serial 2 -serial 3 -reqout /dev/stdout {way}"
     for way in ("", "-resp_key_id", "-resp_no_certs", "-ndays 1", "-badsig"):
-        yield "ocsp_ocspresponse", ("ocsp -index index -CA ec.pem -rsigner rsa.pem -rkey rsa.key -reqin request"
+        yield "ocsp_ocspresponse", ("ocsp -index index -CA ca_ec.pem -rsigner ca_rsa.pem -rkey rsa.key -reqin request"
                                     f" -respout /dev/stdout {way}")
     for way in QUERIES:
         yield "tsp_timestampreq", f"ts -query -data text {way}"
     for number in range(len(REPLIES)):
         yield "tsp_timestampresp", f"ts -reply -queryfile query -config tsa{number} -section tsa -signer tsa.pem -inkey ec.key"
     yield "tsp_timestampresp", "ts -reply -queryfile refused -config tsa0 -section tsa -signer tsa.pem -inkey ec.key"
-    yield "pkcs7contentinfo", ("cms -sign -in text -outform DER -signer rsa.pem -inkey rsa.key -cades"
+    yield "pkcs7contentinfo", ("cms -sign -in text -outform DER -signer ca_rsa.pem -inkey rsa.key -cades"
                                " -keyopt rsa_padding_mode:pss")
-    yield "pkcs7contentinfo", ("cms -encrypt -in text -outform DER -recip rsa.pem -keyopt rsa_padding_mode:oaep"
+    yield "pkcs7contentinfo", ("cms -encrypt -in text -outform DER -recip ca_rsa.pem -keyopt rsa_padding_mode:oaep"
                                " -keyopt rsa_oaep_md:sha256 -keyopt rsa_oaep_label:0A0B -aes256")
 
 
@@ -137,28 +133,24 @@ def safes(file):
 def prepare(work):
     def openssl(command):
         der.openssl(*command.split(), cwd=work)
-    (work / "text").write_text("some text")
     (work / "serial").write_text("0A")
     (work / "index").write_text(INDEX)
-    (work / "config").write_text("[req]\ndistinguished_name = person\n[person]\n[v3]\nbasicConstraints = CA:TRUE\n"
+    (work / "config").write_text("[req]\ndistinguished_name = person\n[person]\n"
                                  "[stamps]\nextendedKeyUsage = critical, timeStamping\n")
     for number, words in enumerate(REPLIES):
         digest, _, line = words.partition(" ")
         (work / f"tsa{number}").write_text(TSA.format(digest, line))
-    openssl("genpkey -genparam -algorithm DSA -pkeyopt dsa_paramgen_bits:1024 -out dsa.params")
     openssl("genpkey -genparam -algorithm DH -pkeyopt group:ffdhe2048 -out dh.params")
-    for key, command in KEYS.items():
-        openssl(f"{command} -out {key}.key")
-    for name, key, section in (("rsa", "rsa", "v3"), ("ec", "ec", "v3"), ("tsa", "ec", "stamps")):
-        openssl(f"req -x509 -new -key {key}.key -config config -extensions {section} -subj /CN={name} -out {name}.pem")
-    openssl("ocsp -issuer ec.pem -serial 1 -serial 2 -serial 3 -reqout request")
+    for key, arguments in KEYS.items():
+        openssl(f"genpkey {arguments} -out {key}.key")
+    openssl("req -x509 -new -key ec.key -config config -extensions stamps -subj /CN=tsa -out tsa.pem")
+    openssl("ocsp -issuer ca_ec.pem -serial 1 -serial 2 -serial 3 -reqout request")
     openssl("ts -query -data text -cert -out query")
     openssl("ts -query -data text -tspolicy 1.2.3.5 -out refused")
 
 
 def made(work, refused):
-    """Type and octets of all that openssl makes here."""
-    work.mkdir()
+    """Type and octets of all that openssl makes here, with the keys and authorities in the folder."""
     prepare(work)
     for kind, command in recipes():
         try:

@@ -287,7 +287,7 @@ class Maker:
 
     def others(self):
         """What openssl can neither write nor sign, by other encoders; keys and containers; what is inside them all."""
-        found = list(containers.made(self.work / "containers", self.refused))
+        found = list(containers.made(self.work, self.refused))
         try:
             found += pyasn1_made.made()
         except ImportError as error:
