@@ -1,13 +1,18 @@
 #!/usr/bin/env python3
-"""Makes keys, parameters, PKCS #12 files, OCSP and time-stamps with openssl: a folder for each type, named after it,
-also of what lies inside them and an OBJECT IDENTIFIER tells the type of.
+"""Makes keys, parameters, PKCS #12 files, OCSP and time-stamps with openssl, and signed programs with osslsigncode: a
+folder for each type, named after it, also of what lies inside them and an OBJECT IDENTIFIER tells the type of.
 
     containers.py FOLDER
 """
 
+import base64
+import contextlib
 import pathlib
 import shutil
+import socket
+import struct
 import sys
+from concurrent.futures import ThreadPoolExecutor
 
 import der
 
@@ -92,6 +97,8 @@ BEHIND = {
     "1.3.6.1.5.5.7.48.1.1": "ocsp_basicocspresponse", "1.2.840.113549.1.9.16.1.4": "tsp_tstinfo",
     "1.2.840.113549.1.9.16.2.12": "ess_signingcertificate", "1.2.840.113549.1.9.16.2.47": "ess_signingcertificatev2",
     "1.2.840.113549.1.9.15": "smimecapabilities",
+    "1.3.6.1.4.1.311.2.1.4": "authenticode_spcindirectdatacontent",
+    "1.3.6.1.4.1.311.2.1.12": "authenticode_spcspopusinfo", "1.3.6.1.4.1.311.2.1.15": "authenticode_spcpeimagedata",
 }
 BEHIND = {der.oid(oid): kind for oid, kind in BEHIND.items()}
 HOLDERS = (0x04, 0x31, 0xA0)  # an OCTET STRING, a SET of one value, an explicit tag
@@ -131,6 +138,41 @@ def safes(file):
             yield from (("pkcs12safebag", bag.octets) for bag in der.Element(content.content).parts())
 
 
+def program():
+    """A program of one section that returns."""
+    optional = struct.pack("<HBB9I6H4I2H6I", 0x10B, 0, 0, 512, 0, 0, 4096, 4096, 0, 0x400000, 4096, 512, 4, 0, 0, 0, 4,
+                           0, 0, 8192, 512, 0, 3, 0, 0, 0, 0, 0, 0, 16) + bytes(128)
+    headers = (b"MZ".ljust(60, b"\0") + struct.pack("<I4s2H3I2H", 64, b"PE", 0x14C, 1, 0, 0, 0, len(optional), 0x102)
+               + optional + struct.pack("<8s6I2HI", b".text", 512, 4096, 512, 512, 0, 0, 0, 0, 0x60000020))
+    return headers.ljust(512, b"\0") + b"\xc3".ljust(512, b"\0")
+
+
+def first_post(listening):
+    """The body of the first request, which gets no answer."""
+    with listening.accept()[0] as peer, peer.makefile("rb") as lines:
+        head = dict(line.lower().split(b": ") for line in iter(lines.readline, b"\r\n") if b": " in line)
+        return lines.read(int(head[b"content-length"]))
+
+
+def signed_programs(work):
+    """Type and octets of signatures, and of a request for a time-stamp."""
+    def sign(way):
+        der.run(*f"osslsigncode sign -certs rsa.pem -key rsa.key -in program -out signed {way}".split(), cwd=work)
+    (work / "program").write_bytes(program())
+    for way in ("", "-n name -i http://a.test/ -ph", "-h sha1 -i http://a.test/"):
+        sign(way)
+        der.run(*"osslsigncode extract-signature -in signed -out signature".split(), cwd=work)
+        yield "pkcs7contentinfo", (work / "signature").read_bytes()
+        (work / "signed").unlink()
+        (work / "signature").unlink()
+    with socket.create_server(("127.0.0.1", 0)) as listening, ThreadPoolExecutor(1) as pool:
+        listening.settimeout(10)
+        request = pool.submit(first_post, listening)
+        with contextlib.suppress(RuntimeError):  # there is no time-stamp
+            sign(f"-t http://127.0.0.1:{listening.getsockname()[1]}/")
+        yield "authenticode_timestampreq", base64.b64decode(request.result())
+
+
 def prepare(work):
     def openssl(command):
         der.openssl(*command.split(), cwd=work)
@@ -153,19 +195,26 @@ def prepare(work):
     openssl("ts -query -data text -tspolicy 1.2.3.5 -out refused")
 
 
+def encodings(work):
+    for kind, command in recipes():
+        try:
+            yield kind, der.openssl(*command.split(), cwd=work)
+        except RuntimeError as error:
+            print(str(error).splitlines()[0])  # what this openssl cannot do
+    try:
+        yield from signed_programs(work)
+    except (RuntimeError, OSError) as error:
+        print(f"no signed programs: {error}")
+
+
 def make(folder):
     work = folder / "work"
     work.mkdir(parents=True)
     prepare(work)
     files = {}
-    for kind, command in recipes():
-        try:
-            octets = der.openssl(*command.split(), cwd=work)
-        except RuntimeError as error:
-            print(str(error).splitlines()[0])  # what this openssl cannot do
-            continue
+    for kind, octets in encodings(work):
         whole = der.Element(octets)
-        assert whole.octets == octets, command
+        assert whole.octets == octets, kind
         files.setdefault(octets, kind)
         for inner, held in [*inside(whole), *(safes(whole) if kind == "pkcs12pfx" else [])]:
             files.setdefault(held, inner)

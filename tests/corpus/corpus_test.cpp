@@ -88,6 +88,10 @@ const std::map<std::string, std::int64_t> kHeldTypes = {
     {"2.5.29.54", QUARN_ASN1_INTEGER},
     {"2.5.29.55", QUARN_ASN1_AC_SEQOFTARGETS},
     {"2.5.29.56", QUARN_ASN1_NULL},
+    {"2.5.4.55", QUARN_ASN1_AC_CLEARANCE},
+    {"2.5.4.72", QUARN_ASN1_AC_ROLESYNTAX},
+    {"1.3.6.1.5.5.7.10.1", QUARN_ASN1_AC_SVCEAUTHINFO},
+    {"1.3.6.1.5.5.7.10.2", QUARN_ASN1_AC_SVCEAUTHINFO},
     {"1.3.6.1.5.5.7.1.1", QUARN_ASN1_PKIXAIA},
     {"1.3.6.1.5.5.7.1.3", QUARN_ASN1_QCSTATEMENTS},
     {"1.3.6.1.5.5.7.1.11", QUARN_ASN1_PKIXAIA},
@@ -121,7 +125,7 @@ void visit_attribute(const char *oid, const quarn_asn1_component &values, Visit 
 template <typename Visit>
 void for_each_held(std::int64_t type, const void *value, Visit visit) {
   const bool extension = type == QUARN_ASN1_X509EXTENSION;
-  if (extension || type == QUARN_ASN1_PKCS10ATTRIBUTE) {
+  if (extension || type == QUARN_ASN1_PKCS10ATTRIBUTE || type == QUARN_ASN1_X500ATTRIBUTE) {
     quarn_asn1_component oid{};
     quarn_asn1_component held{};
     ASSERT_EQ(quarn_asn1_component_get(type, value, 0, &oid), 1);

@@ -286,7 +286,7 @@ class Maker:
     def encode(self):
         """What openssl can neither write nor sign, by other encoders."""
         try:
-            for number, (kind, octets) in enumerate(pyasn1_made.made()):
+            for number, (kind, octets) in enumerate(dict.fromkeys(pyasn1_made.made())):
                 (self.folder / "made" / f"{kind}.{number}.der").write_bytes(octets)
         except ImportError as error:
             self.refused.append(f"no values by pyasn1: {error}")

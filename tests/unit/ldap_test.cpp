@@ -35,6 +35,16 @@ TEST(Ldap, operations_are_given_and_lent_by_number) {
   EXPECT_EQ(quarn_ldapmessage_new(negative.get(), 2, nullptr, nullptr), nullptr);
 }
 
+TEST(Ldap, only_an_attribute_that_is_partial_may_have_no_value) {
+  const Held type(QUARN_ASN1_OCTETSTRING, "04 01 61");
+  const Held none(QUARN_ASN1_LDAPATTRIBUTEVALUES, "31 00");
+  const auto *name = type.as<quarn_asn1_octetstring>();
+  const auto *values = none.as<quarn_asn1_list>();
+  EXPECT_EQ(quarn_ldapattribute_new(name, values), nullptr);
+  const Held partial(QUARN_ASN1_LDAPPARTIALATTRIBUTE, quarn_ldappartialattribute_new(name, values));
+  EXPECT_EQ(partial.encoding(), hex("30 05 04 01 61 31 00"));
+}
+
 TEST(Ldap, the_operation_of_a_message_shows_as_what_it_is) {
   const Message unbind(
       quarn_ldapmessage_new(Integer(quarn_asn1_integer_value(6)).get(), 2, nullptr, nullptr));
