@@ -143,30 +143,31 @@ TEST(Laws, every_failed_write_is_an_error) {
   });
 }
 
+// Ids without a tag of their own are offered an OCTET STRING.
+Octets claiming(const asn1::Type &type, unsigned form, std::uint64_t length) {
+  const bool tagged = type.tag_number != 0 || type.tag_class != 0;
+  const unsigned first = tagged ? type.tag_class | form | (type.tag_number & 0x1F) : 0x04u;
+  Octets octets{static_cast<std::uint8_t>(first), 0x88};
+  for (int shift = 56; shift >= 0; shift -= 8) {
+    octets.push_back(static_cast<std::uint8_t>(length >> shift));
+  }
+  return octets;
+}
+
 TEST(Laws, a_claimed_length_costs_no_memory) {
   for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
     const asn1::Type &type = *asn1::find_type(id);
     for (const unsigned form : {0x00u, 0x20u}) {
-      const auto first =
-          static_cast<std::uint8_t>(type.tag_class | form | (type.tag_number & 0x1F));
-      // Ids without a tag of their own are offered an OCTET STRING.
-      const Octets octets{type.tag_number == 0 && type.tag_class == 0 ? std::uint8_t{0x04} : first,
-                          0x88,
-                          0x40,
-                          0,
-                          0,
-                          0,
-                          0,
-                          0,
-                          0,
-                          0};
-      Allocation allocation;
-      EXPECT_EQ(Decoded(id, octets).consumed(), -1);
-      SlowSource source(octets);
-      const Stream stream = source.stream();
-      void *value = nullptr;
-      EXPECT_NE(quarn_asn1_decode(stream.get(), id, &value, nullptr, nullptr), 1);
-      EXPECT_LT(allocation.peak_octets(), 64u * 1024) << type.name;
+      for (const std::uint64_t length : {std::uint64_t{1} << 62, std::uint64_t{INT64_MAX}}) {
+        const Octets octets = claiming(type, form, length);
+        Allocation allocation;
+        EXPECT_EQ(Decoded(id, octets).consumed(), -1);
+        SlowSource source(octets);
+        const Stream stream = source.stream();
+        void *value = nullptr;
+        EXPECT_NE(quarn_asn1_decode(stream.get(), id, &value, nullptr, nullptr), 1);
+        EXPECT_LT(allocation.peak_octets(), 64u * 1024) << type.name;
+      }
     }
   }
 }
