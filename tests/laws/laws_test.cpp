@@ -34,7 +34,6 @@ TEST(Laws, every_row_encodes_decodes_and_has_samples) {
     EXPECT_EQ(codec.decode == asn1::cannot_decode, content_only) << type.name;
     EXPECT_EQ(codec.encode == asn1::cannot_encode, content_only) << type.name;
     EXPECT_EQ(codec.decode_content == asn1::cannot_decode_content, whole_only) << type.name;
-    EXPECT_NE(codec.encode_content, asn1::cannot_encode_content) << type.name;
     EXPECT_GE(made[id], type.schema == nullptr ? 0 : 2) << type.name << ": full and least";
     // An end-of-contents has no value.
     EXPECT_GE(count[id], id == QUARN_ASN1_EOC || content_only ? 0 : 1) << type.name;
