@@ -26,7 +26,7 @@ struct Definition {
   std::span<const Component> components;
 };
 
-// Null for universal types, and for those that this version cannot decode.
+// Null for universal and open types.
 const Definition *definition_of(std::int64_t type_id);
 
 // The ids that a definition serves.

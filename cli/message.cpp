@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "cli/catalogue.h"
 #include "cli/diagnosis.h"
 #include "cli/failure.h"
 #include "cli/guess.h"
@@ -87,6 +88,15 @@ bool has_tag(const Frame &frame, std::uint32_t tag_class, std::uint64_t number, 
   return header.tag_class == tag_class && header.tag_number == number && header.form == form;
 }
 
+// Whether values of a type are messages: of the types that may stand in a ContentInfo, those with a
+// component that holds content in turn.
+bool is_message(std::int64_t type_id) {
+  const Definition *definition = definition_of(type_id);
+  return definition != nullptr &&
+         std::any_of(definition->components.begin(), definition->components.end(),
+                     [](const Component &each) { return holds_content(each.type_id); });
+}
+
 // What the first elements tell: the type of the value, and what is around it.
 void Reading::read_type() {
   const Frame outer = element_at(0);
@@ -103,17 +113,17 @@ void Reading::read_type() {
   const Octets octets = Octets(start_).subspan(first.content(), first.end() - first.content());
   message_.content_type = dotted_oid(octets).value_or("");
   const Opening *opening = find_opening(Place::content, message_.content_type);
-  if (opening == nullptr) {
-    const OidName *name = find_oid(message_.content_type);
-    throw Failure(kBadInput, "is a message of the type " + message_.content_type +
-                                 (name == nullptr ? "" : std::string(" ") + name->name) +
-                                 ", which this version cannot decode");
-  }
-  message_.type_id = opening->type_id;
-  if (opening->type_id == QUARN_ASN1_OCTETSTRING) {
+  if (opening != nullptr && opening->type_id == QUARN_ASN1_OCTETSTRING) {
     message_.type_id = QUARN_ASN1_PKCS7CONTENTINFO;
     return;
   }
+  if (opening == nullptr || !is_message(opening->type_id)) {
+    const OidName *name = find_oid(message_.content_type);
+    throw Failure(kBadInput, "is a message of the type " + message_.content_type +
+                                 (name == nullptr ? "" : std::string(" ") + name->name) +
+                                 ", which this command does not know");
+  }
+  message_.type_id = opening->type_id;
   const Frame tag = element_at(first.end());
   if (!has_tag(tag, 0x80, 0, 0)) refuse(tag, "[0], the content of the ContentInfo");
   frames_ = {outer, tag};
@@ -203,6 +213,12 @@ Message Reading::read(quarn_stream *content) {
 }
 
 }  // namespace
+
+bool holds_content(std::int64_t type_id) {
+  return type_id == QUARN_ASN1_PKCS7CONTENTINFO ||
+         type_id == QUARN_ASN1_CMSENCAPSULATEDCONTENTINFO ||
+         type_id == QUARN_ASN1_CMSENCRYPTEDCONTENTINFO;
+}
 
 void FreeValue::operator()(void *value) const {
   quarn_asn1_value_free(type_id, value);

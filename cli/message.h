@@ -45,6 +45,9 @@ struct Message {
   std::optional<Range> signer_infos;
 };
 
+// Whether the content of a message may stand in values of a type.
+bool holds_content(std::int64_t type_id);
+
 // Reads a message to its end, and writes its content to the stream, unless that is null. Throws
 // Failure.
 Message read_message(MessageInput &input, quarn_stream *content);

@@ -82,10 +82,4 @@ std::int64_t revoked_in(const Node &list) {
   return quarn_asn1_component_count(entries.type_id, entries.value);
 }
 
-bool holds_content(const Node &node) {
-  return node.type_id == QUARN_ASN1_PKCS7CONTENTINFO ||
-         node.type_id == QUARN_ASN1_CMSENCAPSULATEDCONTENTINFO ||
-         node.type_id == QUARN_ASN1_CMSENCRYPTEDCONTENTINFO;
-}
-
 }  // namespace quarn::cli

@@ -37,9 +37,6 @@ std::vector<Brief> briefs_of(const Node &node);
 // Entries of a CertificateList.
 std::int64_t revoked_in(const Node &list);
 
-// Whether it is the component that the content of a message stands in.
-bool holds_content(const Node &node);
-
 class MessageText : public TextShow {
  public:
   MessageText(const Message &message, std::size_t width)

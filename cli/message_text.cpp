@@ -72,7 +72,7 @@ std::string MessageText::remark(const Node &node) const {
   if (depth() == 1 && node.type_id == QUARN_ASN1_PKCS7CONTENTINFO && message_.content_info) {
     text += " at " + range_text(*message_.content_info);
   }
-  if (depth() <= 1 && holds_content(node)) text += content_remark();
+  if (depth() <= 1 && holds_content(node.type_id)) text += content_remark();
   if (depth() == 1 && node.type_id == QUARN_ASN1_CMSSIGNERINFOS && message_.signer_infos) {
     text += " at " + range_text(*message_.signer_infos);
   }

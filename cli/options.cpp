@@ -188,9 +188,7 @@ std::vector<Command> reference_commands() {
        "Lists id, name, tag and error codes of the types, or of those whose name contains PATTERN "
        "or matches it when it has *, ? or [. Of a type whose id or whole name is given, the ASN.1, "
        "the standard, the places where it stands and its functions are shown too. Upper and lower "
-       "case are the same. A type marked * has its name and codes reserved and cannot be decoded "
-       "by "
-       "this version.",
+       "case are the same.",
        {Opt::json},
        {{"quarn types time", "types with time in their name"},
         {"quarn types Certificate", "what a certificate is made of"},

@@ -55,7 +55,7 @@ std::string table_head() {
 std::string table_line(std::int64_t id, const quarn_asn1_type_description &type) {
   return column(std::to_string(id), 3) + column(type.name, 34) + column(tag_text(type), 14) +
          column(form_text(type), 11) + column(code_text(type.error_code), 7) +
-         code_text(type.error_code + 1) + (type.supported == 1 ? "" : "  *") + "\n";
+         code_text(type.error_code + 1) + "\n";
 }
 
 // The members of an object, without its braces.

@@ -116,10 +116,6 @@ Status cannot_encode(const Type & /*type*/, Writer &out, void * /*value*/) {
   return kUnit.fail(out.ctx(), QUARN_ASN1_ERROR_CANNOT_ENCODE, out.offset());
 }
 
-Status cannot_encode_content(const Type &type, Writer &out, void *value, std::int64_t /*length*/) {
-  return cannot_encode(type, out, value);
-}
-
 Status cannot_decode(const Type & /*type*/, Reader &in, void **value) {
   if (value != nullptr) *value = nullptr;
   return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_CANNOT_DECODE, in.offset());
@@ -130,16 +126,7 @@ Status cannot_decode_content(
   return cannot_decode(type, in, value);
 }
 
-std::int64_t no_length(const Type & /*type*/, const void * /*value*/) {
-  return kNoLength;
-}
-
 void free_nothing(const Type & /*type*/, void * /*value*/) {}
-
-// Rows whose codec this version does not have yet.
-const Codec kUnsupportedCodec{
-    free_nothing,          no_length,     no_length,    cannot_encode_content,
-    cannot_decode_content, cannot_encode, cannot_decode};
 
 }  // namespace quarn::asn1
 
@@ -228,11 +215,9 @@ int quarn_asn1_decode_puterr(quarn_err_ctx *ctx, int64_t type_id, const char *fi
 int quarn_asn1_type_describe(int64_t type_id, quarn_asn1_type_description *description) {
   const Type *type = find_type(type_id);
   if (type == nullptr || description == nullptr) return 0;
-  const bool supported =
-      type->codec->decode_content != cannot_decode_content || type->codec->decode != cannot_decode;
   *description = {type->name,       type->tag_untold ? 0 : type->tag_number,
                   type->tag_class,  type->tag_untold ? -1 : type->form,
-                  type->error_code, supported ? 1 : 0};
+                  type->error_code, 1};
   return 1;
 }
 

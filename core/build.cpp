@@ -9,14 +9,10 @@ namespace quarn::asn1 {
 
 namespace {
 
-// Encoding a value for a copy may fill what it keeps.
-bool copy_into(const Type &type, const void *value, void **copy, int around = 0) {
-  return duplicate(type, const_cast<void *>(value), copy, nullptr, around).ok();
-}
-
-// What is built can be decoded, so that nothing nests deeper than a decoder goes.
+// What is built can be decoded, so that nothing nests deeper than a decoder goes: the copy stands
+// inside one value. Encoding the value for it may fill what the value keeps.
 bool copy_component(const Field &field, const void *value, void **copy) {
-  return copy_into(type_of(field.type()), value, copy, 1);
+  return duplicate(type_of(field.type()), const_cast<void *>(value), copy, nullptr, 1).ok();
 }
 
 bool are_enough(const Schema &schema, std::span<const void *const> parts) {

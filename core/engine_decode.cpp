@@ -111,9 +111,15 @@ class FirstComponents {
 
  private:
   Status descend() {
-    if (type_->schema == nullptr || type_->schema->is_list()) return stop();
-    for (const Field &field : type_->schema->fields) {
-      if (!type_->schema->is_choice()) return field.mandatory() ? enter(field) : stop();
+    const Schema *schema = type_->schema;
+    if (schema == nullptr || schema->is_list()) return stop();
+    if (schema->is_choice()) return choose(*schema);
+    return schema->fields[0].mandatory() ? enter(schema->fields[0]) : stop();
+  }
+
+  // Goes on with the alternative that is there.
+  Status choose(const Schema &schema) {
+    for (const Field &field : schema.fields) {
       if (!field_matches(field, identifier_)) continue;
       if (field.tagging == Tagging::explicitly) return enter(field);
       type_ = &type_of(field.type());

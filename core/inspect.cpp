@@ -35,7 +35,6 @@ bool is_any_list(const Type &type) {
 }
 
 int kind_of(const Type &type) {
-  if (type.codec == &kUnsupportedCodec) return QUARN_ASN1_KIND_UNKNOWN;
   if (type.codec == &kTimeCodec) return QUARN_ASN1_KIND_CHOICE;
   if (is_any_list(type)) return QUARN_ASN1_KIND_LIST;
   if (type.schema == nullptr) return QUARN_ASN1_KIND_PRIMITIVE;

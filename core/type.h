@@ -93,11 +93,9 @@ Status write_header(const Type &type, Writer &out, std::int64_t length);
 
 // Codecs of rows that cannot do something.
 Status cannot_encode(const Type &type, Writer &out, void *value);
-Status cannot_encode_content(const Type &type, Writer &out, void *value, std::int64_t length);
 Status cannot_decode(const Type &type, Reader &in, void **value);
 Status cannot_decode_content(
     const Type &type, Reader &in, void **value, bool primitive, std::int64_t length);
-std::int64_t no_length(const Type &type, const void *value);
 void free_nothing(const Type &type, void *value);
 
 // Owns a value of any type until it is released.

@@ -54,8 +54,7 @@ bool are_in_order(const void *value) {
 
 }  // namespace
 
-const Restriction kLdapAttribute{
-    .allows = is_not_empty, .code = QUARN_ASN1_ERROR_SIZE, .decode_only = true};
+const Restriction kLdapAttribute{.allows = is_not_empty, .code = QUARN_ASN1_ERROR_SIZE};
 const Restriction kLdapBindRequest{.allows = has_known_version, .code = QUARN_ERROR_RANGE};
 const Restriction kLdapSearchRequest{.allows = has_sound_limits, .code = QUARN_ERROR_RANGE};
 const Restriction kLdapMessage{.allows = has_sound_numbers, .code = QUARN_ERROR_RANGE};

@@ -58,8 +58,8 @@ class Halves {
 
   Status after_content() {
     Status status = ends(3);  // OCTET STRING, its tag, contentInfo
-    for (std::size_t i = kCertificates; status && i < kSignerInfos; i++) {
-      if (components_[i] != nullptr) status = tagged(i, i - kCertificates);
+    for (std::size_t i = kFirstOptional; status && i < kSignerInfos; i++) {
+      if (components_[i] != nullptr) status = tagged(i);
     }
     if (status) status = plain(kSignerInfos);
     return status ? ends(form_ == kStandsAlone ? 1 : 3) : status;
@@ -70,8 +70,6 @@ class Halves {
   static constexpr std::uint8_t kSequence = 0x30;
   static constexpr std::uint8_t kTag = 0xA0;
   static constexpr std::uint8_t kSegments = 0x24;
-
-  static constexpr std::size_t kCertificates = 3;
 
   Status begin(std::uint8_t identifier) {
     const std::uint8_t header[] = {identifier, 0x80};
@@ -107,11 +105,11 @@ class Halves {
     return named(field,
                  encode(type_of(field.type()), out_, component(components_[kContentInfo], 0)));
   }
-  Status tagged(std::size_t index, std::uint64_t tag) {
+  Status tagged(std::size_t index) {
     const Field &field = signed_data_schema().fields[index];
     const Type &type = type_of(field.type());
     const std::int64_t length = content_length_of(type, components_[index]);
-    Status status = write_identifier(out_, kContext, false, static_cast<std::int64_t>(tag));
+    Status status = write_identifier(out_, kContext, false, field.tag);
     if (status) status = write_length(out_, length);
     if (status) status = encode_content(type, out_, components_[index], length);
     return named(field, status);

@@ -144,10 +144,9 @@ class OnePass {
     if (status) status = component_whole(kContentInfo);
     mark(kContentInfoEnd);
     if (status) status = next_component();
-    // Certificates and revocation lists, in this order, if they are there.
-    for (const std::uint64_t tag : {0u, 1u}) {
-      if (!status || !next_is(kContext, false, tag)) continue;
-      status = component_content(kContentInfoEnd + tag);
+    for (std::size_t i = kFirstOptional; status && i < kSignerInfos; i++) {
+      if (!next_is(kContext, false, signed_data_schema().fields[i].tag)) continue;
+      status = component_content(i);
       if (status) status = next_component();
     }
     if (!status) return status;

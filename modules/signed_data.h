@@ -18,6 +18,9 @@ enum SignedDataPosition : std::uint8_t {
   kForm = 7  // what the message stood in, as callers have it; -1 when nobody has looked
 };
 
+// Of the components between the two: certificates and revocation lists, which may be absent.
+constexpr std::size_t kFirstOptional = kContentInfoEnd;
+
 // The form of a message that stands in nothing, and of one whose decoder has not looked.
 constexpr std::int64_t kStandsAlone = 1;
 

@@ -79,8 +79,8 @@ enum quarn_asn1_type_id {
 """)
     for row in registry():
         lines.append(f"  {row.constant} = {row.id},\n")
-    lines.append("""  QUARN_ASN1_TYPE_COUNT = 420 /**< ids are 0 to one less than this */
-};
+    lines.append(f"  QUARN_ASN1_TYPE_COUNT = {len(registry())} /**< ids are 0 to one less than this */\n")
+    lines.append("""};
 
 #ifdef __cplusplus
 }
@@ -131,8 +131,9 @@ def codec_reference(row):
     """The constants of a row's codec and of the schema that it goes by."""
     if row.id in described():
         return rows.registry_reference(*described()[row.id])
-    codec = "unsupported" if row.codec == "-" else row.codec
-    return "&k" + "".join(part.capitalize() for part in codec.split("_")) + "Codec, nullptr"
+    if row.codec == "-":
+        raise SystemExit(f"modules/registry.tsv: no definition is of row {row.id}, {row.name}")
+    return "&k" + "".join(part.capitalize() for part in row.codec.split("_")) + "Codec, nullptr"
 
 
 def registry_table():

@@ -6,7 +6,7 @@ set -eu
 
 packages="g++ cmake ninja-build pkg-config python3 rapidjson-dev libboost-dev libcli11-dev libgtest-dev
 googletest openssl libssl-dev gpgsm gpg-agent gnutls-bin ca-certificates jq tzdata
-python3-pyasn1-modules ldap-utils slapd"
+python3-pyasn1-modules ldap-utils slapd osslsigncode"
 case "${1:-}" in
   bench) packages="$packages libbenchmark-dev libmbedtls-dev libbotan-2-dev libtasn1-6-dev
 libtasn1-bin libgnutls28-dev libksba-dev heimdal-multidev" ;;

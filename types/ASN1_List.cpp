@@ -42,7 +42,7 @@ quarn_asn1_list *new_list(std::int32_t room) {
 // The room that content of a length calls for. No element is shorter than two octets.
 std::int32_t room_for(std::int64_t length) {
   if (length < 0) return kNear;
-  const std::int64_t few = std::min<std::int64_t>((length + 1) / 2, kNear);
+  const std::int64_t few = std::min<std::int64_t>(length / 2 + length % 2, kNear);
   return static_cast<std::int32_t>(
       std::clamp<std::int64_t>(length / kElementOctets, few, kMostNear));
 }

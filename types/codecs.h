@@ -7,7 +7,6 @@
 namespace quarn::asn1 {
 
 extern const Codec kEocCodec;              // core/ASN1_Lib.cpp
-extern const Codec kUnsupportedCodec;      // core/ASN1.cpp
 extern const Codec kBooleanCodec;          // ASN1_Boolean.cpp
 extern const Codec kIntegerCodec;          // ASN1_Integer.cpp; ENUMERATED too
 extern const Codec kNullCodec;             // ASN1_Null.cpp; writes 05 00 whatever the row's tag

@@ -4,9 +4,9 @@
  *
  * MESSAGE is a file in DER or BER, "-" the standard input. The content is digested while it goes by
  * and written to the file CONTENT, if that is given. Whoever reads once must know beforehand what
- * to digest with: -d, sha256 otherwise. The key is that of the signer's certificate, out of the
- * message or from -c. Whether to trust the certificate is a question that this program does not
- * ask.
+ * to digest with: -d, sha256 otherwise. The key is that of the signer's certificate: out of the
+ * message, when the signer names it by issuer and serial number, or from -c. Whether to trust the
+ * certificate is a question that this program does not ask.
  *
  * Exit status: 0 every signature is right, 1 one is not, 2 there is nothing to verify.
  */

@@ -133,7 +133,7 @@ typedef struct quarn_asn1_type_description {
   uint32_t tag_class;  /**< 0 universal, 0x40 application */
   int32_t form;        /**< 1 primitive, 0 constructed, -1 either */
   int error_code;      /**< recorded when encoding fails; decoding records the next code */
-  int supported;       /**< 1 when this version can decode values of the type */
+  int supported;       /**< 1 when values of the type can be decoded: of this version, always */
 } quarn_asn1_type_description;
 
 /** Describes a type id. */

@@ -160,7 +160,7 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_sm2cipher_getciphertext(const quarn
 
 /**
  * A key pair of SM2, its private key encrypted with a key that is encrypted in turn (GM/T 0009,
- * 7.4).
+ * 7.4). The layout is inferred from what public implementations write.
  *
  *     SM2EnvelopedKey ::= SEQUENCE {
  *         symAlgID                AlgorithmIdentifier,

@@ -11,7 +11,7 @@ extern "C" {
 
 /** What the values of a type look like. */
 enum quarn_asn1_kind {
-  QUARN_ASN1_KIND_UNKNOWN = 0,   /**< this version cannot decode values of the type */
+  QUARN_ASN1_KIND_UNKNOWN = 0,   /**< values cannot be decoded: of this version, no type */
   QUARN_ASN1_KIND_PRIMITIVE = 1, /**< no components: a universal type, or an ANY */
   QUARN_ASN1_KIND_RECORD = 2,    /**< SEQUENCE or SET: the components are those it is defined with,
                                       absent ones included */

@@ -37,11 +37,11 @@ typedef struct quarn_asn1_content_place {
  * Decodes a message as quarn_asn1_decode() does, but for its content, which the value does not
  * hold. The value is then that of a detached message: it has no content, and encodes without.
  *
- * What is content: of a ContentInfo, and of a DigestedData, either kind of SignedData, a PFX and an
- * Authenticode TimeStampRequest, which hold one, its content; of an EncapsulatedContentInfo and an
- * AuthenticatedData the eContent; of an EncryptedContentInfo, an EncryptedData, an EnvelopedData
- * and a SignedAndEnvelopedData the encryptedContent. Other types are refused with
- * QUARN_ERROR_ARGUMENT.
+ * What is content: of a ContentInfo, and of a DigestedData, either kind of SignedData, a PFX, an
+ * ArchiveTimeStamp and an Authenticode TimeStampRequest, which hold one, its content; of an
+ * EncapsulatedContentInfo and an AuthenticatedData the eContent; of an EncryptedContentInfo, an
+ * EncryptedData, an EnvelopedData and a SignedAndEnvelopedData the encryptedContent. Other types
+ * are refused with QUARN_ERROR_ARGUMENT.
  *
  * Unlike quarn_asn1_decode(), which takes any element for the content of a ContentInfo, this
  * refuses an OCTET STRING in segments that are not right.
@@ -83,7 +83,7 @@ QUARN_ASN1_API int quarn_asn1_decode_pkcs7signeddata_ex(quarn_stream *stream,
  * its end early, is a failure of the read that finds it. Freed with quarn_stream_free().
  *
  * @param source  a stream that can seek, which must outlive the new one; each read moves it
- * @param offset  from the start of source: the offset of a quarn_asn1_content_place, if the message
+ * @param offset  from the start of source; quarn_asn1_content_place tells it of a message there
  * @return null, with a record, when no element begins there
  */
 QUARN_ASN1_API quarn_stream *quarn_asn1_contentstream_new(quarn_stream *source,
@@ -101,7 +101,7 @@ QUARN_ASN1_API quarn_stream *quarn_asn1_contentstream_new(quarn_stream *source,
  * @param message  gives version, digest algorithms and type of the content; content that it may
  *                 have is not written
  * @param form     as of quarn_pkcs7signeddata_gettype(): 0 for a ContentInfo, 2 for one of SM2, 1
- *                 for a SignedData alone
+ *                 for a SignedData alone; another one is refused with QUARN_ERROR_ARGUMENT
  */
 QUARN_ASN1_API int quarn_asn1_encode_signeddata_init(quarn_stream *stream,
                                                      const quarn_pkcs7signeddata *message,

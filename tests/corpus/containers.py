@@ -1,5 +1,11 @@
-"""Keys, parameters, PKCS #12 files, OCSP and time-stamps that openssl makes; and what lies inside any object and an
-OBJECT IDENTIFIER tells the type of: extensions, attributes, parameters, contents."""
+"""Keys, parameters, PKCS #12 files, OCSP and time-stamps that openssl makes, programs that osslsigncode signs; and what
+lies inside any object and an OBJECT IDENTIFIER tells the type of: extensions, attributes, parameters, contents."""
+
+import base64
+import contextlib
+import socket
+import struct
+from concurrent.futures import ThreadPoolExecutor
 
 import der
 
@@ -88,9 +94,13 @@ BEHIND = {
     "1.2.840.113549.1.12.10.1.2": "pkcs8encprivatekeyinfo", "1.2.840.113549.1.12.10.1.3": "pkcs12certbag",
     "1.3.6.1.5.5.7.48.1.1": "ocsp_basicocspresponse", "1.2.840.113549.1.9.16.1.4": "tsp_tstinfo",
     "1.2.840.113549.1.9.16.2.12": "ess_signingcertificate", "1.2.840.113549.1.9.16.2.47": "ess_signingcertificatev2",
-    "1.2.840.113549.1.9.15": "smimecapabilities",
+    "1.2.840.113549.1.9.15": "smimecapabilities", "2.5.4.55": "ac_clearance", "2.5.4.72": "ac_rolesyntax",
+    "1.3.6.1.5.5.7.10.1": "ac_svceauthinfo", "1.3.6.1.5.5.7.10.2": "ac_svceauthinfo",
+    "1.3.6.1.4.1.311.2.1.4": "authenticode_spcindirectdatacontent",
+    "1.3.6.1.4.1.311.2.1.12": "authenticode_spcspopusinfo", "1.3.6.1.4.1.311.2.1.15": "authenticode_spcpeimagedata",
 }
 BEHIND = {der.oid(oid): kind for oid, kind in BEHIND.items()}
+OTHERS = [("pkcs5rc2cbcparameter", 2), ("ac_rolesyntax", 6)]  # a capability is a number, and types may be listed
 HOLDERS = (0x04, 0x31, 0xA0)  # an OCTET STRING, a SET of one value, an explicit tag
 
 
@@ -112,7 +122,7 @@ def inside(element):
         for held in [value] if value.identifier not in HOLDERS else elements(value.content):
             while held.identifier in HOLDERS and kind != "octetstring" and elements(held.content):
                 held = elements(held.content)[0]
-            if held.identifier == 0x30 or kind != "pkcs5rc2cbcparameter":  # a capability of RC2 is a number
+            if (kind, held.identifier) not in OTHERS:
                 yield kind, held.octets
     for part in parts:
         yield from inside(part)
@@ -128,6 +138,41 @@ def safes(file):
         if content.identifier == 4:
             yield "pkcs12safebags", content.content
             yield from (("pkcs12safebag", bag.octets) for bag in der.Element(content.content).parts())
+
+
+def program():
+    """A program of one section that returns."""
+    optional = struct.pack("<HBB9I6H4I2H6I", 0x10B, 0, 0, 512, 0, 0, 4096, 4096, 0, 0x400000, 4096, 512, 4, 0, 0, 0, 4,
+                           0, 0, 8192, 512, 0, 3, 0, 0, 0, 0, 0, 0, 16) + bytes(128)
+    headers = (b"MZ".ljust(60, b"\0") + struct.pack("<I4s2H3I2H", 64, b"PE", 0x14C, 1, 0, 0, 0, len(optional), 0x102)
+               + optional + struct.pack("<8s6I2HI", b".text", 512, 4096, 512, 512, 0, 0, 0, 0, 0x60000020))
+    return headers.ljust(512, b"\0") + b"\xc3".ljust(512, b"\0")
+
+
+def first_post(listening):
+    """The body of the first request, which gets no answer."""
+    with listening.accept()[0] as peer, peer.makefile("rb") as lines:
+        head = dict(line.lower().split(b": ") for line in iter(lines.readline, b"\r\n") if b": " in line)
+        return lines.read(int(head[b"content-length"]))
+
+
+def signed_programs(work):
+    """Type and octets of signatures, and of a request for a time-stamp."""
+    def sign(way):
+        der.run(*f"osslsigncode sign -certs ca_rsa.pem -key rsa.key -in program -out signed {way}".split(), cwd=work)
+    (work / "program").write_bytes(program())
+    for way in ("", "-n name -i http://a.test/ -ph", "-h sha1 -i http://a.test/"):
+        sign(way)
+        der.run(*"osslsigncode extract-signature -in signed -out signature".split(), cwd=work)
+        yield "pkcs7contentinfo", (work / "signature").read_bytes()
+        (work / "signed").unlink()
+        (work / "signature").unlink()
+    with socket.create_server(("127.0.0.1", 0)) as listening, ThreadPoolExecutor(1) as pool:
+        listening.settimeout(10)
+        request = pool.submit(first_post, listening)
+        with contextlib.suppress(RuntimeError):  # there is no time-stamp
+            sign(f"-t http://127.0.0.1:{listening.getsockname()[1]}/")
+        yield "authenticode_timestampreq", base64.b64decode(request.result())
 
 
 def prepare(work):
@@ -161,3 +206,7 @@ def made(work, refused):
         yield kind, octets
         if kind == "pkcs12pfx":
             yield from safes(der.Element(octets))
+    try:
+        yield from signed_programs(work)
+    except (RuntimeError, OSError) as error:
+        refused.append(f"no signed programs: {error}")

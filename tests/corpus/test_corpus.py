@@ -75,9 +75,12 @@ def leaves(value):
         yield {der.Element(der.integer(integer(value))).content.hex().upper()}
     else:
         digits = value.replace("-", "").replace("T", "").replace(":", "")
-        found = {text.encode(coding) for coding in ("utf-8", "utf-16-be") for text in (value, digits, digits[2:])}
+        found = {text.encode(coding) for coding in ("utf-8", "utf-16-be", "utf-32-be")
+                 for text in (value, digits, digits[2:])}
         with contextlib.suppress(ValueError):
             found.add(b"".join(ipaddress.ip_address(part).packed for part in value.split("/")))
+        if re.fullmatch(r"\d+(\.\d+)*", value):
+            found.add(der.Element(der.oid("1.2." + value)).content[1:])  # a relative identifier
         yield {octets.hex().upper() for octets in found} | {value.upper()}
 
 

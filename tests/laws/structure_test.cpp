@@ -1,8 +1,6 @@
 // What holds for every structured type, tried on the samples made from the notation.
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "core/build.h"
 #include "tests/laws/use.h"
 #include "tests/support/allocation.h"
@@ -10,27 +8,6 @@
 
 namespace quarn::test {
 namespace {
-
-// Ids of types that this version has, from and to; a type whose notation were lost would otherwise
-// go unnoticed.
-constexpr std::int64_t kStructured[][2] = {
-    {28, 89},   {91, 92},   {99, 215},  {217, 217}, {219, 224}, {245, 246},
-    {250, 250}, {252, 260}, {277, 293}, {299, 301}, {355, 355}, {401, 401},
-    {312, 322}, {324, 342}, {344, 348}, {350, 354}, {356, 400},
-};
-
-TEST(Structure, every_row_has_two_samples) {
-  std::map<std::int64_t, int> count;
-  for (const Vector &sample : structured_samples()) count[sample.type]++;
-  for (const auto &[from, to] : kStructured) {
-    for (std::int64_t id = from; id <= to; id++) EXPECT_GE(count[id], 2) << "type " << id;
-  }
-  for (std::int64_t id = 0; id < QUARN_ASN1_TYPE_COUNT; id++) {
-    if (asn1::find_type(id)->schema != nullptr) {
-      EXPECT_GE(count[id], 2) << "type " << id;
-    }
-  }
-}
 
 TEST(Structure, der_is_written_anew_as_it_was_read) {
   for_each(structured_samples(), [](const Vector &sample) {

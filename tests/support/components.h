@@ -10,7 +10,8 @@
 
 namespace quarn::test {
 
-// Whether a value and all that is in it holds what must be there. Every length is asked for too.
+// Whether a value and all that is in it holds what must be there, under names. Every length is
+// asked for too.
 inline bool is_whole(std::int64_t type, const void *value) {
   std::vector<std::pair<std::int64_t, const void *>> left{{type, value}};
   while (!left.empty()) {
@@ -23,6 +24,7 @@ inline bool is_whole(std::int64_t type, const void *value) {
     if (quarn_asn1_component_get(id, of, count, &part) != 0) return false;
     for (std::int64_t i = 0; i < count; i++) {
       if (quarn_asn1_component_get(id, of, i, &part) != 1) return false;
+      if (part.name == nullptr || part.name[0] == '\0') return false;
       if (part.value == nullptr && part.optional == 0) return false;
       if (part.value != nullptr) left.emplace_back(part.type_id, part.value);
     }

@@ -76,7 +76,7 @@ TEST(Inspect, every_type_has_a_name_and_what_it_cannot_show_is_nothing) {
     ASSERT_EQ(quarn_asn1_type_describe(id, &type), 1);
     ASSERT_EQ(quarn_asn1_type_shape(id, &shape), 1);
     EXPECT_STRNE(shape.name, "");
-    EXPECT_EQ(shape.kind != QUARN_ASN1_KIND_UNKNOWN, type.supported == 1) << type.name;
+    EXPECT_NE(shape.kind, QUARN_ASN1_KIND_UNKNOWN) << type.name;
     EXPECT_EQ(quarn_asn1_component_count(id, nullptr), 0);
   }
   EXPECT_EQ(quarn_asn1_type_shape(-1, &shape), 0);

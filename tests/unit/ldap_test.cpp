@@ -33,5 +33,13 @@ TEST(Ldap, operations_are_given_and_lent_by_number) {
   g.makes("a negative number", kType, make(negative, 2, nullptr), "");
 }
 
+TEST(Ldap, only_an_attribute_that_is_partial_may_have_no_value) {
+  Given g;
+  const Lent none = g(QUARN_ASN1_LDAPATTRIBUTEVALUES, "31 00");
+  g.makes("whole", QUARN_ASN1_LDAPATTRIBUTE, quarn_ldapattribute_new(g.octets(), none), "");
+  g.makes("partial", QUARN_ASN1_LDAPPARTIALATTRIBUTE,
+          quarn_ldappartialattribute_new(g.octets(), none), "30 05 04 01 41 31 00");
+}
+
 }  // namespace
 }  // namespace quarn::test

@@ -10,8 +10,7 @@ HEAD = """# Types
 
 Every ASN.1 type that the library names, by its id, and below, by source, what each is made of and the
 functions that are its own. A tag is written only where the row has one; CHOICEs and open types have none. The
-decode code is the encode code plus one. A type without a name in ASN.1 is a universal or an open type, or not
-in this version.
+decode code is the encode code plus one. A type without a name in ASN.1 is a universal or an open type.
 
 """
 STANDARD = re.compile(r"\(([^()]*\b(?:RFC|X\.|PKCS|GM/T|GB/T|EN|TS) ?#?\d[^()]*)\)")
@@ -38,8 +37,8 @@ class Catalogue:
 
     def page(self):
         lines = ["<!-- Generated from modules/registry.tsv and modules/*.asn1 by tools/generate.py; do not edit. -->\n",
-                 HEAD, "| id | constant | ASN.1 | standard | tag | form | encode code | in this version |\n",
-                 "|---|---|---|---|---|---|---|---|\n"]
+                 HEAD, "| id | constant | ASN.1 | standard | tag | form | encode code |\n",
+                 "|---|---|---|---|---|---|---|\n"]
         lines += [self.page_row(row) for row in self.registry]
         for module in self.modules:
             lines.append(f"\n## quarn_asn1/{module.header}.h\n\n{' '.join(module.head)}\n")
@@ -53,9 +52,7 @@ class Catalogue:
             definition = self.described[row.id][0]
             name = f"[{definition.name}](#{definition.name.lower()})"
             standard = self.standard(definition)
-        state = "no" if row.codec == "-" and not name else "yes"
-        return (f"| {row.id} | `{row.constant}` | {name} | {standard} | {tag} | {row.form} | `{row.code:#x}` "
-                f"| {state} |\n")
+        return f"| {row.id} | `{row.constant}` | {name} | {standard} | {tag} | {row.form} | `{row.code:#x}` |\n"
 
     @staticmethod
     def page_section(definition):
@@ -90,8 +87,9 @@ def components(definition, number):
     for component in definition.fields:
         tag = f"[{component.tag[0]}] {component.tag[1].upper()}" if component.tag else ""
         presence = {"mandatory": "", "optional": "OPTIONAL"}.get(component.presence, f"DEFAULT {component.default_text}")
-        name = "" if definition.is_list else component.name
-        lines.append(f"    {{{c_string(name)}, {component.row.id if component.row.inner else component.row.constant}, {c_string(tag)}, {c_string(presence)}}},\n")
+        row, name = component.row, "" if definition.is_list else component.name
+        parts = [c_string(name), str(row.id if row.inner else row.constant), c_string(tag), c_string(presence)]
+        lines.append("    {" + ", ".join(parts) + "},\n")
     return f"constexpr Component kComponents{number}[] = {{\n{''.join(lines)}}};\n"
 
 

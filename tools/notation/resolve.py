@@ -218,7 +218,7 @@ class Resolver:
         for word, kind in (("first", "choice"), ("strings", "choice"), ("tail", "record")):
             if word in notes and definition.kind != kind:
                 definition.fail(f"{word} is for a {KINDS[kind]}", definition.variants[0].line)
-        if notes.get("keep") in ("body", "positions") and definition.kind != "record":
+        if notes.get("keep") in ("body", "bodyalone", "positions") and definition.kind != "record":
             definition.fail(f"keep={notes['keep']} is for a SEQUENCE", definition.variants[0].line)
         if not fields:
             definition.fail(f"{definition.name} is empty")
