@@ -14,7 +14,6 @@ namespace quarn::cli {
 
 struct Guess {
   Decoded value;                     // null when nothing fits
-  std::int64_t named = -1;           // type that the label tells and this version cannot decode
   std::vector<std::int64_t> others;  // types that fit too
   std::vector<Tried> failed;         // types that do not, the nearest first
 };

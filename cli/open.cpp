@@ -68,9 +68,10 @@ const Opening *find_opening(Place place, std::string_view dotted) {
 
 std::vector<std::string> identifiers_of(std::int64_t type_id) {
   // In the order of Place.
-  constexpr const char *kPlaces[] = {"attribute", "bag",      "capability", "content",
-                                     "extension", "key",      "parameters", "private key",
-                                     "qualifier", "response", "statement"};
+  constexpr const char *kPlaces[] = {"attribute",   "bag",        "capability", "content",
+                                     "extension",   "key",        "other name", "parameters",
+                                     "private key", "qualifier",  "response",   "revocation",
+                                     "statement",   "validation", "want back"};
   std::vector<std::string> found;
   for (const PlacedOpening &row : kOpenings) {
     if (row.opening.type_id != type_id) continue;

@@ -21,11 +21,15 @@ enum class Place {
   content,
   extension,
   key,
+  other_name,
   parameters,
   private_key,
   qualifier,
   response,
-  statement
+  revocation,
+  statement,
+  validation,
+  want_back
 };
 
 // A record whose component number `value` has the type that the identifier in the first tells; a

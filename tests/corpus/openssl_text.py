@@ -99,7 +99,7 @@ def general_name(value, directory=with_slashes):
         return ("IP:" if "/" in content else "IP Address:") + "/".join(map(address, content.split("/")))
     if directory is on_one_line:
         return "othername:<unsupported>"
-    text = content["value"]["value"] if content["value"]["type"] in ("UTF8STRING", "IA5STRING") else "<unsupported>"
+    text = content["value"]["value"] if content["value"]["type"].upper() in ("UTF8STRING", "IA5STRING") else "<unsupported>"
     title = {"1.3.6.1.4.1.311.20.2.3": " UPN:"}.get(content["type-id"]["oid"], f" {long_name(content['type-id'])}:")
     return f"othername:{title}:{text}"
 

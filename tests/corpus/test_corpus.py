@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """What `quarn decode` shows of each file of the corpus, field by field, against what openssl says.
 
-Environment: QUARN is the command, QUARN_CORPUS the folder that make_corpus.py made.
+Environment: QUARN is the command, QUARN_CORPUS the folder that make_corpus.py made, QUARN_CONTAINERS that of containers.py.
 """
 
 import collections
@@ -19,11 +19,25 @@ from openssl_text import integer
 
 QUARN = os.environ.get("QUARN", "quarn")
 CORPUS = pathlib.Path(os.environ.get("QUARN_CORPUS", "corpus"))
+CONTAINERS = pathlib.Path(os.environ.get("QUARN_CONTAINERS", "containers"))
 STRINGS = ("PRINTABLESTRING", "UTF8STRING", "IA5STRING", "BMPSTRING", "NUMERICSTRING", "UNIVERSALSTRING")
 WIDE = {"BMPSTRING": 0x1E, "UNIVERSALSTRING": 0x1C}
 EXTENSION_REQUEST = "1.2.840.113549.1.9.14"
 UNKNOWN = ("1.2.840.113549.1.9.16.1.9", "1.2.840.113549.1.9.16.1.23")  # compressed and authenticated-enveloped data
 BODIES = {"x509pubkeycert": "tbsCertificate", "x509crl": "tbsCertList", "pkcs10certreq": "certificationRequestInfo"}
+
+# Types by the folders of the files that are to be known by their octets alone.
+TOLD = {
+    "x509pubkeycert": "Certificate", "x509crl": "CertificateList", "pkcs10certreq": "CertificationRequest",
+    "attributecertificate": "AttributeCertificate", "pkcs7contentinfo": "ContentInfo", "pkcs7signeddata": "SignedData",
+    "cmsenvelopeddata": "EnvelopedData", "ldapmessage": "LDAPMessage", "dssparams": "Dss-Parms", "dsssigvalue": "Dss-Sig-Value",
+    "ecdsasigvalue": "Dss-Sig-Value", "ecpkparameters": "EcpkParameters", "ecprivatekey": "ECPrivateKey",
+    "ocsp_basicocspresponse": "BasicOCSPResponse", "ocsp_ocsprequest": "OCSPRequest", "ocsp_ocspresponse": "OCSPResponse",
+    "pkcs12certbag": "CertBag", "pkcs12pfx": "PFX", "pkcs12safebag": "SafeBag", "pkcs1rsaprivkey": "RSAPrivateKey",
+    "pkcs1rsapubkey": "RSAPublicKey", "pkcs8encprivatekeyinfo": "EncryptedPrivateKeyInfo",
+    "pkcs8privatekeyinfo": "PrivateKeyInfo", "sm2cipher": "SM2Cipher", "tsp_timestampreq": "TimeStampReq",
+    "tsp_timestampresp": "TimeStampResp", "tsp_tstinfo": "TSTInfo",
+}
 
 
 def quarn(*arguments, data=""):
@@ -254,10 +268,21 @@ class Corpus(unittest.TestCase):
         counts = ", ".join(f"{count} {what}" for what, count in sorted(cls.counts.items()))
         print(f"corpus compared: {counts} in {time.monotonic() - cls.start:.1f} s")
 
-    def records(self, kind):
-        code, out, err = quarn("decode", "--lines", "--type", kind, "-r", CORPUS / kind)
+    def told(self, folder):
+        """The files of a folder, each known for what it is without its type and without doubt."""
+        code, out, err = quarn("decode", "--lines", "-r", folder)
         self.assertEqual((code, err), (0, ""), out[-2000:])
-        records = {f"{kind}/{os.path.basename(each['source'])}": each for each in map(json.loads, out.splitlines())}
+        found = [json.loads(line) for line in out.splitlines()]
+        self.assertEqual({each["type"] for each in found}, {TOLD[folder.name]}, folder)
+        return found
+
+    def test_types_are_told_by_sight(self):
+        told = [self.told(root / kind) for root in (CORPUS, CONTAINERS) for kind in TOLD if (root / kind).exists()]
+        self.assertGreater(len(told), len(TOLD))
+        self.counts["types told by sight"] += sum(map(len, told))
+
+    def records(self, kind):
+        records = {f"{kind}/{os.path.basename(each['source'])}": each for each in self.told(CORPUS / kind)}
         self.assertEqual(records.keys(), {name for name in self.facts if name.startswith(kind + "/")})
         return records
 

@@ -9,7 +9,7 @@ def tables(modules):
 
 
 def place_constant(place):
-    return "Place::" + {"private": "private_key"}.get(place, place)
+    return "Place::" + {"private": "private_key", "othername": "other_name", "wantback": "want_back"}.get(place, place)
 
 
 def array(name, kind, lines):
