@@ -42,11 +42,12 @@ Report report_of(const Decoded &tried, Octets octets) {
   report.expected = expected_of(tried.type_id(), tried.records());
   if (report.records.empty()) {
     report.found = tried.reason();
-    return report;
+  } else {
+    const std::int64_t offset = innermost(report.records).offset;
+    place_at(report, octets, static_cast<std::uint64_t>(std::max<std::int64_t>(offset, 0)));
   }
-  place_at(report, octets,
-           static_cast<std::uint64_t>(std::max<std::int64_t>(innermost(report.records).offset, 0)));
   if (!tried.path().empty()) report.path = tried.path();
+  if (tried.too_deep()) blame_depth(report);
   return report;
 }
 

@@ -39,7 +39,7 @@ bool decodable(std::int64_t type_id) {
 }
 
 std::string reason_of(const std::vector<Record> &records, const std::string &path) {
-  if (records.empty()) return "nested too deep";
+  if (records.empty()) return "unknown reason";
   const Record &first = innermost(records);
   const std::string place = first.offset < 0 ? "" : "offset " + std::to_string(first.offset) + ": ";
   return place + (path.empty() ? "" : path + ": ") + printable(first.message);
@@ -108,10 +108,12 @@ Decoded::Decoded(std::int64_t type_id, Octets octets) : type_id_(type_id) {
   const Stream stream(quarn_stream_new_romem(octets.data(), count, 0, ctx.get()));
   if (stream == nullptr) throw std::bad_alloc();
   std::uint64_t consumed = 0;
-  if (quarn_asn1_decode(stream.get(), type_id, &value_, &consumed, ctx.get()) != 1) {
+  const int result = quarn_asn1_decode(stream.get(), type_id, &value_, &consumed, ctx.get());
+  if (result != 1) {
     records_ = records_of(ctx.get());
     path_ = quarn_err_ctx_path(ctx.get());
-    reason_ = reason_of(records_, path_);
+    too_deep_ = result == QUARN_ERROR_RECURSION;
+    reason_ = too_deep_ ? "nested too deep" : reason_of(records_, path_);
   } else if (consumed != octets.size()) {
     reason_ = counted(octets.size() - consumed, "octet") + " after its end";
     quarn_asn1_value_free(type_id_, std::exchange(value_, nullptr));
@@ -122,6 +124,7 @@ Decoded::Decoded(Decoded &&other) noexcept
     : type_id_(other.type_id_),
       value_(std::exchange(other.value_, nullptr)),
       reason_(std::move(other.reason_)),
+      too_deep_(other.too_deep_),
       records_(std::move(other.records_)),
       path_(std::move(other.path_)) {}
 
@@ -129,6 +132,7 @@ Decoded &Decoded::operator=(Decoded &&other) noexcept {
   std::swap(type_id_, other.type_id_);
   std::swap(value_, other.value_);
   std::swap(reason_, other.reason_);
+  std::swap(too_deep_, other.too_deep_);
   std::swap(records_, other.records_);
   std::swap(path_, other.path_);
   return *this;

@@ -78,6 +78,8 @@ class Decoded {
   std::int64_t type_id() const { return type_id_; }
   void *get() const { return value_; }
   const std::string &reason() const { return reason_; }
+  // Whether it may be one, but has more inside one another than the library takes.
+  bool too_deep() const { return too_deep_; }
   const std::vector<Record> &records() const { return records_; }
   // "tbsCertificate.extensions[3].extnID", or nothing.
   const std::string &path() const { return path_; }
@@ -86,6 +88,7 @@ class Decoded {
   std::int64_t type_id_ = 0;
   void *value_ = nullptr;
   std::string reason_;
+  bool too_deep_ = false;
   std::vector<Record> records_;
   std::string path_;
 };

@@ -157,6 +157,8 @@ class Messages(Case):
                 (2, "did you mean '--content'?", "--contnt", "x"), (2, "no JSON", "--content", "-", "--json", "x"),
                 (3, "No such file", str(self.path / "none")), (3, "No space left", "--content", "/dev/full")]:
             self.check(Run("cms", *arguments, data=self.octets("signed")), code, said)
+        deep = message("06092a864886f70d010701", b"\x24\x80" * 200 + b"\0\0" * 200)
+        self.check(Run("cms", data=deep), 4, "found values nested too deep", "at most 128 inside one another")
 
     def test_a_large_message_through_a_pipe_needs_no_more_memory(self):
         octets, segment, memory = self.octets("pieces"), b"\x04\x82\xff\xff" + bytes(65535), []

@@ -181,6 +181,8 @@ class Types(Case):
         self.check(run, 1, "offset 2 (0x2): found INTEGER", "path      extnID",
                    "expected  OBJECT IDENTIFIER, in a value of Extension", "0x1020a")
         self.check(Run("decode", data=b"\x30\x05\x02\x01"), 1, "expected  at most 0 octets")
+        for name, level in [("ldapfilter", b"\xa2\x80"), ("octetstring", b"\x24\x80")]:
+            self.check(Run("decode", "-t", name, data=level * 200 + b"\0\0" * 200), 4, "found values nested too deep")
         run = Run("decode", "-t", "pkixnameconstaints", data=bytes.fromhex("3006a204800200aa"))
         self.check(run, 1, "offset 4 (0x4): found [0]", "a value of NameConstraints (pkixnameconstaints)", "0x102ce")
 
