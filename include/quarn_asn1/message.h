@@ -37,11 +37,11 @@ typedef struct quarn_asn1_content_place {
  * Decodes a message as quarn_asn1_decode() does, but for its content, which the value does not
  * hold. The value is then that of a detached message: it has no content, and encodes without.
  *
- * What is content: of a ContentInfo, and of a DigestedData, either kind of SignedData, a PFX and an
- * Authenticode TimeStampRequest, which hold one, its content; of an EncapsulatedContentInfo and an
- * AuthenticatedData the eContent; of an EncryptedContentInfo, an EncryptedData, an EnvelopedData
- * and a SignedAndEnvelopedData the encryptedContent. Other types are refused with
- * QUARN_ERROR_ARGUMENT.
+ * What is content: of a ContentInfo, and of a DigestedData, either kind of SignedData, a PFX, an
+ * ArchiveTimeStamp and an Authenticode TimeStampRequest, which hold one, its content; of an
+ * EncapsulatedContentInfo and an AuthenticatedData the eContent; of an EncryptedContentInfo, an
+ * EncryptedData, an EnvelopedData and a SignedAndEnvelopedData the encryptedContent. Other types
+ * are refused with QUARN_ERROR_ARGUMENT.
  *
  * Unlike quarn_asn1_decode(), which takes any element for the content of a ContentInfo, this
  * refuses an OCTET STRING in segments that are not right.
