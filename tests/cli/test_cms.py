@@ -5,8 +5,10 @@ import json
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
 import tempfile
+import time
 import unittest
 
 from test_quarn import QUARN, Case, Run
@@ -108,6 +110,24 @@ class Messages(Case):
             self.check(Run("cms", "--content", str(kept), data=octets), 1, "quarn cms: standard input: ")
             self.assertEqual(kept.read_text(encoding="ascii"), "before")
             self.assertEqual(sorted(os.listdir(self.path)), sorted((*CLEAR, "kept", "pem")))
+
+    def test_content_outlives_what_ends_the_output_and_no_part_of_it_what_ends_the_input(self):
+        signer = bytes.fromhex("301602010130053000020101300306012a300306012a0400")
+        parts = bytes.fromhex("0201013100301006092a864886f70d010701a003040141") + b"\x31\x82\xbb\x80" + signer * 2000
+        signed = self.file("m", message("06092a864886f70d010702", b"\x30\x82" + len(parts).to_bytes(2, "big") + parts))
+        for end in (">&-", "| head -1 >&2", "2>&- >/dev/full"):
+            out = self.path / "out"
+            subprocess.run(f"{QUARN} cms --content {out} {signed} {end}", shell=True, capture_output=True, check=False)
+            self.assertEqual(out.read_bytes(), b"A", end)
+            out.unlink()
+        with subprocess.Popen([QUARN, "cms", "--content", str(self.path / "out")], stdin=subprocess.PIPE) as command:
+            command.stdin.write(self.octets("pieces")[:170000])
+            command.stdin.flush()
+            while len(os.listdir(self.path)) < 2:
+                time.sleep(0.01)
+            command.terminate()
+            self.assertEqual(command.wait(), -signal.SIGTERM)
+        self.assertEqual(os.listdir(self.path), ["m"])
 
     def test_signers_and_recipients_are_named(self):
         run = Run("cms", data=self.octets("signed"))
