@@ -17,11 +17,6 @@ namespace {
 
 constexpr std::size_t kMostReasons = 6;
 
-bool supported(std::int64_t type_id) {
-  quarn_asn1_type_description type{};
-  return quarn_asn1_type_describe(type_id, &type) == 1 && type.supported == 1;
-}
-
 std::string registered_name(std::int64_t type_id) {
   quarn_asn1_type_description type{};
   return quarn_asn1_type_describe(type_id, &type) == 1 ? type.name : "";
@@ -100,7 +95,7 @@ UsageError no_such_type(const std::string &command, const std::string &name) {
   std::vector<std::string> names;
   for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
     names.push_back(registered_name(id));
-    if (supported(id)) names.push_back(notation_of(id));
+    names.push_back(notation_of(id));
   }
   const std::string near = nearest(name, names);
   return {command,
@@ -173,7 +168,7 @@ std::int64_t find_type(const std::string &name) {
     if (name == std::to_string(id) || same_word(name, registered_name(id))) return id;
   }
   for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
-    if (supported(id) && same_word(name, notation_of(id))) return id;
+    if (same_word(name, notation_of(id))) return id;
   }
   return -1;
 }
@@ -181,8 +176,7 @@ std::int64_t find_type(const std::string &name) {
 std::int64_t type_named(const std::string &command, const std::string &name) {
   const std::int64_t found = find_type(name);
   if (found < 0) throw no_such_type(command, name);
-  if (supported(found)) return found;
-  throw UsageError(command, "this version cannot decode the type " + in_quotes(name));
+  return found;
 }
 
 }  // namespace quarn::cli

@@ -39,7 +39,7 @@ Decoded decode_as(std::int64_t type_id, Octets octets);
 // UsageError, with a near name when there is one.
 std::int64_t type_named(const std::string &command, const std::string &name);
 
-// The same for any type, also one that this version cannot decode; -1 when there is none.
+// The same; -1 when there is none.
 std::int64_t find_type(const std::string &name);
 
 // "Certificate"

@@ -33,11 +33,6 @@ struct NamedComponent {
 
 #include "cli/gen/openings.inc"
 
-bool decodable(std::int64_t type_id) {
-  quarn_asn1_type_description type{};
-  return quarn_asn1_type_describe(type_id, &type) == 1 && type.supported == 1;
-}
-
 std::string reason_of(const std::vector<Record> &records, const std::string &path) {
   if (records.empty()) return "unknown reason";
   const Record &first = innermost(records);
@@ -63,19 +58,15 @@ const Opening *find_opening(Place place, std::string_view dotted) {
   const auto *found =
       std::lower_bound(std::begin(kOpenings), end, PlacedOpening{place, dotted, {}}, before);
   if (found == end || found->place != place || found->dotted != dotted) return nullptr;
-  return decodable(found->opening.type_id) ? &found->opening : nullptr;
+  return &found->opening;
 }
 
 std::vector<std::string> identifiers_of(std::int64_t type_id) {
-  // In the order of Place.
-  constexpr const char *kPlaces[] = {"attribute",   "bag",        "capability", "content",
-                                     "extension",   "key",        "other name", "parameters",
-                                     "private key", "qualifier",  "response",   "revocation",
-                                     "statement",   "validation", "want back"};
   std::vector<std::string> found;
   for (const PlacedOpening &row : kOpenings) {
     if (row.opening.type_id != type_id) continue;
-    found.push_back(kPlaces[static_cast<std::size_t>(row.place)] + (" " + std::string(row.dotted)));
+    found.push_back(kPlaceNames[static_cast<std::size_t>(row.place)] +
+                    (" " + std::string(row.dotted)));
   }
   return found;
 }

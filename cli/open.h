@@ -49,7 +49,7 @@ struct Opening {
   const char
       *names;  // of bits or numbers, from 0 on, separated by commas; null when they have none
 };
-// Null when the type is not known, or not decoded by this version.
+// Null when the type is not known.
 const Opening *find_opening(Place place, std::string_view dotted);
 
 // "extension 2.5.29.15" for each identifier that tells a type.
