@@ -90,8 +90,8 @@ int run_cms(const Arguments &arguments) {
     Cut cut(arguments);
     MessageInput input(path, !to_output);
     const Message message = read_from(input, cut);
-    show(message, arguments);
     cut.commit(message);
+    show(message, arguments);
   } catch (const Failure &failure) {
     return failed(failure);
   } catch (const std::bad_alloc &) {

@@ -187,6 +187,14 @@ const Record &innermost(const std::vector<Record> &records) {
                            [](const Record &a, const Record &b) { return a.offset < b.offset; });
 }
 
+void blame_depth(Report &report) {
+  const std::string most = std::to_string(quarn_get_recursive_level());
+  report.code = kLimit;
+  report.found = "values nested too deep";
+  report.expected = "at most " + most + " inside one another, a limit of the library";
+  report.records.clear();
+}
+
 void place_at(Report &report, Octets octets, std::uint64_t offset) {
   Walk walk(octets);
   while (walk.next() == Walk::Step::element) {

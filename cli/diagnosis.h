@@ -64,6 +64,8 @@ void add_window(Report &report, Octets octets, std::uint64_t before);
 // Puts the report at the element in which an offset of well-formed octets lies: its own offset and
 // path, and its tag as what was found.
 void place_at(Report &report, Octets octets, std::uint64_t offset);
+// Says that the limit of nesting is the fault, in place of what each level around it says.
+void blame_depth(Report &report);
 
 // Lines of text below the message, indented, without a last line end.
 std::string details(const Report &report);

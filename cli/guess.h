@@ -14,7 +14,6 @@ namespace quarn::cli {
 
 struct Guess {
   Decoded value;                     // null when nothing fits
-  std::int64_t named = -1;           // type that the label tells and this version cannot decode
   std::vector<std::int64_t> others;  // types that fit too
   std::vector<Tried> failed;         // types that do not, the nearest first
 };
@@ -40,7 +39,7 @@ Decoded decode_as(std::int64_t type_id, Octets octets);
 // UsageError, with a near name when there is one.
 std::int64_t type_named(const std::string &command, const std::string &name);
 
-// The same for any type, also one that this version cannot decode; -1 when there is none.
+// The same; -1 when there is none.
 std::int64_t find_type(const std::string &name);
 
 // "Certificate"

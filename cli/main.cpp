@@ -1,5 +1,7 @@
 // The `quarn` command: reads the command line, runs the sub-command, and turns every way in which
 // it can end into a message and an exit code.
+#include <fcntl.h>
+
 #include <csignal>
 #include <cstdio>
 #include <cstring>
@@ -62,6 +64,15 @@ int run_guarded(int argc, const char *const *argv) {
   }
 }
 
+// A file that is opened must not take the place of a standard stream that is closed: what goes to
+// the one would end up in the other. Reading and writing go on failing.
+void occupy_closed_streams() {
+  for (const int descriptor : {0, 1, 2}) {
+    if (::fcntl(descriptor, F_GETFD) >= 0) continue;
+    static_cast<void>(::open("/dev/null", descriptor == 0 ? O_WRONLY : O_RDONLY));
+  }
+}
+
 }  // namespace
 
 }  // namespace quarn::cli
@@ -70,6 +81,7 @@ int main(int argc, char **argv) {
   // Whoever closes a pipe that this command writes to wants it to end without a word, also when the
   // parent process ignores the signal.
   static_cast<void>(std::signal(SIGPIPE, SIG_DFL));
+  quarn::cli::occupy_closed_streams();
   try {
     return quarn::cli::run_guarded(argc, argv);
   } catch (const quarn::cli::NobodyReads &) {

@@ -79,7 +79,9 @@ constexpr const char *kMemory =
     "the nesting, and so does `check` where it knows no type. Nesting may be of any depth, but "
     "`json` takes fewer than 128 elements of "
     "indefinite "
-    "length directly inside one another. Links to directories are not followed with `--recursive`.";
+    "length directly inside one another, and `decode` and `cms` take 128 values inside one "
+    "another, "
+    "segments of strings among them. Links to directories are not followed with `--recursive`.";
 
 }  // namespace
 

@@ -43,7 +43,7 @@ class Reading {
   void decode(quarn_stream *content);
   void note_places(const quarn_asn1_content_place &place);
   void close(const Frame &frame);
-  [[noreturn]] void fail(const quarn_err_ctx *ctx);
+  [[noreturn]] void fail(int result, const quarn_err_ctx *ctx);
   [[noreturn]] void refuse(const Frame &found, const std::string &expected);
   [[noreturn]] void refuse(Report report);
 
@@ -151,12 +151,12 @@ void Reading::decode(quarn_stream *content) {
   const int result = quarn_asn1_decode_message(stream_, type_id, content, &value, &place,
                                                &message_.length, ctx.get());
   message_.value = std::unique_ptr<void, FreeValue>(value, FreeValue{message_.type_id});
-  if (result != 1) fail(ctx.get());
+  if (result != 1) fail(result, ctx.get());
   note_places(place);
 }
 
 // Why the value could not be decoded.
-void Reading::fail(const quarn_err_ctx *ctx) {
+void Reading::fail(int result, const quarn_err_ctx *ctx) {
   input_.rethrow();
   const MessageInput::Held held = input_.held();
   if (held.whole && !well_formed(held.octets)) throw diagnose(held.octets, "no message");
@@ -177,6 +177,7 @@ void Reading::fail(const quarn_err_ctx *ctx) {
   if (held.offset == 0) place_at(report, held.octets, report.offset);
   const std::string path = quarn_err_ctx_path(ctx);
   if (!path.empty()) report.path = path;
+  if (result == QUARN_ERROR_RECURSION) blame_depth(report);
   refuse(std::move(report));
 }
 

@@ -33,13 +33,8 @@ struct NamedComponent {
 
 #include "cli/gen/openings.inc"
 
-bool decodable(std::int64_t type_id) {
-  quarn_asn1_type_description type{};
-  return quarn_asn1_type_describe(type_id, &type) == 1 && type.supported == 1;
-}
-
 std::string reason_of(const std::vector<Record> &records, const std::string &path) {
-  if (records.empty()) return "nested too deep";
+  if (records.empty()) return "unknown reason";
   const Record &first = innermost(records);
   const std::string place = first.offset < 0 ? "" : "offset " + std::to_string(first.offset) + ": ";
   return place + (path.empty() ? "" : path + ": ") + printable(first.message);
@@ -63,18 +58,15 @@ const Opening *find_opening(Place place, std::string_view dotted) {
   const auto *found =
       std::lower_bound(std::begin(kOpenings), end, PlacedOpening{place, dotted, {}}, before);
   if (found == end || found->place != place || found->dotted != dotted) return nullptr;
-  return decodable(found->opening.type_id) ? &found->opening : nullptr;
+  return &found->opening;
 }
 
 std::vector<std::string> identifiers_of(std::int64_t type_id) {
-  // In the order of Place.
-  constexpr const char *kPlaces[] = {"attribute", "bag",      "capability", "content",
-                                     "extension", "key",      "parameters", "private key",
-                                     "qualifier", "response", "statement"};
   std::vector<std::string> found;
   for (const PlacedOpening &row : kOpenings) {
     if (row.opening.type_id != type_id) continue;
-    found.push_back(kPlaces[static_cast<std::size_t>(row.place)] + (" " + std::string(row.dotted)));
+    found.push_back(kPlaceNames[static_cast<std::size_t>(row.place)] +
+                    (" " + std::string(row.dotted)));
   }
   return found;
 }
@@ -107,10 +99,12 @@ Decoded::Decoded(std::int64_t type_id, Octets octets) : type_id_(type_id) {
   const Stream stream(quarn_stream_new_romem(octets.data(), count, 0, ctx.get()));
   if (stream == nullptr) throw std::bad_alloc();
   std::uint64_t consumed = 0;
-  if (quarn_asn1_decode(stream.get(), type_id, &value_, &consumed, ctx.get()) != 1) {
+  const int result = quarn_asn1_decode(stream.get(), type_id, &value_, &consumed, ctx.get());
+  if (result != 1) {
     records_ = records_of(ctx.get());
     path_ = quarn_err_ctx_path(ctx.get());
-    reason_ = reason_of(records_, path_);
+    too_deep_ = result == QUARN_ERROR_RECURSION;
+    reason_ = too_deep_ ? "nested too deep" : reason_of(records_, path_);
   } else if (consumed != octets.size()) {
     reason_ = counted(octets.size() - consumed, "octet") + " after its end";
     quarn_asn1_value_free(type_id_, std::exchange(value_, nullptr));
@@ -121,6 +115,7 @@ Decoded::Decoded(Decoded &&other) noexcept
     : type_id_(other.type_id_),
       value_(std::exchange(other.value_, nullptr)),
       reason_(std::move(other.reason_)),
+      too_deep_(other.too_deep_),
       records_(std::move(other.records_)),
       path_(std::move(other.path_)) {}
 
@@ -128,6 +123,7 @@ Decoded &Decoded::operator=(Decoded &&other) noexcept {
   std::swap(type_id_, other.type_id_);
   std::swap(value_, other.value_);
   std::swap(reason_, other.reason_);
+  std::swap(too_deep_, other.too_deep_);
   std::swap(records_, other.records_);
   std::swap(path_, other.path_);
   return *this;

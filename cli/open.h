@@ -21,11 +21,15 @@ enum class Place {
   content,
   extension,
   key,
+  other_name,
   parameters,
   private_key,
   qualifier,
   response,
-  statement
+  revocation,
+  statement,
+  validation,
+  want_back
 };
 
 // A record whose component number `value` has the type that the identifier in the first tells; a
@@ -45,7 +49,7 @@ struct Opening {
   const char
       *names;  // of bits or numbers, from 0 on, separated by commas; null when they have none
 };
-// Null when the type is not known, or not decoded by this version.
+// Null when the type is not known.
 const Opening *find_opening(Place place, std::string_view dotted);
 
 // "extension 2.5.29.15" for each identifier that tells a type.
@@ -74,6 +78,8 @@ class Decoded {
   std::int64_t type_id() const { return type_id_; }
   void *get() const { return value_; }
   const std::string &reason() const { return reason_; }
+  // Whether it may be one, but has more inside one another than the library takes.
+  bool too_deep() const { return too_deep_; }
   const std::vector<Record> &records() const { return records_; }
   // "tbsCertificate.extensions[3].extnID", or nothing.
   const std::string &path() const { return path_; }
@@ -82,6 +88,7 @@ class Decoded {
   std::int64_t type_id_ = 0;
   void *value_ = nullptr;
   std::string reason_;
+  bool too_deep_ = false;
   std::vector<Record> records_;
   std::string path_;
 };

@@ -6,12 +6,39 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
 
 #include "cli/text.h"
 
 namespace quarn::cli {
+
+namespace {
+
+// The path of the file that is not complete yet, for when a signal ends the command.
+char unfinished[PATH_MAX];
+
+void remove_and_end(int number) {
+  ::unlink(unfinished);
+  static_cast<void>(std::raise(number));
+}
+
+// A signal that the parent process ignores stays ignored.
+void remove_on_signals(const std::string &path) {
+  if (path.size() >= sizeof unfinished) return;
+  std::strcpy(unfinished, path.c_str());
+  for (const int number : {SIGHUP, SIGINT, SIGPIPE, SIGTERM}) {
+    struct sigaction action {};
+    if (::sigaction(number, nullptr, &action) != 0 || action.sa_handler == SIG_IGN) continue;
+    action.sa_handler = remove_and_end;
+    action.sa_flags = static_cast<int>(SA_RESETHAND);
+    static_cast<void>(::sigaction(number, &action, nullptr));
+  }
+}
+
+}  // namespace
 
 Failure OutputFile::failure(const char *what) const {
   return {kFile, printable(path_) + ": " + what + ": " + std::strerror(errno)};
@@ -29,6 +56,7 @@ OutputFile::OutputFile(std::string path) : path_(std::move(path)) {
     std::free(real);
     temporary_ = path_ + ".XXXXXX";
     descriptor_ = ::mkostemp(temporary_.data(), O_CLOEXEC);
+    if (descriptor_ >= 0) remove_on_signals(temporary_);
     const mode_t mask = ::umask(0);
     ::umask(mask);
     const mode_t mode = exists ? status.st_mode & 07777 : 0666 & ~mask;

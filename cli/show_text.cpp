@@ -38,7 +38,8 @@ std::string trouble_text(const Node &node) {
 }
 
 std::string alternatives_text(const Node &node) {
-  std::string text;
+  const bool top = node.label.empty() && node.choice != nullptr;
+  std::string text = top ? painted(Paint::tag, node.choice) + " " : "";
   for (const char *alternative : node.alternatives) {
     text += painted(Paint::name, alternative) + ": ";
   }

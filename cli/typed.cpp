@@ -45,7 +45,10 @@ void resolve(Node &node) {
     const bool strings = node.shape.kind == QUARN_ASN1_KIND_STRINGS;
     if (!strings && node.shape.kind != QUARN_ASN1_KIND_CHOICE) return;
     const quarn_asn1_component chosen = component_of(node, 0);
-    if (!strings && node.type_id != QUARN_ASN1_TIME) node.alternatives.push_back(chosen.name);
+    if (!strings && node.type_id != QUARN_ASN1_TIME) {
+      if (node.alternatives.empty()) node.choice = node.shape.name;
+      node.alternatives.push_back(chosen.name);
+    }
     note_tag(node.holder < 0 ? node.tags : node.held_tags, chosen);
     node.type_id = chosen.type_id;
     node.value = chosen.value;
@@ -101,16 +104,30 @@ void Walker::unwrap(Level &level) {
   resolve(node);
 }
 
+// Whether what an identifier tells is no more than the string itself: data of a message.
+bool is_data(const Opening &opening, Place place) {
+  return place == Place::content && opening.type_id == QUARN_ASN1_OCTETSTRING;
+}
+
+// Whether an ANY may have an OCTET STRING around the value. Those of messages do: PKCS #7 has the
+// value there, CMS has it in a string.
+bool may_be_wrapped(const Opening &opening, Place place) {
+  return opening.contained || (place == Place::content && !is_data(opening, place));
+}
+
 // Puts what the string or ANY of a level holds in its place.
 void Walker::open(Level &level, const Level &parent) {
   Node &node = level.node;
+  const Place place = parent.record->place;
   const Opening *opening = opening_in(parent);
-  if (opening != nullptr && opening->contained && node.shape.base == QUARN_ASN1_ANY) unwrap(level);
+  const bool any = node.shape.base == QUARN_ASN1_ANY;
+  if (opening != nullptr && any && may_be_wrapped(*opening, place)) unwrap(level);
   const std::int64_t holder = node.shape.base;
   if (holder != QUARN_ASN1_ANY && holder != QUARN_ASN1_OCTETSTRING &&
       holder != QUARN_ASN1_BITSTRING) {
     return;
   }
+  if (opening != nullptr && !any && is_data(*opening, place)) return;
   node.place = true;
   if (opening == nullptr) return;
   level.octets = octets_of(node.type_id, node.value);

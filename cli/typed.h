@@ -44,7 +44,8 @@ struct Node {
 
   // Names of the alternatives that lead to the value, outermost first.
   std::vector<const char *> alternatives;
-  const char *names = nullptr;  // of its bits or numbers
+  const char *choice = nullptr;  // the type that the first of them is of
+  const char *names = nullptr;   // of its bits or numbers
   // Before its content, outermost first; of what was opened, those of the string or ANY.
   std::vector<ContextTag> tags;
 

@@ -64,8 +64,7 @@ std::string json_line(std::int64_t id, const quarn_asn1_type_description &type) 
          ",\"class\":" + (type.tag_class == 0x40 ? "\"APPLICATION\"" : "\"UNIVERSAL\"") +
          ",\"tag\":" + std::to_string(type.tag_number) + ",\"form\":\"" + form_text(type) +
          "\",\"encode_code\":\"" + code_text(type.error_code) + "\",\"decode_code\":\"" +
-         code_text(type.error_code + 1) +
-         "\",\"supported\":" + (type.supported == 1 ? "true" : "false");
+         code_text(type.error_code + 1) + "\"";
 }
 
 quarn_asn1_type_description description_of(std::int64_t id) {

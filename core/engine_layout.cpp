@@ -55,6 +55,7 @@ Status lay_out(const Type &type, Reader &in, void *value) {
   Value view(layout);
   const Trial trial;
   Reader octets(scratch.data(), scratch.size(), trial.ctx());
+  octets.nest_in(in);
   status = read_view(layout, octets, view.out());
   if (status.raw() == QUARN_ERROR_RECURSION) return status;
   if (!status && trial.short_of_memory()) {

@@ -113,6 +113,12 @@ class Reader {
     return depth_ >= limit_;
   }
 
+  // Counts nesting from where another Reader is.
+  void nest_in(const Reader &outer) {
+    depth_ = outer.depth_;
+    limit_ = outer.limit_;
+  }
+
   // Gives the stream its position back, so that others can read on from it; resume() then goes on
   // from wherever the stream is.
   void settle();

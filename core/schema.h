@@ -91,6 +91,8 @@ enum class Keep : std::uint8_t {
   body         // a signed object, a record: its whole encoding, and that of the first component
 };
 
+struct Diversion;
+
 // A condition on the values of a type beyond its components. Decoding refuses a value that does not
 // meet it, and so do constructors, encoding and measuring, as the type will have it.
 struct Restriction {
@@ -99,6 +101,8 @@ struct Restriction {
   bool general_text = false;  // with the general errors' text for the code, not with this library's
   bool in_length = false;     // a value that is refused has no length either
   bool decode_only = false;   // neither constructors nor encoding ask
+  // allows, of content that a value was decoded apart from; null when it may be anything.
+  bool (*allows_apart)(const Diversion &content) = nullptr;
 };
 
 struct Schema {

@@ -4,6 +4,7 @@
 #include "modules/signed_data.h"
 #include "quarn_asn1/cms.h"
 #include "types/any.h"
+#include "types/diversion.h"
 
 namespace quarn::asn1 {
 
@@ -22,6 +23,10 @@ bool signs_octets(const void *value) {
       static_cast<const quarn_asn1_any *>(component(component(value, kContentInfo), kContent));
   return content == nullptr ||
          (content->tag_class == kUniversal && content->tag_number == kOctetString);
+}
+
+bool lay_in_octets(const Diversion &content) {
+  return content.offset < 0 || content.is_octets();
 }
 
 // Of a message of size octets: its positions, which count from the content on, count from its first
@@ -50,7 +55,8 @@ Status decode_signed_data(const Type &type, Reader &in, void **value) {
 
 }  // namespace
 
-const Restriction kCmsSignedData{.allows = signs_octets, .code = 0x10355, .decode_only = true};
+const Restriction kCmsSignedData{
+    .allows = signs_octets, .code = 0x10355, .decode_only = true, .allows_apart = lay_in_octets};
 
 constexpr Codec signed_data_codec() {
   Codec codec = record_codec();

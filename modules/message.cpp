@@ -21,10 +21,11 @@ bool has_content(const Type &type, bool deep) {
   return false;
 }
 
-// CMS signs the octets of an OCTET STRING. The value cannot tell any more what it was.
-bool signs_something_else(const Type &type, const Diversion &diversion) {
-  return &type == &type_of(QUARN_ASN1_CMSSIGNEDDATA) && diversion.offset >= 0 &&
-         !diversion.is_octets();
+// The value cannot tell any more what the content was.
+bool allowed_apart(const Schema &schema, const Diversion &content) {
+  const Restriction *restriction = schema.restriction;
+  return restriction == nullptr || restriction->allows_apart == nullptr ||
+         restriction->allows_apart(content);
 }
 
 Status decode_apart(const Type &type, Reader &in, Diversion &diversion, void **value) {
@@ -32,7 +33,7 @@ Status decode_apart(const Type &type, Reader &in, Diversion &diversion, void **v
   Value message(type);
   const Status status = decode(type, in, message.out());
   if (!status) return status;
-  if (signs_something_else(type, diversion)) return refuse(*type.schema, in.ctx(), in.offset());
+  if (!allowed_apart(*type.schema, diversion)) return refuse(*type.schema, in.ctx(), in.offset());
   *value = message.release();
   return status;
 }
@@ -130,7 +131,7 @@ int write_half(quarn_stream *stream,
                std::int32_t form,
                quarn_err_ctx *ctx,
                Status (Halves::*half)()) {
-  if (stream == nullptr || message == nullptr || form < 0 || form > 2) {
+  if (stream == nullptr || message == nullptr || !is_form(form)) {
     return kUnit.fail(ctx, QUARN_ERROR_ARGUMENT).raw();
   }
   return writing(stream, nullptr, ctx, [=](Writer &out) {

@@ -30,6 +30,12 @@ constexpr struct {
   const char *oid;
 } kForms[] = {{0, "1.2.840.113549.1.7.2"}, {2, "1.2.156.10197.6.1.4.2.2"}};
 
+inline bool is_form(std::int64_t form) {
+  bool known = form == kStandsAlone;
+  for (const auto &each : kForms) known = known || form == each.form;
+  return known;
+}
+
 inline const Schema &signed_data_schema() {
   return *type_of(QUARN_ASN1_PKCS7SIGNEDDATA).schema;
 }

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "core/adapter.h"
+#include "core/checked.h"
 #include "quarn_asn1/message.h"
 #include "types/any.h"
 #include "types/string.h"
@@ -95,8 +96,13 @@ class ContentStream {
 
   Status open(std::int64_t length) {
     if (depth_ == deepest_) return Status::too_deep();
-    ends()[depth_++] =
-        length == kIndefinite ? kIndefiniteEnd : position_ + static_cast<std::uint64_t>(length);
+    std::uint64_t end = position_;
+    if (length == kIndefinite) {
+      end = kIndefiniteEnd;
+    } else if (!add_to(end, static_cast<std::uint64_t>(length))) {
+      return Status::failure();
+    }
+    ends()[depth_++] = end;
     return Status::success();
   }
 

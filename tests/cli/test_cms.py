@@ -5,8 +5,10 @@ import json
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
 import tempfile
+import time
 import unittest
 
 from test_quarn import QUARN, Case, Run
@@ -109,6 +111,24 @@ class Messages(Case):
             self.assertEqual(kept.read_text(encoding="ascii"), "before")
             self.assertEqual(sorted(os.listdir(self.path)), sorted((*CLEAR, "kept", "pem")))
 
+    def test_content_outlives_what_ends_the_output_and_no_part_of_it_what_ends_the_input(self):
+        signer = bytes.fromhex("301602010130053000020101300306012a300306012a0400")
+        parts = bytes.fromhex("0201013100301006092a864886f70d010701a003040141") + b"\x31\x82\xbb\x80" + signer * 2000
+        signed = self.file("m", message("06092a864886f70d010702", b"\x30\x82" + len(parts).to_bytes(2, "big") + parts))
+        for end in (">&-", "| head -1 >&2", "2>&- >/dev/full"):
+            out = self.path / "out"
+            subprocess.run(f"{QUARN} cms --content {out} {signed} {end}", shell=True, capture_output=True, check=False)
+            self.assertEqual(out.read_bytes(), b"A", end)
+            out.unlink()
+        with subprocess.Popen([QUARN, "cms", "--content", str(self.path / "out")], stdin=subprocess.PIPE) as command:
+            command.stdin.write(self.octets("pieces")[:170000])
+            command.stdin.flush()
+            while len(os.listdir(self.path)) < 2:
+                time.sleep(0.01)
+            command.terminate()
+            self.assertEqual(command.wait(), -signal.SIGTERM)
+        self.assertEqual(os.listdir(self.path), ["m"])
+
     def test_signers_and_recipients_are_named(self):
         run = Run("cms", data=self.octets("signed"))
         for line in SIGNED_LINES:
@@ -157,6 +177,8 @@ class Messages(Case):
                 (2, "did you mean '--content'?", "--contnt", "x"), (2, "no JSON", "--content", "-", "--json", "x"),
                 (3, "No such file", str(self.path / "none")), (3, "No space left", "--content", "/dev/full")]:
             self.check(Run("cms", *arguments, data=self.octets("signed")), code, said)
+        deep = message("06092a864886f70d010701", b"\x24\x80" * 200 + b"\0\0" * 200)
+        self.check(Run("cms", data=deep), 4, "found values nested too deep", "at most 128 inside one another")
 
     def test_a_large_message_through_a_pipe_needs_no_more_memory(self):
         octets, segment, memory = self.octets("pieces"), b"\x04\x82\xff\xff" + bytes(65535), []

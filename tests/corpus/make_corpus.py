@@ -287,17 +287,17 @@ class Maker:
 
     def others(self):
         """What openssl can neither write nor sign, by other encoders; keys and containers; what is inside them all."""
-        found = list(containers.made(self.work, self.refused))
+        found = [("other", *pair) for pair in containers.made(self.work, self.refused)]
         try:
-            found += pyasn1_made.made()
+            found += [("made", *pair) for pair in pyasn1_made.made()]
         except ImportError as error:
             self.refused.append(f"no values by pyasn1: {error}")
         whole = [octets for kind in TYPES for path in (self.folder / kind).glob("*.der")
-                 if (octets := path.read_bytes())[1:2] != b"\x80"] + [octets for _, octets in found]
-        found += [pair for octets in whole if octets for pair in containers.inside(der.Element(octets))]
-        for number, (kind, octets) in enumerate(dict.fromkeys(found)):
+                 if (octets := path.read_bytes())[1:2] != b"\x80"] + [octets for *_, octets in found]
+        found += [("other", *pair) for octets in whole if octets for pair in containers.inside(der.Element(octets))]
+        for number, (origin, kind, octets) in enumerate(dict.fromkeys(found)):
             (self.folder / kind).mkdir(exist_ok=True)
-            (self.folder / kind / f"other{number}.der").write_bytes(octets)
+            (self.folder / kind / f"{origin}{number}.der").write_bytes(octets)
 
     def make(self, source):
         self.section("req", "distinguished_name = person")

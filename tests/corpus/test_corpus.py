@@ -27,6 +27,20 @@ CORPUS = pathlib.Path(os.environ.get("QUARN_CORPUS", "corpus"))
 WIDE = {"BMPSTRING": 0x1E, "UNIVERSALSTRING": 0x1C}
 RFCS = [5280, 2986, 5652, 5755, 4055, 3279, 5083, 2634, 5035, 5751, 5208, 7292, 8017, 8018, 6960, 3161]
 
+# Types by the folders of the files that are to be known by their octets alone.
+TOLD = {
+    "x509pubkeycert": "Certificate", "x509crl": "CertificateList", "pkcs10certreq": "CertificationRequest",
+    "attributecertificate": "AttributeCertificate", "pkcs7contentinfo": "ContentInfo", "pkcs7signeddata": "SignedData",
+    "cmsenvelopeddata": "EnvelopedData", "ldapmessage": "LDAPMessage", "dssparams": "Dss-Parms",
+    "dsssigvalue": "Dss-Sig-Value", "ecdsasigvalue": "Dss-Sig-Value", "ecprivatekey": "ECPrivateKey",
+    "ocsp_basicocspresponse": "BasicOCSPResponse", "ocsp_ocsprequest": "OCSPRequest",
+    "ocsp_ocspresponse": "OCSPResponse", "pkcs12certbag": "CertBag", "pkcs12pfx": "PFX", "pkcs12safebag": "SafeBag",
+    "pkcs1rsaprivkey": "RSAPrivateKey", "pkcs1rsapubkey": "RSAPublicKey",
+    "pkcs8encprivatekeyinfo": "EncryptedPrivateKeyInfo", "pkcs8privatekeyinfo": "PrivateKeyInfo",
+    "sm2cipher": "SM2Cipher", "tsp_timestampreq": "TimeStampReq", "tsp_timestampresp": "TimeStampResp",
+    "tsp_tstinfo": "TSTInfo",
+}
+
 
 def quarn(*arguments, data=""):
     done = subprocess.run([QUARN, *map(str, arguments)], input=data.encode(), capture_output=True, timeout=300,
@@ -198,6 +212,15 @@ class Corpus(unittest.TestCase):
         records = {f"{kind}/{os.path.basename(each['source'])}": each for each in map(json.loads, out.splitlines())}
         self.assertEqual(records.keys(), {name for name in self.facts if name.startswith(kind + "/")})
         return records
+
+    def test_types_are_told_by_sight(self):
+        """Each file is known for what it is without its type and without doubt; not those with values of no sense."""
+        for kind, name in TOLD.items():
+            files = [path for path in (CORPUS / kind).glob("*.der") if not path.name.startswith("made")]
+            code, out, err = quarn("decode", "--lines", *files)
+            self.assertEqual((code, err), (0, ""), out[-2000:])
+            self.assertEqual({json.loads(line)["type"] for line in out.splitlines()}, {name}, kind)
+            self.counts["types told by sight"] += len(files)
 
     def test_values_and_their_names(self):
         for kind in sorted({name.split("/")[0] for name in self.facts}):

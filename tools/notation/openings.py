@@ -1,15 +1,30 @@
 """What object identifiers tell about the octets beside them, and what numbers and bits are called: tables for people."""
 
 from .layout import c_string
+from .parser import PLACES
 
 
 def tables(modules):
     definitions = [definition for module in modules for definition in module.definitions]
-    return "\n".join([open_records(definitions), objects(modules), data(definitions), named(definitions)])
+    return "\n".join([place_names(), open_records(definitions), objects(modules), data(definitions), named(definitions)])
+
+
+LONG_NAMES = {"private": "private key", "othername": "other name", "wantback": "want back"}
+
+
+def place_name(place):
+    return LONG_NAMES.get(place, place)
 
 
 def place_constant(place):
-    return "Place::" + {"private": "private_key"}.get(place, place)
+    return "Place::" + place_name(place).replace(" ", "_")
+
+
+def place_names():
+    """In the order of Place, which is that of the alphabet."""
+    names = [place_name(place) for place in PLACES.split("|")]
+    return ("constexpr const char *kPlaceNames[] = {\n" + "".join(f"    {c_string(name)},\n" for name in names) + "};\n" +
+            f"static_assert({place_constant(PLACES.rpartition('|')[2])} == Place{{std::size(kPlaceNames) - 1}});\n")
 
 
 def array(name, kind, lines):

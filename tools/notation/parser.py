@@ -11,7 +11,8 @@ TYPE_NOTES = {"id": NUMBER, "prefix": WORD, "new": "none|own", "accessors": "own
               "keep": "encoding|body|bodyalone|positions", "codec": CONSTANT, "wire": "sequence", "first": NUMBER,
               "tail": "open", "strings": None, "layout": "inferred"}
 INNER_NOTES = {"of": NUMBER}
-PLACES = "attribute|bag|capability|content|extension|key|parameters|private|qualifier|response|statement"
+PLACES = ("attribute|bag|capability|content|extension|key|othername|parameters|private|qualifier|response|revocation|statement"
+          "|validation|wantback")
 ALSO_NOTES = {word: TYPE_NOTES[word] for word in ("id", "prefix", "check")} | {"open": PLACES}
 COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive|exact|inside",
                    "when": NUMBER, "through": None, "content": None, "open": PLACES, "data": r"[A-Z][A-Za-z0-9-]*"}
