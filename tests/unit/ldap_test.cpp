@@ -24,6 +24,7 @@ TEST(Ldap, operations_are_given_and_lent_by_number) {
   EXPECT_EQ(quarn_ldapmessage_getprotocolop(unbind.as<quarn_ldapmessage>()), nullptr);
   quarn_asn1_component part{};
   EXPECT_EQ(quarn_asn1_component_get(kType, unbind.get(), 1, &part), 1);
+  EXPECT_STREQ(part.name, "protocolOp");
   EXPECT_EQ(part.type_id, QUARN_ASN1_LDAPUNBINDREQUEST) << "it shows as what it is";
   EXPECT_EQ(quarn_ldapmessage_getoptype(nullptr), UINT32_MAX);
   EXPECT_EQ(quarn_ldapmessage_getprotocolop(nullptr), nullptr);

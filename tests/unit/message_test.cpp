@@ -49,6 +49,15 @@ Octets element(std::uint8_t identifier, bool indefinite, const Octets &content) 
   return joined({{identifier, indefinite ? std::uint8_t{0x80} : size}, content, end});
 }
 
+// Levels of indefinite length inside one another.
+Octets nested(std::uint8_t identifier, int levels, const Octets &inner = {}) {
+  Octets octets;
+  for (int i = 0; i < levels; i++) octets.insert(octets.end(), {identifier, 0x80});
+  octets.insert(octets.end(), inner.begin(), inner.end());
+  octets.resize(octets.size() + static_cast<std::size_t>(2 * levels));
+  return octets;
+}
+
 // A message: what stands around the info that holds the content, and what that looks like.
 enum class Info { any, octets, encrypted };
 const struct Shape {
@@ -230,6 +239,16 @@ TEST(Message, what_is_wrong_is_told_as_by_the_plain_decoder) {
     EXPECT_EQ(in(got.place), (Places{-1, -1, -1}));
     EXPECT_EQ(got.codes, codes_in(ctx.get()));
   }
+  // Content in as many levels as the plain decoder reads, and in more.
+  for (const Shape *shape : {&kShapes[0], &kShapes[4]}) {
+    const int limit = quarn_get_recursive_level();
+    for (int levels = limit - 4; levels <= limit + 1; levels++) {
+      const Octets octets = message(*shape, true, nested(0x24, levels, hex("04 01 41")));
+      const Held whole(shape->type, octets);
+      const Held rest(shape->type, apart(memory_stream(octets).get(), shape->type, nullptr).value);
+      EXPECT_EQ(rest.get() != nullptr, whole.get() != nullptr) << levels;
+    }
+  }
   // This one alone is refused that the plain decoder takes: no content can be made of it.
   const Octets octets = message(kShapes[0], false, hex("24 80 05 00 00 00"));
   EXPECT_EQ(apart(memory_stream(octets).get(), kShapes[0].type, nullptr).result, 0);
@@ -308,10 +327,8 @@ TEST(ContentStream, what_is_no_element_fails_at_once_or_where_it_shows) {
   for (const std::uint8_t identifier : Octets{0x24, 0x30}) {
     const int limit = quarn_get_recursive_level();
     for (const int levels : {limit, limit + 1}) {
-      Octets nested;
-      for (int i = 0; i < levels; i++) nested.insert(nested.end(), {identifier, 0x80});
-      nested.insert(nested.end(), static_cast<std::size_t>(2 * levels), 0);
-      EXPECT_EQ(piecewise(memory_stream(nested).get(), 0, 64).has_value(), levels == limit);
+      const Octets octets = nested(identifier, levels);
+      EXPECT_EQ(piecewise(memory_stream(octets).get(), 0, 64).has_value(), levels == limit);
     }
   }
   const Octets octets = hex("04 01 41");
