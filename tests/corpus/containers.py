@@ -164,7 +164,8 @@ def signed_programs(work):
     for way in ("", "-n name -i http://a.test/ -ph", "-h sha1 -i http://a.test/"):
         sign(way)
         der.run(*"osslsigncode extract-signature -in signed -out signature".split(), cwd=work)
-        yield "pkcs7contentinfo", (work / "signature").read_bytes()
+        # In the program it is filled up to a multiple of eight octets.
+        yield "pkcs7contentinfo", der.Element((work / "signature").read_bytes()).octets
         (work / "signed").unlink()
         (work / "signature").unlink()
     with socket.create_server(("127.0.0.1", 0)) as listening, ThreadPoolExecutor(1) as pool:
