@@ -54,14 +54,11 @@ if(Python3_FOUND AND QUARN_OPENSSL)
   set(corpus ${PROJECT_BINARY_DIR}/corpus)
   add_test(NAME corpus_files COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/corpus/make_corpus.py ${corpus}
            /usr/share/ca-certificates/mozilla)
-  add_test(NAME container_files COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/corpus/containers.py
-           ${PROJECT_BINARY_DIR}/containers)
-  set_tests_properties(corpus_files container_files PROPERTIES FIXTURES_SETUP corpus)
-  set_tests_properties(corpus PROPERTIES FIXTURES_REQUIRED corpus
-    ENVIRONMENT "QUARN_CORPUS=${corpus};QUARN_CONTAINERS=${PROJECT_BINARY_DIR}/containers")
+  set_tests_properties(corpus_files PROPERTIES FIXTURES_SETUP corpus)
+  set_tests_properties(corpus PROPERTIES FIXTURES_REQUIRED corpus ENVIRONMENT "QUARN_CORPUS=${corpus}")
   if(TARGET quarn_cli)
     add_test(NAME corpus_fields COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/corpus/test_corpus.py)
     set_tests_properties(corpus_fields files PROPERTIES FIXTURES_REQUIRED corpus
-      ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>;QUARN_CORPUS=${corpus};QUARN_CONTAINERS=${PROJECT_BINARY_DIR}/containers")
+      ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>;QUARN_CORPUS=${corpus}")
   endif()
 endif()

@@ -43,8 +43,10 @@ def vectors():
                 type_id = ids[value]
             elif key.startswith("def "):
                 defined[f"<{key[4:]}>"] = value
-            elif key and len(content := octets(line.split("|")[0])) <= 4096:
-                yield type_id, content
+            elif key:
+                name, row = re.fullmatch("(?:([a-z0-9_]+):)?(.*)", line.split("|")[0]).groups()
+                if len(content := octets(row)) <= 4096:
+                    yield ids[name] if name else type_id, content
 
 
 def certificates():

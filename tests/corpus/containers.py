@@ -1,36 +1,25 @@
-#!/usr/bin/env python3
-"""Makes keys, parameters, PKCS #12 files, OCSP and time-stamps with openssl, and signed programs with osslsigncode: a
-folder for each type, named after it, also of what lies inside them and an OBJECT IDENTIFIER tells the type of.
-
-    containers.py FOLDER
-"""
+"""Keys, parameters, PKCS #12 files, OCSP and time-stamps that openssl makes, programs that osslsigncode signs; and what
+lies inside any object and an OBJECT IDENTIFIER tells the type of: extensions, attributes, parameters, contents."""
 
 import base64
 import contextlib
-import pathlib
-import shutil
 import socket
 import struct
-import sys
 from concurrent.futures import ThreadPoolExecutor
 
 import der
 
+# Keys beside those of make_corpus.py.
 KEYS = {
-    "rsa": "genpkey -algorithm RSA -pkeyopt rsa_keygen_bits:2048",
-    "three": "genpkey -algorithm RSA -pkeyopt rsa_keygen_bits:2048 -pkeyopt rsa_keygen_primes:3",
-    "pss": "genpkey -algorithm RSA-PSS -pkeyopt rsa_keygen_bits:1024 -pkeyopt rsa_pss_keygen_md:sha256",
-    "ec": "genpkey -algorithm EC -pkeyopt ec_paramgen_curve:P-256",
-    "explicit": "genpkey -algorithm EC -pkeyopt ec_paramgen_curve:P-384 -pkeyopt ec_param_enc:explicit",
-    "sm2": "genpkey -algorithm SM2", "ed25519": "genpkey -algorithm ED25519", "x448": "genpkey -algorithm X448",
-    "dsa": "genpkey -paramfile dsa.params", "dh": "genpkey -algorithm DH -pkeyopt group:ffdhe2048",
+    "three": "-algorithm RSA -pkeyopt rsa_keygen_bits:2048 -pkeyopt rsa_keygen_primes:3",
+    "explicit": "-algorithm EC -pkeyopt ec_paramgen_curve:P-384 -pkeyopt ec_param_enc:explicit",
 }
 CURVES = "secp256r1 sect163k1 brainpoolP256r1 SM2"
 CIPHERS = ["-v2 aes-256-cbc", "-v2 aes-128-cbc -v2prf hmacWithSHA1", "-v2 des3 -v2prf hmacWithSHA512", "-scrypt",
            "-v1 PBE-SHA1-3DES", "-v1 PBE-MD5-DES -provider legacy -provider default",
            "-v2 rc2-cbc -provider legacy -provider default"]
 FILES = ["", "-nomac", "-keypbe NONE -certpbe NONE", "-keypbe PBE-SHA1-3DES -certpbe PBE-SHA1-3DES -macalg sha1",
-         "-certfile rsa.pem -name one -caname two -CSP three -keyex", "-maciter -iter 1", "-nokeys", "-nocerts"]
+         "-certfile ca_rsa.pem -name one -caname two -CSP three -keyex", "-maciter -iter 1", "-nokeys", "-nocerts"]
 QUERIES = ["", "-cert", "-cert -no_nonce -sha512", "-tspolicy 1.2.3", "-sha1"]
 REPLIES = ["sha256 ess_cert_id_chain = yes", "sha1 accuracy = secs:1, millisecs:500, microsecs:100",
            "sha512 ordering = yes", "sha256 clock_precision_digits = 3", "sha384 tsa_name = yes"]
@@ -48,7 +37,7 @@ INDEX = "V\t300101000000Z\t\t01\tunknown\t/CN=x\nR\t300101000000Z\t240101120000Z
 
 def recipes():
     """Type and command that writes its encoding to standard output."""
-    for key in KEYS:
+    for key in (*KEYS, "rsa", "psslimited", "ec", "sm2", "ed25519", "x448", "dsa", "dh"):
         yield "pkcs8privatekeyinfo", f"pkcs8 -topk8 -nocrypt -in {key}.key -outform DER"
     for key in ("rsa", "three"):
         yield "pkcs1rsaprivkey", f"rsa -in {key}.key -traditional -outform DER"
@@ -64,29 +53,38 @@ def recipes():
     yield "pkcs3dhpraram", "dhparam -in dh.params -outform DER"
     yield "pkcs3dhpraram", "dhparam -dsaparam -outform DER 512"
     for way in FILES:
-        yield "pkcs12pfx", f"pkcs12 -export -in ec.pem -inkey ec.key -passout pass:a {way}"
+        yield "pkcs12pfx", f"pkcs12 -export -in ca_ec.pem -inkey ec.key -passout pass:a {way}"
     for key, kind in (("ec", "ecdsasigvalue"), ("dsa", "dsssigvalue")):
         yield kind, f"dgst -sha256 -sign {key}.key text"
     yield "ecdsasigvalue", "pkeyutl -sign -rawin -digest sm3 -inkey sm2.key -in text"
     yield "sm2cipher", "pkeyutl -encrypt -inkey sm2.key -in text"
-    for way in ("", "-no_nonce", "-signer rsa.pem -signkey rsa.key", "-signer ec.pem -signkey ec.key -no_certs"):
-        yield "ocsp_ocsprequest", f"ocsp -issuer ec.pem -serial 1 -serial 2 -serial 3 -reqout /dev/stdout {way}"
+    for way in ("", "-no_nonce", "-signer ca_rsa.pem -signkey rsa.key", "-signer ca_ec.pem -signkey ec.key -no_certs"):
+        yield "ocsp_ocsprequest", f"ocsp -issuer ca_ec.pem -serial 1 -serial 2 -serial 3 -reqout /dev/stdout {way}"
     for way in ("", "-resp_key_id", "-resp_no_certs", "-ndays 1", "-badsig"):
-        yield "ocsp_ocspresponse", ("ocsp -index index -CA ec.pem -rsigner rsa.pem -rkey rsa.key -reqin request"
+        yield "ocsp_ocspresponse", ("ocsp -index index -CA ca_ec.pem -rsigner ca_rsa.pem -rkey rsa.key -reqin request"
                                     f" -respout /dev/stdout {way}")
     for way in QUERIES:
         yield "tsp_timestampreq", f"ts -query -data text {way}"
     for number in range(len(REPLIES)):
         yield "tsp_timestampresp", f"ts -reply -queryfile query -config tsa{number} -section tsa -signer tsa.pem -inkey ec.key"
     yield "tsp_timestampresp", "ts -reply -queryfile refused -config tsa0 -section tsa -signer tsa.pem -inkey ec.key"
-    yield "pkcs7contentinfo", ("cms -sign -in text -outform DER -signer rsa.pem -inkey rsa.key -cades"
+    yield "pkcs7contentinfo", ("cms -sign -in text -outform DER -signer ca_rsa.pem -inkey rsa.key -cades"
                                " -keyopt rsa_padding_mode:pss")
-    yield "pkcs7contentinfo", ("cms -encrypt -in text -outform DER -recip rsa.pem -keyopt rsa_padding_mode:oaep"
+    yield "pkcs7contentinfo", ("cms -encrypt -in text -outform DER -recip ca_rsa.pem -keyopt rsa_padding_mode:oaep"
                                " -keyopt rsa_oaep_md:sha256 -keyopt rsa_oaep_label:0A0B -aes256")
 
 
-# The types of what stands behind these OBJECT IDENTIFIERs.
+# The types of what stands behind these OBJECT IDENTIFIERs (RFC 5280, 3739, 5755, 8551, 5035 and others).
+EXTENSIONS = {
+    9: "x509subjectdirattrs", 14: "octetstring", 15: "bitstring", 16: "x509privkeyusageperiod",
+    17: "x509generalnames", 18: "x509generalnames", 19: "x509basicconstraints", 20: "integer", 21: "enumerated",
+    23: "oid", 24: "gentime", 27: "integer", 28: "pkixidp", 29: "x509generalnames", 30: "pkixnameconstaints",
+    31: "x509crldp", 32: "x509certpolicies", 33: "x509policymappings", 35: "x509akid", 36: "x509policyconstaints",
+    37: "x509exkeyusage", 46: "x509crldp", 54: "integer", 55: "ac_seqoftargets", 56: "null",
+}
 BEHIND = {
+    **{f"2.5.29.{number}": kind for number, kind in EXTENSIONS.items()},
+    "1.3.6.1.5.5.7.1.1": "pkixaia", "1.3.6.1.5.5.7.1.3": "qcstatements", "1.3.6.1.5.5.7.1.11": "pkixaia",
     "1.2.840.113549.1.1.7": "pkcs1rsaesoaepprarams",
     "1.2.840.113549.1.1.10": "pkcs1rsassapssprarams", "1.2.840.113549.1.3.1": "pkcs3dhpraram",
     "1.2.840.113549.1.5.3": "pkcs5pbeparam", "1.2.840.113549.1.5.12": "pkcs5pbkdf2params",
@@ -96,11 +94,13 @@ BEHIND = {
     "1.2.840.113549.1.12.10.1.2": "pkcs8encprivatekeyinfo", "1.2.840.113549.1.12.10.1.3": "pkcs12certbag",
     "1.3.6.1.5.5.7.48.1.1": "ocsp_basicocspresponse", "1.2.840.113549.1.9.16.1.4": "tsp_tstinfo",
     "1.2.840.113549.1.9.16.2.12": "ess_signingcertificate", "1.2.840.113549.1.9.16.2.47": "ess_signingcertificatev2",
-    "1.2.840.113549.1.9.15": "smimecapabilities",
+    "1.2.840.113549.1.9.15": "smimecapabilities", "2.5.4.55": "ac_clearance", "2.5.4.72": "ac_rolesyntax",
+    "1.3.6.1.5.5.7.10.1": "ac_svceauthinfo", "1.3.6.1.5.5.7.10.2": "ac_svceauthinfo",
     "1.3.6.1.4.1.311.2.1.4": "authenticode_spcindirectdatacontent",
     "1.3.6.1.4.1.311.2.1.12": "authenticode_spcspopusinfo", "1.3.6.1.4.1.311.2.1.15": "authenticode_spcpeimagedata",
 }
 BEHIND = {der.oid(oid): kind for oid, kind in BEHIND.items()}
+OTHERS = [("pkcs5rc2cbcparameter", 2), ("ac_rolesyntax", 6)]  # a capability is a number, and types may be listed
 HOLDERS = (0x04, 0x31, 0xA0)  # an OCTET STRING, a SET of one value, an explicit tag
 
 
@@ -116,12 +116,14 @@ def elements(octets):
 def inside(element):
     """Type and octets of each value in an element that an OBJECT IDENTIFIER stands before."""
     parts = elements(element.content) if element.identifier & 0x20 or element.identifier == 4 else []
-    if len(parts) > 1 and parts[0].octets in BEHIND:
-        value, kind = parts[1], BEHIND[parts[0].octets]
-        while value.identifier in HOLDERS and elements(value.content):
-            value = elements(value.content)[0]
-        if value.identifier == 0x30 or kind == "ecpkparameters":  # a capability of RC2 is a number
-            yield kind, value.octets
+    kind = BEHIND.get(parts[0].octets) if len(parts) in (2, 3) else None
+    if kind:  # behind a BOOLEAN in critical extensions
+        value = parts[-1] if parts[1].identifier == 1 else parts[1]
+        for held in [value] if value.identifier not in HOLDERS else elements(value.content):
+            while held.identifier in HOLDERS and kind != "octetstring" and elements(held.content):
+                held = elements(held.content)[0]
+            if (kind, held.identifier) not in OTHERS:
+                yield kind, held.octets
     for part in parts:
         yield from inside(part)
 
@@ -157,14 +159,13 @@ def first_post(listening):
 def signed_programs(work):
     """Type and octets of signatures, and of a request for a time-stamp."""
     def sign(way):
-        der.run(*f"osslsigncode sign -certs rsa.pem -key rsa.key -in program -out signed {way}".split(), cwd=work)
+        der.run(*f"osslsigncode sign -certs ca_rsa.pem -key rsa.key -in program -out signed {way}".split(), cwd=work)
     (work / "program").write_bytes(program())
     for way in ("", "-n name -i http://a.test/ -ph", "-h sha1 -i http://a.test/"):
         sign(way)
-        der.run(*"osslsigncode extract-signature -in signed -out signature".split(), cwd=work)
-        yield "pkcs7contentinfo", (work / "signature").read_bytes()
+        # Behind the program and eight octets of its own; filled up to a multiple of eight.
+        yield "pkcs7contentinfo", der.Element((work / "signed").read_bytes(), len(program()) + 8).octets
         (work / "signed").unlink()
-        (work / "signature").unlink()
     with socket.create_server(("127.0.0.1", 0)) as listening, ThreadPoolExecutor(1) as pool:
         listening.settimeout(10)
         request = pool.submit(first_post, listening)
@@ -176,63 +177,35 @@ def signed_programs(work):
 def prepare(work):
     def openssl(command):
         der.openssl(*command.split(), cwd=work)
-    (work / "text").write_text("some text")
     (work / "serial").write_text("0A")
     (work / "index").write_text(INDEX)
-    (work / "config").write_text("[req]\ndistinguished_name = person\n[person]\n[v3]\nbasicConstraints = CA:TRUE\n"
+    (work / "config").write_text("[req]\ndistinguished_name = person\n[person]\n"
                                  "[stamps]\nextendedKeyUsage = critical, timeStamping\n")
     for number, words in enumerate(REPLIES):
         digest, _, line = words.partition(" ")
         (work / f"tsa{number}").write_text(TSA.format(digest, line))
-    openssl("genpkey -genparam -algorithm DSA -pkeyopt dsa_paramgen_bits:1024 -out dsa.params")
     openssl("genpkey -genparam -algorithm DH -pkeyopt group:ffdhe2048 -out dh.params")
-    for key, command in KEYS.items():
-        openssl(f"{command} -out {key}.key")
-    for name, key, section in (("rsa", "rsa", "v3"), ("ec", "ec", "v3"), ("tsa", "ec", "stamps")):
-        openssl(f"req -x509 -new -key {key}.key -config config -extensions {section} -subj /CN={name} -out {name}.pem")
-    openssl("ocsp -issuer ec.pem -serial 1 -serial 2 -serial 3 -reqout request")
+    for key, arguments in KEYS.items():
+        openssl(f"genpkey {arguments} -out {key}.key")
+    openssl("req -x509 -new -key ec.key -config config -extensions stamps -subj /CN=tsa -out tsa.pem")
+    openssl("ocsp -issuer ca_ec.pem -serial 1 -serial 2 -serial 3 -reqout request")
     openssl("ts -query -data text -cert -out query")
     openssl("ts -query -data text -tspolicy 1.2.3.5 -out refused")
 
 
-def encodings(work):
+def made(work, refused):
+    """Type and octets of all that openssl makes here, with the keys and authorities in the folder."""
+    prepare(work)
     for kind, command in recipes():
         try:
-            yield kind, der.openssl(*command.split(), cwd=work)
+            octets = der.openssl(*command.split(), cwd=work)
         except RuntimeError as error:
-            print(str(error).splitlines()[0])  # what this openssl cannot do
+            refused.append(str(error).splitlines()[0])
+            continue
+        yield kind, octets
+        if kind == "pkcs12pfx":
+            yield from safes(der.Element(octets))
     try:
         yield from signed_programs(work)
     except (RuntimeError, OSError) as error:
-        print(f"no signed programs: {error}")
-
-
-def make(folder):
-    work = folder / "work"
-    work.mkdir(parents=True)
-    prepare(work)
-    files = {}
-    for kind, octets in encodings(work):
-        whole = der.Element(octets)
-        assert whole.octets == octets, kind
-        files.setdefault(octets, kind)
-        for inner, held in [*inside(whole), *(safes(whole) if kind == "pkcs12pfx" else [])]:
-            files.setdefault(held, inner)
-    for number, (octets, kind) in enumerate(files.items()):
-        (folder / kind).mkdir(exist_ok=True)
-        (folder / kind / f"{number}.der").write_bytes(octets)
-    shutil.rmtree(work)
-    (folder / "done").touch()
-    return len(files)
-
-
-def main(folder):
-    folder = pathlib.Path(folder)
-    done = folder / "done"
-    if not done.exists() or done.stat().st_mtime < pathlib.Path(__file__).stat().st_mtime:
-        shutil.rmtree(folder, ignore_errors=True)
-        print(f"containers: {make(folder)} files")
-
-
-if __name__ == "__main__":
-    main(*sys.argv[1:])
+        refused.append(f"no signed programs: {error}")

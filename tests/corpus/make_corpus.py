@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""Makes the corpus: certificates, CRLs, requests, attribute certificates, and messages of CMS and LDAP of every kind.
+"""Makes the corpus: certificates, CRLs, requests, attribute certificates, messages of CMS and LDAP, keys, containers,
+and the extensions, attributes and parameters inside.
 
     make_corpus.py FOLDER [SOURCE]
 
-FOLDER gets a folder of DER files for each type, named after it, and `facts.json`: what openssl says
-about each file but messages (see oracle.py). SOURCE is a folder of published certificates in PEM to add. A folder
+FOLDER gets a folder of DER files for each type, named after it, and `facts.json`: what openssl finds in each file (see
+oracle.py). SOURCE is a folder of published certificates in PEM to add. A folder
 that is newer than the recipes is left alone.
 """
 
@@ -17,6 +18,7 @@ import time
 from concurrent.futures import ThreadPoolExecutor
 
 import built
+import containers
 import der
 import ldap_recorded
 import messages
@@ -118,7 +120,7 @@ class Maker:
     def __init__(self, folder):
         self.folder, self.work = folder, folder / "work"
         shutil.rmtree(folder, ignore_errors=True)
-        for name in ("work", "made", *TYPES, *messages.HELD.values(), ldap_recorded.FOLDER):
+        for name in ("work", *TYPES, *messages.HELD.values(), ldap_recorded.FOLDER):
             (folder / name).mkdir(parents=True)
         self.config, self.jobs, self.refused = [(HERE / "sections.cnf").read_text(encoding="utf-8")], [], []
 
@@ -283,13 +285,19 @@ class Maker:
         for name, message in messages.built(self.folder, self.work):
             (self.folder / messages.FOLDERS[0] / f"{name}.der").write_bytes(message)
 
-    def encode(self):
-        """What openssl can neither write nor sign, by other encoders."""
+    def others(self):
+        """What openssl can neither write nor sign, by other encoders; keys and containers; what is inside them all."""
+        found = [("other", *pair) for pair in containers.made(self.work, self.refused)]
         try:
-            for number, (kind, octets) in enumerate(dict.fromkeys(pyasn1_made.made())):
-                (self.folder / "made" / f"{kind}.{number}.der").write_bytes(octets)
+            found += [("made", *pair) for pair in pyasn1_made.made()]
         except ImportError as error:
             self.refused.append(f"no values by pyasn1: {error}")
+        whole = [octets for kind in TYPES for path in (self.folder / kind).glob("*.der")
+                 if (octets := path.read_bytes())[1:2] != b"\x80"] + [octets for *_, octets in found]
+        found += [("other", *pair) for octets in whole if octets for pair in containers.inside(der.Element(octets))]
+        for number, (origin, kind, octets) in enumerate(dict.fromkeys(found)):
+            (self.folder / kind).mkdir(exist_ok=True)
+            (self.folder / kind / f"{origin}{number}.der").write_bytes(octets)
 
     def make(self, source):
         self.section("req", "distinguished_name = person")
@@ -312,16 +320,16 @@ class Maker:
             list(pool.map(self.run, self.jobs))
             self.collect()
             self.build()
-            self.encode()
-            messages.split(self.folder)
-            ldap_recorded.record(self.folder / ldap_recorded.FOLDER)
             if source:
                 for path in sorted(pathlib.Path(source).glob("*.crt")):
                     (self.folder / TYPES[0] / f"published_{path.stem}.der").write_bytes(from_pem(path))
-            facts = oracle.facts([self.folder / kind for kind in TYPES], pool)
+            self.others()
+            messages.split(self.folder)
+            ldap_recorded.record(self.folder / ldap_recorded.FOLDER)
             messages.places(self.folder)
-        (self.folder / "refused.txt").write_text("".join(each + "\n" for each in self.refused))
         shutil.rmtree(self.work)
+        facts = oracle.facts([path for path in self.folder.iterdir() if path.is_dir()])
+        (self.folder / "refused.txt").write_text("".join(each + "\n" for each in self.refused))
         (self.folder / "facts.json").write_text(json.dumps(facts, indent=1))
 
 

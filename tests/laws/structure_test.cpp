@@ -11,9 +11,9 @@ namespace {
 
 TEST(Structure, der_is_written_anew_as_it_was_read) {
   for_each(structured_samples(), [](const Vector &sample) {
-    const Decoded decoded(sample.type, sample.in);
-    EXPECT_TRUE(is_whole(sample.type, decoded.value()));
-    EXPECT_EQ(fresh_encoding_of(sample.type, decoded.value()), *sample.out);
+    const Held decoded(sample.type, sample.in);
+    EXPECT_TRUE(is_whole(sample.type, decoded.get()));
+    EXPECT_EQ(fresh_encoding_of(sample.type, decoded.get()), *sample.out);
   });
 }
 
@@ -21,15 +21,14 @@ TEST(Structure, indefinite_lengths_are_kept_with_the_octets_and_are_definite_ane
   for_each(structured_samples(), [](const Vector &sample) {
     const Octets indefinite = written(*elements_of(sample.in), Lengths::indefinite);
     use(sample.type, indefinite);
-    const Decoded decoded(sample.type, indefinite);
+    const Held decoded(sample.type, indefinite);
     ASSERT_EQ(decoded.consumed(), static_cast<std::int64_t>(indefinite.size()));
     const asn1::Schema &schema = *asn1::find_type(sample.type)->schema;
     if (schema.keeps_octets()) {
-      EXPECT_EQ(encoding_of(sample.type, decoded.value()), indefinite);
+      EXPECT_EQ(encoding_of(sample.type, decoded.get()), indefinite);
     }
     const bool as_it_came = schema.layout != nullptr;
-    EXPECT_EQ(fresh_encoding_of(sample.type, decoded.value()),
-              as_it_came ? indefinite : *sample.out);
+    EXPECT_EQ(fresh_encoding_of(sample.type, decoded.get()), as_it_came ? indefinite : *sample.out);
   });
 }
 
@@ -79,15 +78,15 @@ TEST(Structure, values_are_built_from_components_or_not_at_all) {
     const auto id = static_cast<quarn_asn1_type_id>(sample.type);
     if (asn1::type_of(id).schema->is_list()) return;
     fail_each_allocation([&](Allocation &allocation) {
-      const Decoded decoded(sample.type, sample.in);
-      if (decoded.value() == nullptr) return;
-      void *built = build_from(id, decoded.value());
+      const Held decoded(sample.type, sample.in);
+      if (decoded.get() == nullptr) return;
+      void *built = build_from(id, decoded.get());
       EXPECT_TRUE(built != nullptr || allocation.failed());
       allocation.never_fail();
       if (built != nullptr) {
         EXPECT_EQ(encoding_of(sample.type, built), *sample.out);
       }
-      EXPECT_EQ(fresh_encoding_of(sample.type, decoded.value()), *sample.out) << "unharmed";
+      EXPECT_EQ(fresh_encoding_of(sample.type, decoded.get()), *sample.out) << "unharmed";
       quarn_asn1_value_free(sample.type, built);
     });
   });
@@ -98,9 +97,9 @@ TEST(Structure, what_is_mandatory_must_be_given_and_nothing_else) {
     const auto id = static_cast<quarn_asn1_type_id>(sample.type);
     const asn1::Schema &schema = *asn1::type_of(id).schema;
     if (schema.is_list() || schema.is_choice()) return;
-    const Decoded decoded(sample.type, sample.in);
+    const Held decoded(sample.type, sample.in);
     for (std::size_t i = 0; i < schema.fields.size(); i++) {
-      std::vector<const void *> parts = parts_of(id, decoded.value());
+      std::vector<const void *> parts = parts_of(id, decoded.get());
       parts[i] = nullptr;
       void *built = asn1::build_record(id, parts);
       const bool may_go = !schema.fields[i].mandatory() && asn1::allowed(schema, parts.data());

@@ -11,39 +11,9 @@
 #include "quarn_asn1.h"
 #include "tests/laws/samples.h"
 #include "tests/support/components.h"
-#include "tests/support/streams.h"
+#include "tests/unit/values.h"
 
 namespace quarn::test {
-
-// A decoded value that frees itself.
-class Decoded {
- public:
-  Decoded(std::int64_t type, const Octets &octets) : type_(type) {
-    consumed_ = quarn_asn1_mem_decode(octets.data(), static_cast<std::int64_t>(octets.size()), type,
-                                      &value_);
-  }
-  ~Decoded() { quarn_asn1_value_free(type_, value_); }
-  Decoded(const Decoded &) = delete;
-  Decoded &operator=(const Decoded &) = delete;
-
-  std::int64_t consumed() const { return consumed_; }
-  void *value() const { return value_; }
-
- private:
-  std::int64_t type_;
-  void *value_ = nullptr;
-  std::int64_t consumed_;
-};
-
-inline Octets octets_of(const Blob &blob) {
-  return Octets(blob->data, blob->data + blob->length);
-}
-
-// Nothing for a value that cannot be encoded.
-inline Octets encoding_of(std::int64_t type, void *value) {
-  const Blob blob(quarn_asn1_mem_encode(type, value));
-  return blob == nullptr ? Octets() : octets_of(blob);
-}
 
 // The encoding of a value that has forgotten what it kept of the octets it came from.
 inline Octets fresh_encoding_of(std::int64_t type, void *value) {
@@ -65,31 +35,31 @@ inline void for_each_sample(std::size_t most, const std::function<void(const Vec
 
 // What a value is encoded to decodes, and that encodes to the same.
 inline void encode_and_back(std::int64_t type, const Octets &encoding) {
-  const Decoded again(type, encoding);
+  const Held again(type, encoding);
   ASSERT_EQ(again.consumed(), static_cast<std::int64_t>(encoding.size()));
-  EXPECT_EQ(encoding_of(type, again.value()), encoding);
+  EXPECT_EQ(encoding_of(type, again.get()), encoding);
 }
 
 // Everything that can be done with what some octets decoded to, if they did.
 inline void use(std::int64_t type, const Octets &octets) {
-  const Decoded decoded(type, octets);
+  const Held decoded(type, octets);
   if (decoded.consumed() < 0) {
-    EXPECT_EQ(decoded.value(), nullptr);
+    EXPECT_EQ(decoded.get(), nullptr);
     return;
   }
   EXPECT_LE(decoded.consumed(), static_cast<std::int64_t>(octets.size()));
-  EXPECT_TRUE(is_whole(type, decoded.value()));
-  const std::int64_t length = quarn_asn1_length(type, decoded.value());
-  const Octets encoding = encoding_of(type, decoded.value());
+  EXPECT_TRUE(is_whole(type, decoded.get()));
+  const std::int64_t length = quarn_asn1_length(type, decoded.get());
+  const Octets encoding = encoding_of(type, decoded.get());
   if (encoding.empty()) return;
   if (length >= 0) {
     EXPECT_EQ(encoding.size(), static_cast<std::size_t>(length));
   }
   encode_and_back(type, encoding);
-  void *copy = quarn_asn1_dupobject(type, decoded.value(), nullptr);
+  void *copy = quarn_asn1_dupobject(type, decoded.get(), nullptr);
   EXPECT_NE(copy, nullptr);
   quarn_asn1_value_free(type, copy);
-  encode_and_back(type, fresh_encoding_of(type, decoded.value()));
+  encode_and_back(type, fresh_encoding_of(type, decoded.get()));
 }
 
 }  // namespace quarn::test

@@ -139,6 +139,16 @@ Vector row(const std::string &line, Vector vector) {
   return vector;
 }
 
+// A row of a type; one that begins with "name:" is of that type instead.
+Vector row_of(std::string line, Vector vector) {
+  const std::size_t colon = line.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789_");
+  if (colon != std::string::npos && line[colon] == ':') {
+    vector.type = type_named(line.substr(0, colon));
+    line.erase(0, colon + 1);
+  }
+  return row(line, vector);
+}
+
 // The line with what its <names> stand for.
 std::string expanded(std::string line, const std::map<std::string, std::string> &defined) {
   for (const auto &[name, octets] : defined) {
@@ -174,7 +184,7 @@ std::vector<Vector> read_vectors(const std::string &path) {
       } else if (key.starts_with("def ")) {
         defined["<" + key.substr(4) + ">"] = value;
       } else {
-        vectors.push_back(row(line, {path, number, type, {}, {}, {}, {}, 0, {}}));
+        vectors.push_back(row_of(line, {path, number, type, {}, {}, {}, {}, 0, {}}));
       }
     }
   } catch (const std::exception &error) {

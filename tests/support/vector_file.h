@@ -5,9 +5,11 @@
 //     <zero>   | same       | false
 //     01 01 01 | 01 01 FF   | any octet but zero is true and is written as FF
 //     01 00    | code 10203 | empty content
+//     null: 05 00 | same
 //
-// type holds until the next type line; `#` begins a comment. Octets are hexadecimal or "text"; a
-// group in parentheses can be repeated: (30 80)*3. <zero> stands for what was defined.
+// type holds until the next type line, a type in front of a row for that row; `#` begins a comment.
+// Octets are hexadecimal or "text"; a group in parentheses can be repeated: (30 80)*3. <zero>
+// stands for what was defined.
 #ifndef QUARN_TESTS_SUPPORT_VECTOR_FILE_H
 #define QUARN_TESTS_SUPPORT_VECTOR_FILE_H
 

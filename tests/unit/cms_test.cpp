@@ -1,8 +1,5 @@
 // Messages: where the parts of a signed one stand, and the constructors that do not just copy.
-#include <gtest/gtest.h>
-
-#include "tests/support/allocation.h"
-#include "tests/unit/values.h"
+#include "tests/unit/given.h"
 
 namespace quarn::test {
 namespace {
@@ -139,20 +136,16 @@ TEST(SignedData, its_parts_are_taken_over_or_left_with_the_caller) {
 }
 
 TEST(CMSAlgorithmProtection, is_of_two_algorithms) {
-  const Value<quarn_x509algoid, QUARN_ASN1_X509ALGORITHMID> algorithm(
-      made<QUARN_ASN1_X509ALGORITHMID, quarn_x509algoid>("30 03 06 01 2A"));
-  EXPECT_EQ(quarn_cmsalgorithmprotection_newsign(algorithm.get(), nullptr), nullptr);
-  EXPECT_EQ(quarn_cmsalgorithmprotection_newmac(algorithm.get(), nullptr), nullptr);
-  EXPECT_EQ(quarn_cmsalgorithmprotection_newmac(nullptr, algorithm.get()), nullptr);
-  const auto encoding = [](quarn_cmsalgorithmprotection *value) {
-    const Octets octets = encoding_of(QUARN_ASN1_CMSALGORITHMPROTECTION, value);
-    quarn_cmsalgorithmprotection_free(value);
-    return octets;
-  };
-  EXPECT_EQ(encoding(quarn_cmsalgorithmprotection_newsign(algorithm.get(), algorithm.get())),
-            hex("30 0A 30 03 06 01 2A A1 03 06 01 2A"));
-  EXPECT_EQ(encoding(quarn_cmsalgorithmprotection_newmac(algorithm.get(), algorithm.get())),
-            hex("30 0A 30 03 06 01 2A A2 03 06 01 2A"));
+  Given g;
+  constexpr auto kType = QUARN_ASN1_CMSALGORITHMPROTECTION;
+  const auto sign = quarn_cmsalgorithmprotection_newsign;
+  const auto mac = quarn_cmsalgorithmprotection_newmac;
+  const std::string head = "30 0A 30 03 06 01 2A ";
+  g.makes("signed", kType, sign(g.algorithm(), g.algorithm()), head + "A1 03 06 01 2A");
+  g.makes("with a code", kType, mac(g.algorithm(), g.algorithm()), head + "A2 03 06 01 2A");
+  g.makes("no signature", kType, sign(g.algorithm(), nullptr), "");
+  g.makes("no code", kType, mac(g.algorithm(), nullptr), "");
+  g.makes("no digest", kType, mac(nullptr, g.algorithm()), "");
 }
 
 }  // namespace

@@ -25,8 +25,11 @@ class Given {
   explicit Given(const Allocation *allocation = nullptr) : allocation_(allocation) {}
 
   // The value that some octets encode; null when they do not decode.
+  Lent operator()(std::int64_t type, const Octets &octets) {
+    return {owned_.emplace_back(type, octets).get()};
+  }
   Lent operator()(std::int64_t type, const std::string &octets) {
-    return {owned_.emplace_back(type, octets.c_str()).get()};
+    return (*this)(type, hex(octets));
   }
   Lent own(std::int64_t type, void *value) { return {owned_.emplace_back(type, value).get()}; }
 

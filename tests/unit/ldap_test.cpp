@@ -1,57 +1,44 @@
 // Messages of LDAP: operations by their numbers.
-#include "tests/unit/values.h"
+#include "tests/unit/given.h"
 
 namespace quarn::test {
 namespace {
 
-using Integer = Value<quarn_asn1_integer, QUARN_ASN1_INTEGER>;
-using Message = Value<quarn_ldapmessage, QUARN_ASN1_LDAPMESSAGE>;
-
-Octets encoding_of(const Message &message) {
-  const Blob blob(quarn_asn1_mem_encode(QUARN_ASN1_LDAPMESSAGE, message.get()));
-  return blob == nullptr ? Octets() : Octets(blob->data, blob->data + blob->length);
-}
-
 TEST(Ldap, operations_are_given_and_lent_by_number) {
-  const Integer number(quarn_asn1_integer_value(6));
-  const Integer abandoned(quarn_asn1_integer_value(5));
-  const Integer negative(quarn_asn1_integer_value(-1));
-  const Message abandon(quarn_ldapmessage_new(number.get(), 16, abandoned.get(), nullptr));
-  EXPECT_EQ(encoding_of(abandon), hex("30 06 02 01 06 50 01 05"));
-  EXPECT_EQ(quarn_ldapmessage_getoptype(abandon.get()), 16U);
-  std::int64_t id = 0;
-  quarn_asn1_integer_getlong(
-      static_cast<quarn_asn1_integer *>(quarn_ldapmessage_getprotocolop(abandon.get())), &id);
-  EXPECT_EQ(id, 5);
-  const Message unbind(quarn_ldapmessage_new(number.get(), 2, nullptr, nullptr));
-  EXPECT_EQ(encoding_of(unbind), hex("30 05 02 01 06 42 00"));
-  EXPECT_EQ(quarn_ldapmessage_getoptype(unbind.get()), 2U);
-  EXPECT_EQ(quarn_ldapmessage_getprotocolop(unbind.get()), nullptr);
+  Given g;
+  constexpr auto kType = QUARN_ASN1_LDAPMESSAGE;
+  const Lent number = g(QUARN_ASN1_INTEGER, "02 01 06");
+  const Lent negative = g(QUARN_ASN1_INTEGER, "02 01 FF");
+  const auto make = [](const Lent &id, std::uint32_t operation, void *value) {
+    return quarn_ldapmessage_new(id, operation, value, nullptr);
+  };
+  const Held abandon(kType, make(number, 16, g.integer()));
+  EXPECT_EQ(abandon.encoding(), hex("30 06 02 01 06 50 01 05"));
+  EXPECT_EQ(quarn_ldapmessage_getoptype(abandon.as<quarn_ldapmessage>()), 16U);
+  EXPECT_EQ(encoding_of(QUARN_ASN1_INTEGER,
+                        quarn_ldapmessage_getprotocolop(abandon.as<quarn_ldapmessage>())),
+            hex("02 01 05"));
+  const Held unbind(kType, make(number, 2, nullptr));
+  EXPECT_EQ(unbind.encoding(), hex("30 05 02 01 06 42 00"));
+  EXPECT_EQ(quarn_ldapmessage_getoptype(unbind.as<quarn_ldapmessage>()), 2U);
+  EXPECT_EQ(quarn_ldapmessage_getprotocolop(unbind.as<quarn_ldapmessage>()), nullptr);
+  quarn_asn1_component part{};
+  EXPECT_EQ(quarn_asn1_component_get(kType, unbind.get(), 1, &part), 1);
+  EXPECT_EQ(part.type_id, QUARN_ASN1_LDAPUNBINDREQUEST) << "it shows as what it is";
   EXPECT_EQ(quarn_ldapmessage_getoptype(nullptr), UINT32_MAX);
   EXPECT_EQ(quarn_ldapmessage_getprotocolop(nullptr), nullptr);
-  EXPECT_EQ(quarn_ldapmessage_new(number.get(), 17, abandoned.get(), nullptr), nullptr);
-  EXPECT_EQ(quarn_ldapmessage_new(number.get(), 16, nullptr, nullptr), nullptr);
-  EXPECT_EQ(quarn_ldapmessage_new(number.get(), 16, negative.get(), nullptr), nullptr);
-  EXPECT_EQ(quarn_ldapmessage_new(negative.get(), 2, nullptr, nullptr), nullptr);
+  g.makes("no such operation", kType, make(number, 17, g.integer()), "");
+  g.makes("nothing to abandon", kType, make(number, 16, nullptr), "");
+  g.makes("abandons a negative number", kType, make(number, 16, negative), "");
+  g.makes("a negative number", kType, make(negative, 2, nullptr), "");
 }
 
 TEST(Ldap, only_an_attribute_that_is_partial_may_have_no_value) {
-  const Held type(QUARN_ASN1_OCTETSTRING, "04 01 61");
-  const Held none(QUARN_ASN1_LDAPATTRIBUTEVALUES, "31 00");
-  const auto *name = type.as<quarn_asn1_octetstring>();
-  const auto *values = none.as<quarn_asn1_list>();
-  EXPECT_EQ(quarn_ldapattribute_new(name, values), nullptr);
-  const Held partial(QUARN_ASN1_LDAPPARTIALATTRIBUTE, quarn_ldappartialattribute_new(name, values));
-  EXPECT_EQ(partial.encoding(), hex("30 05 04 01 61 31 00"));
-}
-
-TEST(Ldap, the_operation_of_a_message_shows_as_what_it_is) {
-  const Message unbind(
-      quarn_ldapmessage_new(Integer(quarn_asn1_integer_value(6)).get(), 2, nullptr, nullptr));
-  quarn_asn1_component part{};
-  ASSERT_EQ(quarn_asn1_component_get(QUARN_ASN1_LDAPMESSAGE, unbind.get(), 1, &part), 1);
-  EXPECT_STREQ(part.name, "protocolOp");
-  EXPECT_EQ(part.type_id, QUARN_ASN1_LDAPUNBINDREQUEST);
+  Given g;
+  const Lent none = g(QUARN_ASN1_LDAPATTRIBUTEVALUES, "31 00");
+  g.makes("whole", QUARN_ASN1_LDAPATTRIBUTE, quarn_ldapattribute_new(g.octets(), none), "");
+  g.makes("partial", QUARN_ASN1_LDAPPARTIALATTRIBUTE,
+          quarn_ldappartialattribute_new(g.octets(), none), "30 05 04 01 41 31 00");
 }
 
 }  // namespace

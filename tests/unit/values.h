@@ -61,7 +61,7 @@ class Held {
   Held(std::int64_t type, void *value) : type_(type), value_(value) {}
   Held(std::int64_t type, const Octets &octets) : type_(type) {
     const auto count = static_cast<std::int64_t>(octets.size());
-    quarn_asn1_mem_decode(octets.data(), count, type, &value_);
+    consumed_ = quarn_asn1_mem_decode(octets.data(), count, type, &value_);
   }
   Held(std::int64_t type, const char *octets) : Held(type, hex(octets)) {}
   Held(const Held &) = delete;
@@ -69,6 +69,7 @@ class Held {
   ~Held() { quarn_asn1_value_free(type_, value_); }
 
   std::int64_t type() const { return type_; }
+  std::int64_t consumed() const { return consumed_; }  // octets, or -1 when they do not decode
   void *get() const { return value_; }
   template <typename T>
   T *as() const {
@@ -79,6 +80,7 @@ class Held {
  private:
   std::int64_t type_;
   void *value_ = nullptr;
+  std::int64_t consumed_ = -1;
 };
 
 }  // namespace quarn::test

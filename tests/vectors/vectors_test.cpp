@@ -5,8 +5,7 @@
 
 #include "quarn_asn1.h"
 #include "tests/support/allocation.h"
-#include "tests/support/streams.h"
-#include "tests/support/vector_file.h"
+#include "tests/unit/values.h"
 
 namespace quarn::test {
 namespace {
@@ -25,14 +24,6 @@ Outcome decode_from(quarn_stream *stream, std::int64_t type) {
   outcome.result = quarn_asn1_decode(stream, type, &outcome.value, &outcome.consumed, ctx.get());
   outcome.codes = codes_in(ctx.get());
   return outcome;
-}
-
-std::vector<std::uint8_t> encoding_of(std::int64_t type, void *value) {
-  quarn_data_blob *blob = quarn_asn1_mem_encode(type, value);
-  if (blob == nullptr) return {};
-  std::vector<std::uint8_t> octets(blob->data, blob->data + blob->length);
-  quarn_data_blob_free(blob);
-  return octets;
 }
 
 void expect_success(const Vector &vector, const Outcome &outcome) {
