@@ -28,7 +28,7 @@ void remove_and_end(int number) {
 // A signal that the parent process ignores stays ignored.
 void remove_on_signals(const std::string &path) {
   if (path.size() >= sizeof unfinished) return;
-  std::strcpy(unfinished, path.c_str());
+  std::memcpy(unfinished, path.c_str(), path.size() + 1);
   for (const int number : {SIGHUP, SIGINT, SIGPIPE, SIGTERM}) {
     struct sigaction action {};
     if (::sigaction(number, nullptr, &action) != 0 || action.sa_handler == SIG_IGN) continue;
