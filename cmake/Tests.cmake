@@ -58,7 +58,8 @@ if(Python3_FOUND AND QUARN_OPENSSL)
   set_tests_properties(corpus PROPERTIES FIXTURES_REQUIRED corpus ENVIRONMENT "QUARN_CORPUS=${corpus}")
   if(TARGET quarn_cli)
     add_test(NAME corpus_fields COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/corpus/test_corpus.py)
-    set_tests_properties(corpus_fields files PROPERTIES FIXTURES_REQUIRED corpus
+    add_test(NAME corpus_messages COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/corpus/test_messages.py)
+    set_tests_properties(corpus_fields corpus_messages files PROPERTIES FIXTURES_REQUIRED corpus
       ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>;QUARN_CORPUS=${corpus}")
   endif()
 endif()
