@@ -153,10 +153,7 @@ void keys_and_certificates(Given &g) {
       "a public key", QUARN_ASN1_PKCS8PRIVATEKEYINFO,
       quarn_pkcs8privatekeyinfo_newv2(g.integer(), g.algorithm(), g.octets(), nullptr, g.bits()),
       "30 0F " + key.substr(6) + "81 02 06 40");
-  g.makes("good", QUARN_ASN1_OCSP_CERTSTATUS, quarn_ocsp_certstatus_newgood(), "80 00");
   g.makes("unknown", QUARN_ASN1_OCSP_CERTSTATUS, quarn_ocsp_certstatus_newunknown(), "82 00");
-  g.makes("of an authority", QUARN_ASN1_ECPKPARAMETERS, quarn_ecpkparameters_newimplicitlyca(),
-          "05 00");
   const std::string digest = "30 0A " + kAlgorithm;
   const auto sign = quarn_cmsalgorithmprotection_newsign;
   const auto mac = quarn_cmsalgorithmprotection_newmac;
@@ -210,13 +207,13 @@ TEST(Constructors, make_what_the_rules_say_or_nothing) {
 }
 
 TEST(Copies, of_a_lone_list_under_a_shared_tag_are_of_the_first) {
+  constexpr auto kType = QUARN_ASN1_AC_AACONTROLS;
   Given g;
-  quarn_ac_aacontrols *controls =
-      g.own(QUARN_ASN1_AC_AACONTROLS,
+  const Lent excluded =
+      g.own(kType,
             quarn_ac_aacontrols_new(nullptr, nullptr, g(QUARN_ASN1_AC_ATTRSPEC, "30 00"), nullptr));
-  EXPECT_EQ(quarn_ac_aacontrols_haspermittedattrs(controls), 0);
-  const quarn_ac_aacontrols *copy = g.own(
-      QUARN_ASN1_AC_AACONTROLS, quarn_asn1_dupobject(QUARN_ASN1_AC_AACONTROLS, controls, nullptr));
+  const quarn_ac_aacontrols *copy =
+      g.own(kType, quarn_asn1_dupobject(kType, excluded.value, nullptr));
   EXPECT_EQ(quarn_ac_aacontrols_haspermittedattrs(copy), 1);
   EXPECT_EQ(quarn_ac_aacontrols_hasexcludedattrs(copy), 0);
 }
@@ -271,32 +268,20 @@ TEST(Getters, of_what_has_no_name_of_its_own) {
   EXPECT_EQ(quarn_ldapmessage_getprotocolop(unbind), nullptr);
 }
 
-// Their components are those of an element, as far as it is laid out as its type says.
-TEST(Getters, look_into_an_inferred_layout) {
-  const std::string rsa = "0B " + kAlgorithm + "04 01 41 04 01 42 ";
-  fail_each_allocation([&](Allocation &allocation) {
-    Given g(&allocation);
-    quarn_rsaenvelopedkeypair *pair =
-        quarn_rsaenvelopedkeypair_new(g.algorithm(), g.octets(), g.octets("04 01 42"));
-    g.makes("RSA", QUARN_ASN1_RSAENVELOPEDKEYPAIR, pair, "30 " + rsa);
-    quarn_innerenvelopedkeypair *inner = quarn_innerenvelopedkeypair_newrsa(pair);
-    g.makes("inner", QUARN_ASN1_INNERENVELOPEDKEYPAIR, inner, "A0 " + rsa);
-    if (allocation.failed()) return;
-    EXPECT_EQ(quarn_innerenvelopedkeypair_gettype(inner), 0u);
-    EXPECT_EQ(quarn_innerenvelopedkeypair_getsm2(inner), nullptr);
-    const auto *shown = quarn_innerenvelopedkeypair_getrsa(inner);
-    const Octets key =
-        encoding_of(QUARN_ASN1_OCTETSTRING, quarn_rsaenvelopedkeypair_getenckeypair(shown));
-    EXPECT_TRUE(key == hex("04 01 42") || allocation.failed());
-  });
+TEST(Getters, look_into_an_element_that_is_laid_out_as_they_say) {
   Given g;
-  const quarn_envelopedkeypair *pair = g(QUARN_ASN1_ENVELOPEDKEYPAIR, "30 06 02 01 01 A2 01 41");
-  const quarn_innerenvelopedkeypair *inner = quarn_envelopedkeypair_getkeypair(pair);
+  const quarn_innerenvelopedkeypair *rsa =
+      g(QUARN_ASN1_INNERENVELOPEDKEYPAIR, "A0 0B 30 03 06 01 2A 04 01 41 04 01 42");
+  EXPECT_EQ(quarn_innerenvelopedkeypair_gettype(rsa), 0u);
+  EXPECT_EQ(quarn_innerenvelopedkeypair_getsm2(rsa), nullptr);
+  const auto *pair = quarn_innerenvelopedkeypair_getrsa(rsa);
+  EXPECT_EQ(encoding_of(QUARN_ASN1_OCTETSTRING, quarn_rsaenvelopedkeypair_getenckeypair(pair)),
+            hex("04 01 42"));
+  const quarn_envelopedkeypair *other = g(QUARN_ASN1_ENVELOPEDKEYPAIR, "30 06 02 01 01 A2 01 41");
+  const quarn_innerenvelopedkeypair *inner = quarn_envelopedkeypair_getkeypair(other);
   ASSERT_NE(inner, nullptr) << "the version and an element";
   EXPECT_EQ(quarn_innerenvelopedkeypair_gettype(inner), UINT32_MAX);
   EXPECT_EQ(quarn_innerenvelopedkeypair_getrsa(inner), nullptr);
-  const quarn_rsaenvelopedkeypair *other = g(QUARN_ASN1_RSAENVELOPEDKEYPAIR, "30 03 02 01 01");
-  EXPECT_EQ(quarn_rsaenvelopedkeypair_getsymalgo(other), nullptr);
 }
 
 TEST(Names, take_steps_over_or_leave_them_to_the_caller_and_forget_their_octets) {
@@ -304,43 +289,34 @@ TEST(Names, take_steps_over_or_leave_them_to_the_caller_and_forget_their_octets)
     const Held name(QUARN_ASN1_X500NAME, "30 81 00");
     auto *n = name.as<quarn_x500name>();
     for (const int copy : {1, 0}) {
-      void *rdn = nullptr;
-      quarn_asn1_mem_decode(octets_of("\x31"), 2, QUARN_ASN1_X500RDN, &rdn);
-      const int added = quarn_x500name_addrdn(n, Lent{rdn}, copy);
+      quarn_asn1_list *rdn = quarn_asn1_list_new();
+      const int added = quarn_x500name_addrdn(n, rdn, copy);
       EXPECT_TRUE(added == 1 || allocation.failed());
       if (copy == 1 || added != 1) quarn_asn1_value_free(QUARN_ASN1_X500RDN, rdn);
     }
-    if (allocation.failed()) return;
+    const bool whole = !allocation.failed();
     allocation.never_fail();
-    EXPECT_EQ(name.encoding(), hex("30 04 (31 00)*2"));
-    EXPECT_EQ(quarn_x500name_addrdn(n, nullptr, 1), 0);
-    EXPECT_EQ(
-        quarn_x500name_addrdn(nullptr, Held(QUARN_ASN1_X500RDN, "31 00").as<quarn_asn1_list>(), 1),
-        0);
+    if (whole) {
+      EXPECT_EQ(name.encoding(), hex("30 04 (31 00)*2"));
+    }
   });
 }
 
 TEST(Sorting, goes_through_contexts_and_leaves_steps_where_they_are) {
+  const std::string as_given = "30 07 06012B 31020500 30 07 06012A 31020500 ";
+  const std::string sorted = "30 07 06012A 31020500 30 07 06012B 31020500 ";
   const std::string a = "30 05 06012A 0500 ";
-  const std::string b = "30 05 06012B 0500 ";
-  const Held name(QUARN_ASN1_X500NAME, hex("30 19 31 0E " + b + a + "31 07 " + a));
+  const std::string b = "30 1D 06012B 0500 31 16 30 14 31 12 ";
+  const Held name(QUARN_ASN1_X500NAME, hex("30 31 31 26 " + b + as_given + a + "31 07 " + a));
   EXPECT_EQ(quarn_x500name_sort(name.as<quarn_x500name>()), 1);
-  EXPECT_EQ(name.encoding(), hex("30 19 31 0E " + a + b + "31 07 " + a));
-  EXPECT_NE(quarn_x500name_sort(nullptr), 1);
+  EXPECT_EQ(name.encoding(), hex("30 31 31 26 " + a + b + sorted + "31 07 " + a));
 
-  const std::string contexts_as_given = "30 07 06012B 31020500 30 07 06012A 31020500 ";
-  const std::string contexts_sorted = "30 07 06012A 31020500 30 07 06012B 31020500 ";
-  const std::string rdn = "31 1F 30 1D 06012A 0500 31 16 30 14 31 12 ";
-  const Held sorted(QUARN_ASN1_X500RDN, hex(rdn + contexts_as_given));
-  EXPECT_EQ(quarn_x500RDN_sort(sorted.as<quarn_asn1_list>()), 1);
-  EXPECT_EQ(sorted.encoding(), hex(rdn + contexts_sorted));
-
-  const std::string with_contexts = "31 18 30 16 0500 31 12 ";
+  const std::string contexts = "31 18 30 16 0500 31 12 ";
   const Held values(QUARN_ASN1_X500ATTRIBUTE,
-                    hex("30 24 06012A 31 05 0500 0101FF" + with_contexts + contexts_as_given));
+                    hex("30 24 06012A 31 05 0500 0101FF " + contexts + as_given));
   EXPECT_EQ(quarn_x500attribute_sort(values.as<quarn_x500attribute>()), 1);
-  EXPECT_EQ(values.encoding(),
-            hex("30 24 06012A 31 05 0101FF 0500" + with_contexts + contexts_sorted));
+  EXPECT_EQ(values.encoding(), hex("30 24 06012A 31 05 0101FF 0500 " + contexts + sorted));
+  EXPECT_NE(quarn_x500name_sort(nullptr), 1);
 }
 
 // PEM, or without a label base64.

@@ -45,6 +45,7 @@ constexpr char kBothWays[] = R"(
 02 05 FF00000000 | {"type":"INTEGER","value":"-0X0100000000"}
 03 02 07 FF | {"type":"BITSTRING","value":{"unused bits":7,"value":"FF"}}
 06 03 883703 | {"type":"OID","value":"2.999.3"}
+0D 03 813403 | {"type":"ROID","value":"180.3"}
 0C 05 E282AC 00 1F | {"type":"UTF8STRING","value":"€\u0000\u001f"}
 13 02 61FF | {"type":"PRINTABLESTRING","user defined":{"content":"61FF","length":2}}
 14 02 C1E9 | {"type":"TELETEXSTRING","value":"C1E9"}
@@ -63,6 +64,7 @@ DF 87FFFFFF7F 00 | {"type":"TAGGEDTYPE","class":"PRIVATE","implicit":true,"numbe
 06 02 2A86 | {"type":"OID","value":"1.2"} | 06012A
 06 01 86 | {"type":"OID","value":""} | null
 # The constructed form of a type without a name, and its primitive form of indefinite length.
+28 02 0500 | {"type":"UNKNOWN","user defined":{"identifier":"28"},"constructed":true,"value":[{"type":"NULL"}]} | null
 1F1F 80 0000 | {"type":"UNKNOWN","user defined":{"identifier":"3F1F"},"constructed":true,"indefinite":true,"value":[]} | null)";
 
 TEST(Json, elements_render_and_come_back) {
@@ -120,11 +122,13 @@ constexpr char kOneWay[] = R"(
 17 01 3F | {"type":"UTCTIME","value":"?"}
 # Forms and lengths.
 04 80 0500 0000 | {"type":"OCTETSTRING","indefinite":true,"value":[{"type":"NULL"}]}
+24 02 0500 | {"type":"OCTETSTRING","constructed":true,"value":[{"type":"NULL"}]}
 05 00 | {"type":"NULL","indefinite":true,"constructed":1,"value":7}
 30 00 | {"type":"SEQUENCEOF","indefinite":"true","value":[]}
 # Tags.
 3F 8100 00 | {"type":"TAGGEDTYPE","class":"UNIVERSAL","number":128,"implicit":true,"value":{"type":"SEQUENCE","value":[]}}
 81 01 FF | {"type":"TAGGEDTYPE","number":1,"implicit":true,"indefinite":true,"constructed":true,"value":{"type":"TAGGEDTYPE","implicit":true,"value":{"type":"BOOLEAN","value":true,"user defined":{"identifier":"05","content":"00"}}}}
+A1 80 0500 0000 | {"type":"TAGGEDTYPE","number":1,"implicit":true,"value":{"type":"TAGGEDTYPE","indefinite":true,"value":{"type":"NULL"}}}
 A1 02 0500 | {"type":"TAGGEDTYPE","number":1,"implicit":true,"user defined":{"length":2,"content":"0500"}}
 # Overrides.
 30 04 AA | {"type":"SEQUENCE","value":[{"type":"NULL"},{"type":"NULL"}],"user defined":{"content":"AA"}}
@@ -212,7 +216,7 @@ std::string sorted_set(const std::string &type,
 }
 
 TEST(Json, sets_are_sorted_on_request) {
-  const std::string unsorted = sorted_set("SETOF", {"02", "01"});
+  const std::string inner = sorted_set("SETOF", {"02", "01"});
   const std::string replaced =
       sorted_set("SETOF", {"02", "01"}, R"(,"user defined":{"content":"00"})");
   const std::pair<std::string, const char *> rows[] = {
@@ -226,7 +230,7 @@ TEST(Json, sets_are_sorted_on_request) {
       {sorted_set("SETOF", {"0500", "", "FF", "05", "0401", "050000", "050001"}),
        "310C0401050005050000050001FF"},
       // An inner set is in order before the outer one compares it; what is replaced is gone.
-      {sorted_set("SETOF", {"31020102FF", unsorted, "31020101"}), "310D310201013102010231020102FF"},
+      {sorted_set("SETOF", {"31020102FF", inner, "31020101"}), "310D310201013102010231020102FF"},
       {sorted_set("SETOF", {"0502", replaced, "04"}), "3106040502310200"},
       {sorted_set("SETOF", {"02", "01"}, R"(,"indefinite":true)"), "318002010000"},
   };
