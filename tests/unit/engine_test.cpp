@@ -1,10 +1,9 @@
 // What octets cannot show of structured types: values, content functions,
-// lengths, restrictions, schemas, and where failures are said to lie.
+// lengths, restrictions, and where failures are said to lie.
 #include <gtest/gtest.h>
 
 #include "core/build.h"
 #include "core/engine.h"
-#include "core/schema_check.h"
 #include "tests/unit/values.h"
 #include "types/list.h"
 
@@ -160,33 +159,6 @@ TEST(Path, a_failure_names_the_components_it_lies_in) {
     EXPECT_NE(quarn_asn1_decode(in.get(), id, &value, nullptr, ctx.get()), 1);
     EXPECT_STREQ(quarn_err_ctx_path(ctx.get()), path);
   }
-}
-
-// What no decoder could follow, and much the same that it can.
-TEST(SchemaCheck, refuses_what_cannot_be_told_apart_or_tagged) {
-  const Unit unit{"engine_test"};
-  const SchemaCheck check(find_type(0));
-  const auto is_record = [&](std::initializer_list<Field> fields) {
-    return check.well_formed(record("", unit, {fields.begin(), fields.size()}));
-  };
-  constexpr auto kName = QUARN_ASN1_X509GENERALNAME;  // a CHOICE with 8 tags
-  const Field truth = field("", QUARN_ASN1_BOOLEAN);
-  const Field later = field("", QUARN_ASN1_BOOLEAN, optional());
-  const auto shared = [](quarn_asn1_type_id type) {
-    return field("", type, implicit_tag(0), primitive_form(), optional());
-  };
-  EXPECT_TRUE(is_record({later, field("", QUARN_ASN1_INTEGER), later}));
-  EXPECT_FALSE(is_record({later, truth}));
-  EXPECT_FALSE(is_record({field("", QUARN_ASN1_TIME, optional()), field("", QUARN_ASN1_UTCTIME)}));
-  EXPECT_FALSE(
-      is_record({field("", kName, optional()), field("", QUARN_ASN1_INTEGER, implicit_tag(2))}));
-  EXPECT_FALSE(is_record({field("", QUARN_ASN1_ANY, optional())})) << "it is decoded whole";
-  EXPECT_FALSE(is_record({field("", kName, implicit_tag(1))})) << "no tag to replace";
-  EXPECT_TRUE(is_record({field("", kName, explicit_tag(1))}));
-  EXPECT_FALSE(is_record({field("", QUARN_ASN1_INTEGER, defaults_to(true))}));
-  EXPECT_TRUE(is_record({shared(QUARN_ASN1_ANYLIST), shared(QUARN_ASN1_ANYLIST)}));
-  EXPECT_FALSE(is_record({shared(QUARN_ASN1_ANYLIST), shared(QUARN_ASN1_ANYSET)}));
-  EXPECT_FALSE(is_record({shared(QUARN_ASN1_BOOLEAN)})) << "only lists and records have two forms";
 }
 
 }  // namespace

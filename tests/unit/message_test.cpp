@@ -12,23 +12,21 @@ namespace {
 using Places = std::vector<std::int64_t>;
 
 // Content of every form, as it may stand in a message, and what it is.
-struct Case {
+const struct Case {
   const char *element;
   const char *content;
-};
-const Case kContents[] = {
+  bool is_octets = true;  // which alone some messages hold
+} kContents[] = {
     {"04 03 41 42 43", "41 42 43"},
     {"24 00", ""},
     {"24 80 00 00", ""},
     {"24 07 04 01 41 04 02 42 43", "41 42 43"},
     {"24 80 24 80 04 01 41 00 00 04 00 24 04 04 02 42 43 00 00", "41 42 43"},
     {"04 82 00 01 41", "41"},
-};
-const Case kOtherContents[] = {
-    {"30 03 02 01 05", "02 01 05"},
-    {"30 80 02 01 05 30 80 05 00 00 00 00 00", "02 01 05 30 80 05 00 00 00"},
-    {"05 00", ""},
-    {"5F 81 01 01 41", "41"},
+    {"30 03 02 01 05", "02 01 05", false},
+    {"30 80 02 01 05 30 80 05 00 00 00 00 00", "02 01 05 30 80 05 00 00 00", false},
+    {"05 00", "", false},
+    {"5F 81 01 01 41", "41", false},
 };
 
 // A message: what stands around the info that holds the content, and what that looks like.
@@ -149,11 +147,11 @@ void expect_apart(const Shape &shape, bool indefinite, const Case &content) {
 
 TEST(Message, every_type_in_every_form_is_decoded_apart) {
   for (const Shape &shape : kShapes) {
-    for (const bool indefinite : {false, true}) {
-      SCOPED_TRACE(testing::Message() << shape.type << ' ' << indefinite);
-      for (const Case &each : kContents) expect_apart(shape, indefinite, each);
-      if (shape.info != Info::any) continue;
-      for (const Case &each : kOtherContents) expect_apart(shape, indefinite, each);
+    for (const Case &each : kContents) {
+      if (shape.info != Info::any && !each.is_octets) continue;
+      SCOPED_TRACE(testing::Message() << shape.type << ' ' << each.element);
+      expect_apart(shape, false, each);
+      expect_apart(shape, true, each);
     }
   }
 }
@@ -161,10 +159,10 @@ TEST(Message, every_type_in_every_form_is_decoded_apart) {
 // Types that the notation says nothing of content for, and arguments that make no sense.
 TEST(Message, what_cannot_be_decoded_apart_is_refused) {
   const auto type = kShapes[0].type;
-  const Stream stream = memory_stream(message(kShapes[0], false, hex("04 01 41")));
-  int accepted = 0;
+  const Stream stream = memory_stream({});
+  std::size_t accepted = 0;
   for (std::uint32_t id = 0; id < QUARN_ASN1_TYPE_COUNT; id++) {
-    accepted += apart(memory_stream({}).get(), id).codes != Codes{QUARN_ERROR_ARGUMENT};
+    if (apart(stream.get(), id).codes != Codes{QUARN_ERROR_ARGUMENT}) accepted++;
   }
   EXPECT_EQ(accepted, std::size(kShapes));
   EXPECT_EQ(apart(stream.get(), QUARN_ASN1_TYPE_COUNT).codes, Codes{QUARN_ASN1_ERROR_TYPE});
