@@ -206,29 +206,13 @@ TEST(Constructors, make_what_the_rules_say_or_nothing) {
   }
 }
 
-TEST(Copies, of_a_lone_list_under_a_shared_tag_are_of_the_first) {
-  constexpr auto kType = QUARN_ASN1_AC_AACONTROLS;
+TEST(Getters, tell_null_parameters_from_others) {
   Given g;
-  const Lent excluded =
-      g.own(kType,
-            quarn_ac_aacontrols_new(nullptr, nullptr, g(QUARN_ASN1_AC_ATTRSPEC, "30 00"), nullptr));
-  const quarn_ac_aacontrols *copy =
-      g.own(kType, quarn_asn1_dupobject(kType, excluded.value, nullptr));
-  EXPECT_EQ(quarn_ac_aacontrols_haspermittedattrs(copy), 1);
-  EXPECT_EQ(quarn_ac_aacontrols_hasexcludedattrs(copy), 0);
-}
-
-TEST(Getters, tell_what_the_encoding_leaves_out) {
-  Given g;
-  const quarn_x509aaidp *point = g(QUARN_ASN1_X509AAIDP, "30 00");
-  EXPECT_EQ(quarn_asn1_boolean_istrue(quarn_x509aaidp_getcontainsaacerts(point)), 1);
-  EXPECT_EQ(quarn_asn1_boolean_istrue(quarn_x509aaidp_getindirectcrl(point)), 0);
   for (const char *other : {"30 03 06 01 2A", "30 05 06 01 2A 04 00", "30 05 06 01 2A 85 00"}) {
     EXPECT_EQ(quarn_x509algoid_isnullparam(g(QUARN_ASN1_X509ALGORITHMID, other)), 0);
   }
   const Lent null = g(QUARN_ASN1_X509ALGORITHMID, "30 05 06 01 2A 05 00");
   EXPECT_EQ(quarn_x509algoid_isnullparam(null), 1);
-  EXPECT_EQ(quarn_pkcs10certreq_hasattrs(g(QUARN_ASN1_PKCS10CERTREQ, kRequest)), 1) << "empty";
 }
 
 TEST(Getters, of_what_has_no_name_of_its_own) {
@@ -333,7 +317,7 @@ template <auto kLoad>
 void expect_loaded(std::int64_t type,
                    const std::string &encoding,
                    const std::vector<const char *> &labels) {
-  const auto load = [](const std::string &file, quarn_err_ctx *ctx = nullptr) {
+  const auto load = [](const std::string &file, quarn_err_ctx *ctx) {
     return kLoad(octets_of(file.data()), static_cast<std::int64_t>(file.size()), ctx);
   };
   const Octets expected = hex(encoding);
@@ -342,23 +326,20 @@ void expect_loaded(std::int64_t type,
   for (const char *label : labels) good.push_back(as_text(label, octets));
   for (const std::string &file : good) {
     fail_each_allocation([&](Allocation &allocation) {
-      const Held loaded(type, load(file));
+      const Held loaded(type, load(file, nullptr));
       EXPECT_TRUE(loaded.encoding() == expected || allocation.failed()) << file;
     });
   }
   const std::string pem = as_text(labels[0], octets);
-  const std::string bad[] = {"",
-                             octets + '\0',
+  const std::string bad[] = {octets + '\0',
                              " " + as_text(nullptr, octets),
                              "\n" + pem,
                              as_text("PKCS7", octets),
                              as_text(labels[0], octets + '\0'),
                              pem.substr(0, 60),
-                             as_text(nullptr, octets + '\0'),
-                             "M",
-                             "-",
-                             "0"};
-  for (const std::string &file : bad) EXPECT_EQ(load(file), nullptr) << file;
+                             as_text(nullptr, octets + '\0')};
+  for (const char *file : {"", "M", "-", "0"}) EXPECT_EQ(load(file, nullptr), nullptr);
+  for (const std::string &file : bad) EXPECT_EQ(load(file, nullptr), nullptr) << file;
   const Context ctx(quarn_err_ctx_new());
   EXPECT_EQ(load(octets.substr(0, 9), ctx.get()), nullptr);
   EXPECT_FALSE(codes_in(ctx.get()).empty());

@@ -223,14 +223,12 @@ TEST(Message, every_cut_failed_call_and_failed_allocation_gives_no_message) {
     source.fail_after(static_cast<std::int64_t>(size));
     EXPECT_EQ(apart(source.stream().get(), type).value.get(), nullptr) << size;
   }
-  for (int calls = 0; calls < 2; calls++) {
-    SlowSink sink;
-    sink.fail_after(calls);
-    const Outcome got = apart(memory_stream(octets).get(), type, sink.stream().get());
-    EXPECT_EQ(got.value.get(), nullptr);
-    EXPECT_EQ(got.codes.front(), QUARN_STREAM_ERROR_WRITE);
-    EXPECT_EQ(sink.octets(), calls == 0 ? Octets{} : Octets{0x41});
-  }
+  SlowSink sink;
+  sink.fail_after(1);
+  const Outcome got = apart(memory_stream(octets).get(), type, sink.stream().get());
+  EXPECT_EQ(got.value.get(), nullptr);
+  EXPECT_EQ(got.codes.front(), QUARN_STREAM_ERROR_WRITE);
+  EXPECT_EQ(sink.octets(), hex("41"));
   fail_each_allocation([&](Allocation &allocation) {
     const Stream stream = memory_stream(octets);
     const Stream out(quarn_stream_new_mem(0, nullptr));
