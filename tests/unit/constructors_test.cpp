@@ -60,15 +60,14 @@ class Given {
 const std::string kAlgorithm = "30 03 06 01 2A ";
 const std::string kSignature = "03 02 06 40 ";
 const std::string kTime = R"(17 0D "240101000000Z" )";
-const std::string kDays = R"((18 0F "20500101000000Z")*2 )";
 const std::string kKey = "30 08 30 03 06 01 2A 03 01 00 ";
 
 const std::string kCertificateBody =
     "30 36 02 01 05 " + kAlgorithm + "30 00 30 1E " + kTime + kTime + "30 00 " + kKey;
 const std::string kListBody = "30 16 " + kAlgorithm + "30 00 " + kTime;
 const std::string kRequestBody = "30 11 02 01 00 30 00 " + kKey + "A0 00 ";
-const std::string kAttributesBody =
-    "30 35 02 01 01 30 00 30 00 " + kAlgorithm + "02 01 05 30 22 " + kDays + "30 00 ";
+const std::string kAttributesBody = "30 35 02 01 01 30 00 30 00 " + kAlgorithm +
+                                    R"(02 01 05 30 22 (18 0F "20500101000000Z")*2 30 00 )";
 
 const std::string kCertificate = "30 41 " + kCertificateBody + kAlgorithm + kSignature;
 const std::string kList = "30 21 " + kListBody + kAlgorithm + kSignature;

@@ -1,9 +1,8 @@
 // What octets cannot show of structured types: values, content functions,
-// lengths, restrictions, and where failures are said to lie.
-#include <gtest/gtest.h>
-
-#include "core/build.h"
+// lengths, restrictions, where failures are said to lie, and reflection where there is nothing to
+// show.
 #include "core/engine.h"
+#include "core/build.h"
 #include "tests/unit/values.h"
 #include "types/list.h"
 
@@ -150,6 +149,24 @@ TEST(Path, a_failure_names_the_components_it_lies_in) {
     EXPECT_NE(quarn_asn1_decode(in.get(), id, &value, nullptr, ctx.get()), 1);
     EXPECT_STREQ(quarn_err_ctx_path(ctx.get()), path);
   }
+}
+
+TEST(Inspect, every_type_has_a_name_and_what_it_cannot_show_is_nothing) {
+  quarn_asn1_shape shape{};
+  for (std::int64_t id = 0; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    ASSERT_EQ(quarn_asn1_type_shape(id, &shape), 1);
+    EXPECT_STRNE(shape.name, "");
+    EXPECT_NE(shape.kind, QUARN_ASN1_KIND_UNKNOWN) << shape.name;
+    EXPECT_EQ(quarn_asn1_component_count(id, nullptr), 0);
+  }
+  EXPECT_EQ(quarn_asn1_type_shape(-1, &shape), 0);
+  EXPECT_EQ(quarn_asn1_type_shape(QUARN_ASN1_TYPE_COUNT, &shape), 0);
+  EXPECT_EQ(quarn_asn1_type_shape(QUARN_ASN1_TIME, nullptr), 0);
+  const Held list(QUARN_ASN1_ANYLIST, "30 00");
+  quarn_asn1_component part{};
+  EXPECT_EQ(quarn_asn1_component_get(QUARN_ASN1_ANYLIST, list.get(), 0, &part), 0);
+  EXPECT_EQ(quarn_asn1_component_get(QUARN_ASN1_ANYLIST, list.get(), -1, &part), 0);
+  EXPECT_EQ(quarn_asn1_component_get(-1, list.get(), 0, &part), 0);
 }
 
 }  // namespace

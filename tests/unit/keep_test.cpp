@@ -1,7 +1,5 @@
 // Octets that names and signed objects keep: where they lie, what drops them, what a failure
 // leaves.
-#include <gtest/gtest.h>
-
 #include <thread>
 
 #include "core/build.h"
