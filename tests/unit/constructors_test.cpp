@@ -36,6 +36,7 @@ class Given {
   void makes(const char *what, std::int64_t type, void *value, const std::string &encoding) {
     const Octets made = owned_.emplace_back(type, value).encoding();
     if (allocation_ != nullptr && allocation_->failed()) return;
+    EXPECT_EQ(value == nullptr, encoding.empty()) << what;
     EXPECT_EQ(made, hex(encoding)) << what;
   }
 
