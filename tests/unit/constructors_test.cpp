@@ -147,6 +147,8 @@ void keys_and_certificates(Given &g) {
       "a public key", QUARN_ASN1_PKCS8PRIVATEKEYINFO,
       quarn_pkcs8privatekeyinfo_newv2(g.integer(), g.algorithm(), g.octets(), nullptr, g.bits()),
       "30 0F 02 01 05 " + kAlgorithm + "04 01 41 81 02 06 40");
+  g.makes("too few octets", QUARN_ASN1_PKCS5RC2CBCPARAMETER,
+          quarn_pkcs5rc2cbcparameter_new(nullptr, g.octets()), "");
   g.makes("unknown", QUARN_ASN1_OCSP_CERTSTATUS, quarn_ocsp_certstatus_newunknown(), "82 00");
   const std::string digest = "30 0A " + kAlgorithm;
   const auto sign = quarn_cmsalgorithmprotection_newsign;
