@@ -1,28 +1,22 @@
-// What octets cannot show of structured types: values, content functions, lengths, schemas.
-#include <gtest/gtest.h>
-
+// What octets cannot show of structured types: values, content functions, restrictions, where
+// failures are said to lie.
 #include "core/engine.h"
-#include "core/schema_check.h"
+
+#include "core/build.h"
 #include "tests/unit/values.h"
 #include "types/list.h"
 
 namespace quarn::asn1 {
 namespace {
 
+using test::Codes;
 using test::Context;
+using test::encoding_of;
+using test::growable;
 using test::Held;
+using test::hex;
+using test::Octets;
 using test::Stream;
-
-TEST(Engine, a_default_is_held_and_an_absent_component_is_null) {
-  const Held value(QUARN_ASN1_X509BASICCONSTRAINTS, "30 00");
-  EXPECT_EQ(quarn_asn1_boolean_istrue(static_cast<quarn_asn1_boolean *>(component(value.get(), 0))),
-            0);
-  EXPECT_EQ(component(value.get(), 1), nullptr);
-  const Held tree(QUARN_ASN1_X509GENERALTREE, "30 03 820161");
-  std::int64_t minimum = -1;
-  quarn_asn1_integer_getlong(static_cast<quarn_asn1_integer *>(component(tree.get(), 1)), &minimum);
-  EXPECT_EQ(minimum, 0);
-}
 
 TEST(Engine, alternatives_have_the_numbers_that_callers_know) {
   const struct {
@@ -33,8 +27,6 @@ TEST(Engine, alternatives_have_the_numbers_that_callers_know) {
   } rows[] = {
       {QUARN_ASN1_X509GENERALNAME, "86 01 75", 6, UINT32_MAX},
       {QUARN_ASN1_X500DIRSTRING, "13 01 75", 19, 0},
-      {QUARN_ASN1_IDENTITYCODE, "82 01 41", 2, UINT32_MAX},
-      {QUARN_ASN1_TYPEOFBIOMETRICDATA, "02 01 05", 1, UINT32_MAX},
       {QUARN_ASN1_TYPEOFBIOMETRICDATA, "06 01 2A", 2, UINT32_MAX},
   };
   for (const auto &[id, octets, number, of_null] : rows) {
@@ -45,6 +37,10 @@ TEST(Engine, alternatives_have_the_numbers_that_callers_know) {
     EXPECT_EQ(alternative(type, value.get(), number + 1), nullptr);
     EXPECT_EQ(alternative_number(type, nullptr), of_null);
     EXPECT_EQ(alternative(type, nullptr, number), nullptr);
+    const auto type_id = static_cast<quarn_asn1_type_id>(id);
+    const void *inside = alternative(type, value.get(), number);
+    EXPECT_EQ(build_alternative(type_id, 99, inside), nullptr);
+    EXPECT_EQ(build_alternative(type_id, 1ull << 32 | number, inside), nullptr);
   }
 }
 
@@ -62,106 +58,115 @@ TEST(Engine, content_is_written_in_the_form_that_is_asked_for) {
   };
   for (const auto &[id, octets, length, content] : rows) {
     const Held value(id, octets);
-    const Stream out = test::growable();
+    const Stream out = growable();
     std::uint64_t written = 0;
     EXPECT_EQ(quarn_asn1_encode_content(out.get(), id, value.get(), length, &written, nullptr), 1);
-    EXPECT_EQ(test::held_by(out), test::hex(content));
-    EXPECT_EQ(written, test::hex(content).size());
+    EXPECT_EQ(test::held_by(out), hex(content));
+    EXPECT_EQ(written, hex(content).size());
   }
-  void *value = &value;
-  const Stream in = test::memory_stream({0x61});
-  EXPECT_EQ(quarn_asn1_decode_content(in.get(), QUARN_ASN1_X509GENERALNAME, &value, 1, 1, nullptr,
-                                      nullptr),
-            0);
-  EXPECT_EQ(value, nullptr) << "content alone does not tell the alternative";
+}
+
+constexpr std::int64_t kWhole = -9;
+
+// The codes of a value that is not encoded, or whose content is not.
+Codes refusal_of(std::int64_t id, void *value, std::int64_t length = kWhole) {
+  const Context ctx(quarn_err_ctx_new());
+  const Stream out = growable();
+  const int result = length == kWhole ? quarn_asn1_encode(out.get(), id, value, nullptr, ctx.get())
+                                      : quarn_asn1_encode_content(out.get(), id, value, length,
+                                                                  nullptr, ctx.get());
+  EXPECT_EQ(result, 0);
+  return test::codes_in(ctx.get());
 }
 
 TEST(Engine, a_value_with_a_part_missing_is_refused) {
-  Value extension(type_of(QUARN_ASN1_X509EXTENSION),
-                  new_record(*type_of(QUARN_ASN1_X509EXTENSION).schema));
-  Value names(type_of(QUARN_ASN1_X509GENERALNAMES), quarn_asn1_list_new());
-  const auto codes_of = [](std::int64_t id, void *value) {
-    const Context ctx(quarn_err_ctx_new());
-    const Stream out(quarn_stream_new_mem(0, nullptr));
-    EXPECT_EQ(quarn_asn1_encode(out.get(), id, value, nullptr, ctx.get()), 0);
-    return test::codes_in(ctx.get());
-  };
+  const Value extension(type_of(QUARN_ASN1_X509EXTENSION),
+                        new_record(*type_of(QUARN_ASN1_X509EXTENSION).schema));
   EXPECT_EQ(quarn_asn1_length(QUARN_ASN1_X509EXTENSION, extension.get()), -2);
-  EXPECT_EQ(codes_of(QUARN_ASN1_X509EXTENSION, extension.get()),
-            std::vector<int>{QUARN_ASN1_ERROR_ITEM_LENGTH});
+  EXPECT_EQ(refusal_of(QUARN_ASN1_X509EXTENSION, extension.get()),
+            Codes{QUARN_ASN1_ERROR_ITEM_LENGTH});
+  const Value names(type_of(QUARN_ASN1_X509GENERALNAMES), quarn_asn1_list_new());
   auto *name = util::allocate<Choice>();
   name->index = 1;
   ASSERT_EQ(quarn_asn1_list_put(static_cast<quarn_asn1_list *>(names.get()), name), 1);
-  EXPECT_EQ(codes_of(QUARN_ASN1_X509GENERALNAME, name), std::vector<int>{QUARN_ASN1_ERROR_MEASURE});
-  EXPECT_EQ(codes_of(QUARN_ASN1_X509GENERALNAMES, names.get()),
-            std::vector<int>{QUARN_ASN1_ERROR_ITEM_LENGTH});
+  EXPECT_EQ(refusal_of(QUARN_ASN1_X509GENERALNAME, name), Codes{QUARN_ASN1_ERROR_MEASURE});
+  EXPECT_EQ(refusal_of(QUARN_ASN1_X509GENERALNAMES, names.get()),
+            Codes{QUARN_ASN1_ERROR_ITEM_LENGTH});
 }
 
-// Schemas that no decoder could follow are refused when the registry is compiled.
-constexpr Codec kNothing{};
-constexpr Unit kUnit{"engine_test"};
-constexpr Field kEitherTag[] = {field("a", QUARN_ASN1_BOOLEAN, implicit_tag(0)),
-                                field("b", QUARN_ASN1_BOOLEAN)};
-constexpr Schema kEither = choice("Either", kUnit, kEitherTag);
+TEST(Engine, strings_of_all_choices_are_one_type) {
+  // An alternative that the other CHOICE does not have, and one that stands elsewhere in it.
+  const Held ia5(QUARN_ASN1_PKCS9STRING, "16 01 61");
+  const Held bmp(QUARN_ASN1_PKCS9STRING, "1E 02 0061");
+  EXPECT_EQ(string_tag(QUARN_ASN1_X500DIRSTRING, ia5.get()), 22u);
+  EXPECT_EQ(encoding_of(QUARN_ASN1_X500DIRSTRING, ia5.get()), hex("16 01 61"));
+  EXPECT_EQ(quarn_asn1_dupobject(QUARN_ASN1_X500DIRSTRING, ia5.get(), nullptr), nullptr);
+  const Held copy(QUARN_ASN1_DISPLAYTEXT,
+                  quarn_asn1_dupobject(QUARN_ASN1_DISPLAYTEXT, bmp.get(), nullptr));
+  EXPECT_EQ(copy.encoding(), hex("1E 02 0061"));
+}
 
-struct Rows {
-  Type rows[QUARN_ASN1_ANYSET + 1];
-};
-constexpr Rows small_registry() {
-  Rows made{};
-  for (Type &row : made.rows) row = {"", &kNothing, nullptr, 0, 0, 0, -1};
-  made.rows[QUARN_ASN1_BOOLEAN].tag_number = 1;
-  made.rows[QUARN_ASN1_INTEGER].tag_number = 2;
-  made.rows[QUARN_ASN1_UTCTIME].tag_number = 23;
-  made.rows[QUARN_ASN1_BOOLEAN].form = made.rows[QUARN_ASN1_INTEGER].form = 1;
-  for (const auto id : {QUARN_ASN1_ANYLIST, QUARN_ASN1_ANYSET}) {
-    made.rows[id].tag_number = 16;
-    made.rows[id].form = 0;
+TEST(Engine, a_copy_is_what_the_encoding_decodes_to) {
+  constexpr auto kId = QUARN_ASN1_AC_IETFATTRSYNTAXVALUE;
+  const Held string(kId, "0C 01 61");
+  EXPECT_EQ(choice_number(kId, string.get()), 2u);
+  const Held copy(kId, quarn_asn1_dupobject(kId, string.get(), nullptr));
+  EXPECT_EQ(choice_number(kId, copy.get()), 0u);
+}
+
+TEST(Engine, a_value_that_is_not_allowed_is_not_encoded) {
+  const Held pair(QUARN_ASN1_X500ATTRTYPEDISTVAL, "30 08 060155 130141 3100");
+  const Held attribute(QUARN_ASN1_X500ATTRIBUTE, "30 0A 060155 3103130141 3100");
+  const Held names(QUARN_ASN1_X509NAMECONSTAINTS, "30 02 A200");
+  const Held uuids(QUARN_ASN1_X500UUIDPAIR, "30 24 (04 10 (41)*16)*2");
+  EXPECT_EQ(refusal_of(QUARN_ASN1_PKIXATTRTYPEVAL, pair.get()), Codes{0x10274});
+  EXPECT_EQ(refusal_of(QUARN_ASN1_PKIXATTRTYPEVAL, pair.get(), 8), Codes{0x10274});
+  EXPECT_EQ(refusal_of(QUARN_ASN1_PKCS10ATTRIBUTE, attribute.get()), Codes{0x1020b});
+  EXPECT_EQ(refusal_of(QUARN_ASN1_PKCS10ATTRIBUTE, attribute.get(), 10), Codes{0x1027d});
+  EXPECT_EQ(refusal_of(QUARN_ASN1_PKIXNAMECONSTAINTS, names.get(), 2), Codes{0x102ce});
+  EXPECT_EQ(refusal_of(QUARN_ASN1_X500UUIDPAIR, uuids.get(), 35), Codes{QUARN_ERROR_RANGE});
+}
+
+TEST(Path, a_failure_names_the_components_it_lies_in) {
+  const struct {
+    quarn_asn1_type_id id;
+    const char *octets;
+    const char *path;
+  } rows[] = {
+      {QUARN_ASN1_X509EXTENSIONS, "30 10 3006 06012A 040178 3006 06012A 050178", "[1].extnValue"},
+      {QUARN_ASN1_X509DISTPOINT, "30 07 A005 A003 880180",
+       "distributionPoint.fullName[0].registeredID"},
+      {QUARN_ASN1_PKCS10CERTREQ, "30 10 300E 020100 3009 3107 3005 060180 0500",
+       "certificationRequestInfo.subject[0][0].type"},
+      {QUARN_ASN1_X509EXTENSION, "31 00", ""},  // the value itself is another one
+  };
+  for (const auto &[id, octets, path] : rows) {
+    const Context ctx(quarn_err_ctx_new());
+    const Octets input = hex(octets);
+    const Stream in = test::memory_stream(input);
+    void *value = nullptr;
+    EXPECT_NE(quarn_asn1_decode(in.get(), id, &value, nullptr, ctx.get()), 1);
+    EXPECT_STREQ(quarn_err_ctx_path(ctx.get()), path);
   }
-  made.rows[QUARN_ASN1_OID].schema = &kEither;  // stands for a CHOICE
-  return made;
-}
-constexpr Rows kRows = small_registry();
-constexpr auto kChoiceId = QUARN_ASN1_OID;
-
-template <typename... Fields>
-constexpr bool is_record(Fields... fields) {
-  const Field all[] = {fields...};
-  return SchemaCheck(kRows.rows).well_formed(record("", kUnit, all));
 }
 
-constexpr Field kBool = field("", QUARN_ASN1_BOOLEAN);
-constexpr Field kBoolLater = field("", QUARN_ASN1_BOOLEAN, optional());
-constexpr Field kInt = field("", QUARN_ASN1_INTEGER);
-constexpr Field kIntLater = field("", QUARN_ASN1_INTEGER, optional());
-
-static_assert(is_record(kBoolLater, kInt, kBoolLater), "a mandatory component parts the two");
-static_assert(!is_record(kBoolLater, kBool));
-static_assert(!is_record(field("", QUARN_ASN1_TIME, optional()), field("", QUARN_ASN1_UTCTIME)));
-static_assert(!is_record(kBoolLater, field("", kChoiceId)));
-static_assert(!is_record(field("", kChoiceId, optional()),
-                         field("", QUARN_ASN1_INTEGER, implicit_tag(0))));
-static_assert(!is_record(field("", QUARN_ASN1_ANY, optional())), "an open type is decoded whole");
-static_assert(!is_record(field("", kChoiceId, implicit_tag(1))), "a CHOICE has no tag to replace");
-static_assert(is_record(field("", kChoiceId, explicit_tag(1))));
-static_assert(!is_record(field("", QUARN_ASN1_INTEGER, defaults_to(true))));
-
-constexpr Field shared(quarn_asn1_type_id type) {
-  return field("", type, implicit_tag(0), primitive_form(), optional());
+TEST(Inspect, every_type_has_a_name_and_what_it_cannot_show_is_nothing) {
+  quarn_asn1_shape shape{};
+  for (std::int64_t id = 0; id < QUARN_ASN1_TYPE_COUNT; id++) {
+    ASSERT_EQ(quarn_asn1_type_shape(id, &shape), 1);
+    EXPECT_STRNE(shape.name, "");
+    EXPECT_NE(shape.kind, QUARN_ASN1_KIND_UNKNOWN) << shape.name;
+    EXPECT_EQ(quarn_asn1_component_count(id, nullptr), 0);
+  }
+  EXPECT_EQ(quarn_asn1_type_shape(-1, &shape), 0);
+  EXPECT_EQ(quarn_asn1_type_shape(QUARN_ASN1_TYPE_COUNT, &shape), 0);
+  EXPECT_EQ(quarn_asn1_type_shape(QUARN_ASN1_TIME, nullptr), 0);
+  const Held list(QUARN_ASN1_ANYLIST, "30 00");
+  quarn_asn1_component part{};
+  EXPECT_EQ(quarn_asn1_component_get(QUARN_ASN1_ANYLIST, list.get(), 0, &part), 0);
+  EXPECT_EQ(quarn_asn1_component_get(QUARN_ASN1_ANYLIST, list.get(), -1, &part), 0);
+  EXPECT_EQ(quarn_asn1_component_get(-1, list.get(), 0, &part), 0);
 }
-static_assert(is_record(shared(QUARN_ASN1_ANYLIST), shared(QUARN_ASN1_ANYLIST)));
-static_assert(!is_record(shared(QUARN_ASN1_ANYLIST), shared(QUARN_ASN1_ANYSET)));
-static_assert(!is_record(shared(QUARN_ASN1_ANYLIST),
-                         field("", QUARN_ASN1_ANYLIST, implicit_tag(0), optional())));
-static_assert(!is_record(shared(QUARN_ASN1_BOOLEAN)), "only lists and records have two forms");
-static_assert(is_record(field("", QUARN_ASN1_BOOLEAN, written_tag(4))));
-static_assert(!is_record(field("", kChoiceId, written_tag(4))));
-constexpr std::uint8_t kTooLong[kMostDefaultOctets + 1] = {};
-static_assert(!is_record(field("", QUARN_ASN1_ANYLIST, default_encoding(kTooLong))));
-constexpr Field kSigned[] = {field("body", QUARN_ASN1_ANYLIST), field("", QUARN_ASN1_BITSTRING)};
-static_assert(!SchemaCheck(kRows.rows).well_formed(record("", kUnit, kSigned, keep_body())),
-              "a body has components");
-static_assert(!SchemaCheck(kRows.rows).well_formed(record("", kUnit, kSigned, keep_encoding())));
 
 }  // namespace
 }  // namespace quarn::asn1
