@@ -1,12 +1,8 @@
 // OCTET STRING and character strings: values in memory and over streams, and their segments.
 #include <gtest/gtest.h>
 
-#include <string>
-
-#include "tests/support/allocation.h"
 #include "tests/support/store.h"
 #include "tests/unit/values.h"
-#include "types/octetstring.h"
 
 namespace quarn::test {
 namespace {
@@ -30,14 +26,10 @@ struct Places {
                       String(quarn_asn1_octetstring_newstream(external.get()))};
 };
 
-TEST(OctetString, constructors_copy_and_refuse_what_is_none) {
+TEST(OctetString, constructors_refuse_what_is_none) {
   EXPECT_EQ(quarn_asn1_octetstring_new(nullptr, 1), nullptr);
   EXPECT_EQ(quarn_asn1_octetstring_newstream(nullptr), nullptr);
   EXPECT_EQ(encoding_of(4, String(quarn_asn1_octetstring_new(nullptr, 0)).get()), (Octets{4, 0}));
-  Octets octets{'@'};
-  const String copy = string_of(octets);
-  octets[0] = 0;
-  EXPECT_EQ(encoding_of(QUARN_ASN1_BMPSTRING, copy.get()), hex("1E 01 40"));
 }
 
 TEST(OctetString, octets_are_read_in_pieces_of_any_size) {
@@ -53,30 +45,18 @@ TEST(OctetString, octets_are_read_in_pieces_of_any_size) {
       EXPECT_EQ(get(value, 2, 2), 1);
       EXPECT_EQ(count, expected);
     }
-    EXPECT_EQ(buffer[0], 'c');
     EXPECT_EQ(get(value, 1, 0), 1) << "only rewinds";
+    EXPECT_EQ(get(value, 2, 1), 1);
+    EXPECT_EQ(quarn_asn1_string_get(value.get(), buffer), 1) << "all at once";
+    EXPECT_EQ(Octets(buffer, buffer + 3), places.octets);
     EXPECT_EQ(get(value, 2, 8), 1);
-    EXPECT_EQ(count, 3u);
-    EXPECT_EQ(buffer[0], 'a');
+    EXPECT_EQ(count, value == places.values[2] ? 0u : 2u) << "the position in memory stays";
   }
   EXPECT_EQ(get(places.values[0], 0, -1), 0);
   EXPECT_EQ(get(places.values[0], 1, -1), 0);
   places.store.seekable = false;
   EXPECT_EQ(get(places.values[2], 1, 0), 0);
   EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10105, 0x10001, 0x10109}));
-}
-
-TEST(OctetString, all_octets_at_once_leave_the_position_of_memory) {
-  Places places;
-  for (const String &value : places.values) {
-    std::uint8_t buffer[3] = {};
-    std::uint64_t count = 0;
-    EXPECT_EQ(quarn_asn1_octetstring_get(value.get(), 1, buffer, 1, &count, nullptr), 1);
-    EXPECT_EQ(quarn_asn1_string_get(value.get(), buffer), 1);
-    EXPECT_EQ(Octets(buffer, buffer + 3), places.octets);
-    EXPECT_EQ(quarn_asn1_octetstring_get(value.get(), 2, buffer, 3, &count, nullptr), 1);
-    EXPECT_EQ(count, value == places.values[2] ? 0u : 2u);
-  }
 }
 
 TEST(OctetString, an_object_inside_must_be_all_there_is) {
@@ -101,15 +81,13 @@ TEST(OctetString, large_content_outside_memory_is_written_in_segments) {
   const String value(quarn_asn1_octetstring_newstream(source.get()));
   store.size = 0x4fffff;
   EXPECT_EQ(quarn_asn1_octetstring_length(value.get()), 0x4fffff);
-  Octets encoding = encoding_of(4, value.get());
-  ASSERT_EQ(encoding.size(), 0x4fffffu + 5);
-  EXPECT_EQ(Octets(encoding.begin(), encoding.begin() + 5), (Octets{0x04, 0x83, 0x4f, 0xff, 0xff}));
+  EXPECT_TRUE(encoding_of(4, value.get()) == hex("04 83 4F FF FF (00)*5242879"));
   store.size = 0x500000;
   EXPECT_EQ(quarn_asn1_octetstring_length(value.get()), QUARN_ASN1_INDEFINITE);
   EXPECT_EQ(quarn_asn1_octetstring_getblob(value.get()), nullptr);
-  EXPECT_EQ(quarn_asn1_octetstring_getall(value.get(), encoding.data()), 0);
-  const Octets expected = hex("24 80 (04 82 20 00 (00)*8192)*640 00 00");
-  EXPECT_TRUE(encoding_of(4, value.get()) == expected);
+  std::uint8_t octet = 0;
+  EXPECT_EQ(quarn_asn1_octetstring_getall(value.get(), &octet), 0);
+  EXPECT_TRUE(encoding_of(4, value.get()) == hex("24 80 (04 82 20 00 (00)*8192)*640 00 00"));
 }
 
 TEST(OctetString, content_of_unknown_length_is_written_in_octetstring_segments) {
@@ -174,7 +152,6 @@ TEST(OctetString, a_string_is_written_segment_by_segment) {
   EXPECT_TRUE(write(s.get()));
   EXPECT_EQ(store.octets, (Octets{0x24, 0x80, 0x04, 2, 'a', 'b', 0x04, 0, 0, 0}));
   EXPECT_EQ(quarn_asn1_encode_octetstring_update(s.get(), nullptr, 1), 0);
-  EXPECT_FALSE(write(nullptr));
 }
 
 TEST(OctetString, content_is_decoded_to_the_end_of_a_stream_of_the_caller) {
