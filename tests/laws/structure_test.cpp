@@ -80,14 +80,11 @@ TEST(Structure, values_are_built_from_components_or_not_at_all) {
     fail_each_allocation([&](Allocation &allocation) {
       const Held decoded(sample.type, sample.in);
       if (decoded.get() == nullptr) return;
-      void *built = build_from(id, decoded.get());
-      EXPECT_TRUE(built != nullptr || allocation.failed());
+      const Held built(sample.type, build_from(id, decoded.get()));
+      EXPECT_TRUE(built.get() != nullptr || allocation.failed());
       allocation.never_fail();
-      if (built != nullptr) {
-        EXPECT_EQ(encoding_of(sample.type, built), *sample.out);
-      }
+      EXPECT_EQ(built.encoding(), built.get() == nullptr ? Octets{} : *sample.out);
       EXPECT_EQ(fresh_encoding_of(sample.type, decoded.get()), *sample.out) << "unharmed";
-      quarn_asn1_value_free(sample.type, built);
     });
   });
 }
@@ -101,11 +98,10 @@ TEST(Structure, what_is_mandatory_must_be_given_and_nothing_else) {
     for (std::size_t i = 0; i < schema.fields.size(); i++) {
       std::vector<const void *> parts = parts_of(id, decoded.get());
       parts[i] = nullptr;
-      void *built = asn1::build_record(id, parts);
+      const Held built(id, asn1::build_record(id, parts));
       const bool may_go = !schema.fields[i].mandatory() && asn1::allowed(schema, parts.data());
-      EXPECT_EQ(built != nullptr, may_go) << schema.fields[i].name;
-      EXPECT_TRUE(is_whole(id, built));
-      quarn_asn1_value_free(id, built);
+      EXPECT_EQ(built.get() != nullptr, may_go) << schema.fields[i].name;
+      EXPECT_TRUE(is_whole(id, built.get()));
     }
   });
 }
