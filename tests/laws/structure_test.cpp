@@ -28,18 +28,16 @@ std::optional<std::vector<Element>> elements_of(const Octets &octets) {
     const std::int64_t start = at + static_cast<std::int64_t>(header.header_length);
     if (header.content_length < 0 || header.content_length > size - start) return std::nullopt;
     const std::int64_t end = start + header.content_length;
-    Element element;
-    const auto tag_octets =
-        quarn_asn1_identifier_length(static_cast<std::int64_t>(header.tag_number));
-    element.identifier = Octets(octets.begin() + at, octets.begin() + at + tag_octets);
+    const auto number = static_cast<std::int64_t>(header.tag_number);
+    Element &element = elements.emplace_back();
+    element.identifier =
+        Octets(octets.begin() + at, octets.begin() + at + quarn_asn1_identifier_length(number));
     element.content = Octets(octets.begin() + start, octets.begin() + end);
-    if (element.constructed()) {
-      auto parts = elements_of(element.content);
-      if (!parts) return std::nullopt;
-      element.parts = std::move(*parts);
-    }
-    elements.push_back(std::move(element));
     at = end;
+    if (!element.constructed()) continue;
+    auto parts = elements_of(element.content);
+    if (!parts) return std::nullopt;
+    element.parts = std::move(*parts);
   }
   return elements;
 }

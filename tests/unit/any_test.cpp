@@ -50,6 +50,7 @@ TEST(Any, is_built_from_parts_and_tells_them) {
   EXPECT_EQ(quarn_asn1_any_encodelength(new_any(0, 16, 200, Octets(200)).get()), 203);
   EXPECT_EQ(quarn_asn1_any_encodelength(new_any(0, 4, INT64_MAX, {}).get()), -2);
   EXPECT_EQ(new_any(0, 16, -1, {5, 0}), nullptr) << "no end-of-contents";
+  EXPECT_EQ(new_any(0, 16, -1, {0}), nullptr);
   EXPECT_EQ(new_any(0, 16, -2, {}), nullptr);
   EXPECT_EQ(new_any(0x20, 16, 0, {}), nullptr) << "no class";
   EXPECT_EQ(new_any(0, std::uint64_t{1} << 63, 0, {}), nullptr);

@@ -12,8 +12,7 @@ namespace {
 TEST(Dispatch, an_id_without_a_row_is_refused) {
   for (const std::int64_t id : {std::int64_t{-1}, std::int64_t{420}, INT64_MIN}) {
     const Context ctx(quarn_err_ctx_new());
-    const Octets octets{0x05, 0x00};
-    const Stream stream = memory_stream(octets);
+    const Stream stream = growable({0x05, 0x00});
     void *value = &value;
     EXPECT_EQ(quarn_asn1_decode(stream.get(), id, &value, nullptr, ctx.get()), 0);
     EXPECT_EQ(value, &value) << "nothing is touched";

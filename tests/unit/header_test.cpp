@@ -36,26 +36,24 @@ TEST(Header, identifiers_and_lengths_take_the_fewest_octets) {
 
 TEST(Header, headers_are_read_alike_from_streams_and_memory) {
   const struct {
-    const char *name;
     Octets octets;
     std::size_t identifier_size;
     std::uint64_t number;
     std::int64_t length;
     Codes codes;
   } cases[] = {
-      {"indefinite", hex("A5 80"), 1, 5, -1, {}},
-      {"leading zero groups, zero octets", hex("1F 80 1F 82 00 05"), 3, 31, 5, {}},
-      {"greatest number", hex("5F FF FF FF FF FF FF FF FF 7F 00"), 10, INT64_MAX, 0, {}},
-      {"greatest length", hex("30 88 7F FF FF FF FF FF FF FF"), 1, 16, INT64_MAX, {}},
-      {"long form not needed", hex("1F 1E"), 0, 0, 0, {0x10201}},
-      {"large number", hex("1F 82 80 80 80 80 80 80 80 80 00"), 0, 0, 0, {0x10202}},
-      {"number cut off", hex("1F 81"), 0, 0, 0, {0x10103}},
-      {"large length", hex("30 88 80 00 00 00 00 00 00 00"), 1, 16, 0, {0x10202}},
-      {"reserved", hex("30 FF"), 1, 16, 0, {0x10203}},
-      {"length cut off", hex("30 82 01"), 1, 16, 0, {0x10103}},
+      {hex("1F 80 1F 82 00 05"), 3, 31, 5, {}},
+      {hex("5F FF FF FF FF FF FF FF FF 7F 00"), 10, INT64_MAX, 0, {}},
+      {hex("30 88 7F FF FF FF FF FF FF FF"), 1, 16, INT64_MAX, {}},
+      {hex("1F 1E"), 0, 0, 0, {0x10201}},
+      {hex("1F 82 80 80 80 80 80 80 80 80 00"), 0, 0, 0, {0x10202}},
+      {hex("1F 81"), 0, 0, 0, {0x10103}},
+      {hex("30 88 80 00 00 00 00 00 00 00"), 1, 16, 0, {0x10202}},
+      {hex("30 FF"), 1, 16, 0, {0x10203}},
+      {hex("30 82 01"), 1, 16, 0, {0x10103}},
   };
   for (const auto &c : cases) {
-    SCOPED_TRACE(c.name);
+    SCOPED_TRACE(::testing::PrintToString(c.octets));
     const Context ctx(quarn_err_ctx_new());
     const Stream s = memory_stream(c.octets);
     std::uint32_t tag_class = 0;
@@ -79,7 +77,7 @@ TEST(Header, headers_are_read_alike_from_streams_and_memory) {
     const int good = c.codes.empty() ? 1 : 0;
     EXPECT_EQ(
         quarn_asn1_mem_header(c.octets.data(), static_cast<std::int64_t>(c.octets.size()), &header),
-        c.codes == std::vector<int>{0x10103} ? QUARN_ASN1_MORE : good);
+        c.codes == Codes{0x10103} ? QUARN_ASN1_MORE : good);
     EXPECT_EQ(header.content_length, c.length);
     EXPECT_EQ(header.header_length, c.codes.empty() ? c.octets.size() : 0);
   }
