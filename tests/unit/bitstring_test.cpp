@@ -115,8 +115,7 @@ bool exercise(Store &from, Store &content) {
 }
 
 TEST(BitString, every_failing_call_is_a_failure_and_leaves_nothing) {
-  const Octets octets{0x23, 0x80, 0x03, 3, 0, 0x04, 1, 0x03, 2, 4, 0xF0, 0, 0};
-  for (const bool knows_length : {true, false}) fail_each_call(octets, knows_length, exercise);
+  fail_each_call(hex("23 80 03 03 00 04 01 03 02 04 F0 00 00"), exercise);
 }
 
 TEST(BitString, bit_sets_go_both_ways_whatever_allocation_fails) {

@@ -1,7 +1,8 @@
 // Runs every vector: from memory and from a slow stream, with the same value, count and records.
 #include <gtest/gtest.h>
 
-#include <sstream>
+#include <filesystem>
+#include <ostream>
 
 #include "quarn_asn1.h"
 #include "tests/support/allocation.h"
@@ -51,14 +52,10 @@ TEST_P(Vectors, hold) {
   EXPECT_EQ(allocation.live_blocks(), 0) << "leak";
 }
 
+// File and line.
 std::string test_name(const ::testing::TestParamInfo<Vector> &info) {
-  const std::string &path = info.param.file;
-  const std::size_t from = path.rfind('/') + 1;
-  std::string name = path.substr(from, path.rfind('.') - from) + "_" + info.param.name;
-  for (char &c : name) {
-    if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
-  }
-  return name + "_" + std::to_string(info.param.line);
+  const std::string file = std::filesystem::path(info.param.file).stem();
+  return file + "_" + std::to_string(info.param.line);
 }
 
 INSTANTIATE_TEST_SUITE_P(All,
