@@ -19,8 +19,6 @@ struct Cost {
 
 Cost cost_of(const std::function<void()> &operation) {
   Allocation allocation;
-  allocation.reset_peak();
-  allocation.reset_count();
   operation();
   EXPECT_EQ(allocation.live_blocks(), 0);
   return {allocation.count(), allocation.peak_octets()};

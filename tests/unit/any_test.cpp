@@ -109,19 +109,17 @@ TEST(Any, content_in_a_stream_is_converted) {
 }
 
 TEST(Any, converts_as_a_whole_under_another_tag_and_from_within) {
-  const struct {
-    Convert convert;
-    const char *octets;
-    Codes codes;
-  } cases[] = {{quarn_asn1_any_toobject, "02 01 05", {}},
-               {quarn_asn1_any_toobject, "04 01 05", {0x1020a, 0x10210}},
-               {quarn_asn1_any_contenttoobject, "81 01 05", {}},
-               {quarn_asn1_any_contenttoobject, "A1 02 0500", {0x1026a, 0x10210}},
-               {quarn_asn1_any_contenttoobject, "00 00", {0x10002}},
-               {quarn_asn1_any_getobject, "A1 80 020105 0000", {}},
-               {quarn_asn1_any_getobject, "A1 05 020105 0500", {0x1027f}},
-               {quarn_asn1_any_getobject, "A1 80 020105 0500 0000", {0x10205}},
-               {quarn_asn1_any_getobject, "00 00", {0x10002}}};
+  const std::tuple<Convert, const char *, Codes> cases[] = {
+      {quarn_asn1_any_toobject, "02 01 05", {}},
+      {quarn_asn1_any_toobject, "04 01 05", {0x1020a, 0x10210}},
+      {quarn_asn1_any_contenttoobject, "81 01 05", {}},
+      {quarn_asn1_any_contenttoobject, "A1 02 0500", {0x1026a, 0x10210}},
+      {quarn_asn1_any_contenttoobject, "00 00", {0x10002}},
+      {quarn_asn1_any_getobject, "A1 80 020105 0000", {}},
+      {quarn_asn1_any_getobject, "A1 05 020105 0500", {0x1027f}},
+      {quarn_asn1_any_getobject, "A1 80 020105 0500 0000", {0x10205}},
+      {quarn_asn1_any_getobject, "00 00", {0x10002}},
+  };
   for (const auto &[convert, octets, codes] : cases) {
     EXPECT_EQ(to_integer(convert, any_of(octets).get()), codes) << octets;
   }

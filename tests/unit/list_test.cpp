@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <sstream>
+#include <tuple>
 
 #include "tests/support/allocation.h"
 #include "tests/unit/values.h"
@@ -96,11 +97,8 @@ TEST(List, elements_of_a_type_are_decoded) {
     return quarn_asn1_decode_content(s, QUARN_ASN1_INTEGER, value, form, count, consumed, ctx);
   };
   const auto release = [](void *value) { quarn_asn1_value_free(QUARN_ASN1_INTEGER, value); };
-  const struct {
-    const char *content;
-    std::int64_t length;
-    Codes codes;  // by type id; functions do not record the element type's code
-  } cases[] = {
+  // Codes by type id; functions do not record the element type's code.
+  const std::tuple<const char *, std::int64_t, Codes> cases[] = {
       {"020105 020106", 6, {}},
       {"020105 020106 0000", -1, {}},
       {"020105", 2, {0x1020b}},

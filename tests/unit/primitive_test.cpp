@@ -28,19 +28,15 @@ TEST(Null, is_one_value_for_all_and_none_is_needed_to_write_it) {
 }
 
 TEST(Primitive, content_encoders_check_the_stream_and_then_the_length) {
-  const struct {
-    std::int64_t type;
-    const char *element;
-    const char *unit;
-  } cases[] = {
-      {QUARN_ASN1_BOOLEAN, "01 01 FF", "QUARN_ASN1_Boolean.cpp"},
-      {QUARN_ASN1_INTEGER, "02 02 01 2C", "QUARN_ASN1_Integer.cpp"},
-      {QUARN_ASN1_NULL, "05 00", "QUARN_ASN1_Null.cpp"},
-      {QUARN_ASN1_OID, "06 02 2A 03", "QUARN_ASN1_Oid"},
-      {QUARN_ASN1_RELATIVE_OID, "0D 03 01 02 03", "QUARN_ASN1_Oid"},
-      {QUARN_ASN1_TIME, R"(17 0B "2001011200Z")", "QUARN_ASN1_Time"},
+  const std::pair<std::int64_t, const char *> cases[] = {
+      {QUARN_ASN1_BOOLEAN, "01 01 FF"},
+      {QUARN_ASN1_INTEGER, "02 02 01 2C"},
+      {QUARN_ASN1_NULL, "05 00"},
+      {QUARN_ASN1_OID, "06 02 2A 03"},
+      {QUARN_ASN1_RELATIVE_OID, "0D 03 01 02 03"},
+      {QUARN_ASN1_TIME, R"(17 0B "2001011200Z")"},
   };
-  for (const auto &[type, element, unit] : cases) {
+  for (const auto &[type, element] : cases) {
     SCOPED_TRACE(type);
     const Held value(type, element);
     const auto size = static_cast<std::int64_t>(hex(element).size());
@@ -51,7 +47,6 @@ TEST(Primitive, content_encoders_check_the_stream_and_then_the_length) {
     EXPECT_EQ(quarn_asn1_encode_content(nullptr, type, value.get(), size, nullptr, ctx.get()), 0);
     EXPECT_EQ(quarn_asn1_encode_content(s.get(), type, value.get(), size, nullptr, ctx.get()), 0);
     EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10002, 0x10203}));
-    EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 0)->file, unit);
   }
 }
 

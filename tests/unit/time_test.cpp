@@ -8,6 +8,7 @@
 #include <memory>
 #include <regex>
 #include <string>
+#include <tuple>
 
 #include "tests/support/allocation.h"
 #include "tests/unit/values.h"
@@ -40,11 +41,7 @@ std::string text_of(const Time &v) {
 // Fractions of hours and minutes weigh ten times as much as the standard says: by the scale that
 // peers use.
 TEST(Time, text_names_an_instant) {
-  const struct {
-    std::uint64_t kind;
-    const char *text;
-    const char *instant;
-  } cases[] = {
+  const std::tuple<std::uint64_t, const char *, const char *> cases[] = {
       {kUtctime, "4912312359Z", "2049-12-31 23:59:00.0"},
       {kUtctime, "500101000000Z", "1950-01-01 00:00:00.0"},
       {kUtctime, "2401011200-0130", "2024-01-01 13:30:00.0"},
