@@ -1,11 +1,9 @@
 // OBJECT IDENTIFIER and RELATIVE-OID values: text to octets and back.
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "tests/support/allocation.h"
 #include "tests/unit/values.h"
