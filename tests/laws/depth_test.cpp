@@ -4,31 +4,26 @@
 
 #include "quarn_asn1.h"
 #include "tests/support/allocation.h"
-#include "tests/support/streams.h"
+#include "tests/support/json.h"
 #include "tests/support/thread.h"
+#include "tests/unit/values.h"
 
 namespace quarn::test {
 namespace {
 
-using Octets = std::vector<std::uint8_t>;
-
 constexpr std::size_t kLevels = 1'000'000;
-
-void append_length(Octets &reversed, std::size_t length) {
-  if (length < 0x80) {
-    reversed.push_back(static_cast<std::uint8_t>(length));
-    return;
-  }
-  std::uint8_t count = 0;
-  for (; length > 0; length >>= 8, count++) reversed.push_back(static_cast<std::uint8_t>(length));
-  reversed.push_back(0x80 | count);
-}
 
 // Levels of definite length around a NULL: built from the inside, that is from the end.
 Octets nested_definite(std::uint8_t identifier, std::size_t levels) {
   Octets reversed{0x00, 0x05};
   for (std::size_t i = 0; i < levels; i++) {
-    append_length(reversed, reversed.size());
+    std::size_t length = reversed.size();
+    const bool short_form = length < 0x80;
+    std::uint8_t count = 0;
+    for (; length > 0; length >>= 8, count++) {
+      reversed.push_back(static_cast<std::uint8_t>(length));
+    }
+    if (!short_form) reversed.push_back(0x80 | count);
     reversed.push_back(identifier);
   }
   return Octets(reversed.rbegin(), reversed.rend());
@@ -43,21 +38,17 @@ Octets nested_indefinite(std::uint8_t identifier, std::size_t levels) {
 
 // Octets to document to text to document to octets.
 void round_trip(const Octets &octets) {
-  quarn_json *document = quarn_asn1_tojson(octets.data(), static_cast<std::int64_t>(octets.size()));
-  ASSERT_NE(document, nullptr);
+  Json document = to_json(std::string(octets.begin(), octets.end()));
   char *text = nullptr;
   std::size_t length = 0;
-  ASSERT_EQ(quarn_json_print(document, 2, &text, &length), 1);
+  ASSERT_EQ(quarn_json_print(document.get(), 2, &text, &length), 1);
   EXPECT_LT(length, octets.size() * 1200) << "indentation stops growing";
-  quarn_json_free(document);
-  document = quarn_json_parse(text, length, nullptr);
+  document.reset();  // two of them would be more than a GiB
+  document.reset(quarn_json_parse(text, length, nullptr));
   quarn_free(text);
-  ASSERT_NE(document, nullptr);
-  quarn_data_blob *blob = quarn_asn1_encodejson(document);
-  quarn_json_free(document);
+  const Blob blob(quarn_asn1_encodejson(document.get()));
   ASSERT_NE(blob, nullptr);
   EXPECT_EQ(Octets(blob->data, blob->data + blob->length), octets);
-  quarn_data_blob_free(blob);
 }
 
 TEST(Depth, a_million_definite_levels_go_through_json_and_back) {
@@ -105,30 +96,25 @@ TEST(Depth, every_type_ends_at_the_limit) {
 // What stands before levels of a type that holds itself, or of an open type deep inside.
 struct Nest {
   std::int64_t type;
-  Octets before;
+  const char *before;
   std::uint8_t identifier;
 };
 
 const Nest kNests[] = {
-    {QUARN_ASN1_LDAPFILTER, {}, 0xA0},
-    {QUARN_ASN1_LDAPFILTER, {}, 0xA2},
+    {QUARN_ASN1_LDAPFILTER, "", 0xA0},
+    {QUARN_ASN1_LDAPFILTER, "", 0xA2},
     {QUARN_ASN1_LDAPMESSAGE,
-     {0x30, 0x80, 0x02, 0x01, 0x01, 0x63, 0x80, 0x04, 0x00, 0x0A, 0x01, 0x00,
-      0x0A, 0x01, 0x00, 0x02, 0x01, 0x00, 0x02, 0x01, 0x00, 0x01, 0x01, 0x00},
-     0xA1},
+     "30 80 02 01 01 63 80 04 00 0A 01 00 0A 01 00 02 01 00 02 01 00 01 01 00", 0xA1},
+    // A response, the request that it answers, that one's query, policy, and its parameters.
+    {QUARN_ASN1_SCVPCVRESPONSE,
+     R"(30 80 02 01 01 02 01 01 18 0F "20260101000000Z" 30 00 A1 80 A1 80 30 80 A0 0B A1 09 04 00
+        30 05 30 00 02 01 01 30 03 06 01 2A 30 80 30 80 06 01 2A)",
+     0x30},
 };
 
-// A response, the request that it answers, that one's query, policy, and the policy's parameters.
-const Nest kOpenNest{
-    QUARN_ASN1_SCVPCVRESPONSE,
-    {0x30, 0x80, 0x02, 0x01, 0x01, 0x02, 0x01, 0x01, 0x18, 0x0F, '2',  '0',  '2',  '6',  '0',
-     '1',  '0',  '1',  '0',  '0',  '0',  '0',  '0',  '0',  'Z',  0x30, 0x00, 0xA1, 0x80, 0xA1,
-     0x80, 0x30, 0x80, 0xA0, 0x0B, 0xA1, 0x09, 0x04, 0x00, 0x30, 0x05, 0x30, 0x00, 0x02, 0x01,
-     0x01, 0x30, 0x03, 0x06, 0x01, 0x2A, 0x30, 0x80, 0x30, 0x80, 0x06, 0x01, 0x2A},
-    0x30};
-
-void ends_at_the_limit(const Nest &nest, Octets octets) {
-  octets.insert(octets.begin(), nest.before.begin(), nest.before.end());
+void ends_at_the_limit(const Nest &nest, const Octets &levels) {
+  Octets octets = read_octets(nest.before);
+  octets.insert(octets.end(), levels.begin(), levels.end());
   void *value = nullptr;
   const Stream stream = memory_stream(octets);
   EXPECT_EQ(quarn_asn1_decode(stream.get(), nest.type, &value, nullptr, nullptr),
@@ -141,19 +127,19 @@ TEST(Depth, levels_deep_inside_a_message_end_at_the_limit) {
     Allocation allocation;
     for (const Nest &nest : kNests) {
       ends_at_the_limit(nest, nested_indefinite(nest.identifier, kLevels));
+      // What is of definite length is not looked into where any type may be.
+      if (nest.identifier == 0x30) continue;
       ends_at_the_limit(nest, nested_definite(nest.identifier, kLevels));
     }
-    ends_at_the_limit(kOpenNest, nested_indefinite(kOpenNest.identifier, kLevels));
     EXPECT_EQ(allocation.live_blocks(), 0);
   });
 }
 
 TEST(Depth, values_are_built_as_deep_as_they_can_be_decoded) {
   on_small_stack([] {
-    Allocation allocation;
-    quarn_asn1_octetstring *cn = quarn_asn1_octetstring_new(Octets{'c', 'n'}.data(), 2);
-    quarn_ldapfilter *filter = quarn_ldapfilter_newpresent(cn);
-    quarn_asn1_value_free(QUARN_ASN1_OCTETSTRING, cn);
+    const Allocation allocation;
+    quarn_ldapfilter *filter = quarn_ldapfilter_newpresent(
+        Held(QUARN_ASN1_OCTETSTRING, "04 02 63 6E").as<quarn_asn1_octetstring>());
     int levels = 0;
     while (quarn_ldapfilter *deeper = quarn_ldapfilter_newnot(filter)) {
       quarn_ldapfilter_free(filter);
@@ -161,20 +147,15 @@ TEST(Depth, values_are_built_as_deep_as_they_can_be_decoded) {
       ASSERT_LT(++levels, quarn_get_recursive_level());
     }
     EXPECT_GT(levels, quarn_get_recursive_level() / 3);
-    const Blob blob(quarn_asn1_mem_encode(QUARN_ASN1_LDAPFILTER, filter));
-    ASSERT_NE(blob, nullptr);
-    EXPECT_EQ(quarn_asn1_length(QUARN_ASN1_LDAPFILTER, filter),
-              static_cast<std::int64_t>(blob->length));
-    void *copy = quarn_asn1_dupobject(QUARN_ASN1_LDAPFILTER, filter, nullptr);
-    EXPECT_NE(copy, nullptr) << "what is built can be decoded";
-    quarn_asn1_value_free(QUARN_ASN1_LDAPFILTER, copy);
-    Octets deeper{0xA2, 0x82, static_cast<std::uint8_t>(blob->length >> 8),
-                  static_cast<std::uint8_t>(blob->length)};
-    deeper.insert(deeper.end(), blob->data, blob->data + blob->length);
-    const Stream stream = memory_stream(deeper);
-    EXPECT_EQ(quarn_asn1_decode(stream.get(), QUARN_ASN1_LDAPFILTER, &copy, nullptr, nullptr),
-              QUARN_ERROR_RECURSION);
-    quarn_ldapfilter_free(filter);
+    const Held built(QUARN_ASN1_LDAPFILTER, filter);
+    Octets octets = built.encoding();
+    EXPECT_EQ(quarn_asn1_length(built.type(), filter), static_cast<std::int64_t>(octets.size()));
+    const Held copy(built.type(), quarn_asn1_dupobject(built.type(), filter, nullptr));
+    EXPECT_NE(copy.get(), nullptr) << "what is built can be decoded";
+    const std::size_t size = octets.size();
+    octets.insert(octets.begin(), {0xA2, 0x82, static_cast<std::uint8_t>(size >> 8),
+                                   static_cast<std::uint8_t>(size)});
+    ends_at_the_limit({built.type(), "", 0}, octets);
   });
 }
 

@@ -1,24 +1,85 @@
 // What holds for every structured type, tried on the samples made from the notation.
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "core/build.h"
 #include "tests/laws/use.h"
 #include "tests/support/allocation.h"
-#include "tests/support/elements.h"
 
 namespace quarn::test {
 namespace {
 
-TEST(Structure, der_is_written_anew_as_it_was_read) {
-  for_each(structured_samples(), [](const Vector &sample) {
-    const Held decoded(sample.type, sample.in);
-    EXPECT_TRUE(is_whole(sample.type, decoded.get()));
-    EXPECT_EQ(fresh_encoding_of(sample.type, decoded.get()), *sample.out);
-  });
+struct Element {
+  Octets identifier;
+  Octets content;              // of a primitive element
+  std::vector<Element> parts;  // of a constructed one
+
+  bool constructed() const { return (identifier[0] & 0x20) != 0; }
+};
+
+// The elements of some octets; none unless all are whole and of definite length.
+std::optional<std::vector<Element>> elements_of(const Octets &octets) {
+  std::vector<Element> elements;
+  const auto size = static_cast<std::int64_t>(octets.size());
+  for (std::int64_t at = 0; at < size;) {
+    quarn_asn1_header header{};
+    if (quarn_asn1_mem_header(octets.data() + at, size - at, &header) != 1) return std::nullopt;
+    const std::int64_t start = at + static_cast<std::int64_t>(header.header_length);
+    if (header.content_length < 0 || header.content_length > size - start) return std::nullopt;
+    const std::int64_t end = start + header.content_length;
+    const auto number = static_cast<std::int64_t>(header.tag_number);
+    Element &element = elements.emplace_back();
+    element.identifier =
+        Octets(octets.begin() + at, octets.begin() + at + quarn_asn1_identifier_length(number));
+    element.content = Octets(octets.begin() + start, octets.begin() + end);
+    at = end;
+    if (!element.constructed()) continue;
+    auto parts = elements_of(element.content);
+    if (!parts) return std::nullopt;
+    element.parts = std::move(*parts);
+  }
+  return elements;
 }
 
-TEST(Structure, indefinite_lengths_are_kept_with_the_octets_and_are_definite_anew) {
+enum class Lengths { definite, indefinite };  // of constructed elements
+
+Octets written(const std::vector<Element> &elements, Lengths lengths) {
+  Octets octets;
+  for (const Element &element : elements) {
+    const Octets content =
+        element.constructed() ? written(element.parts, lengths) : element.content;
+    octets.insert(octets.end(), element.identifier.begin(), element.identifier.end());
+    const bool indefinite = element.constructed() && lengths == Lengths::indefinite;
+    if (indefinite) {
+      octets.push_back(0x80);
+    } else if (content.size() < 0x80) {
+      octets.push_back(static_cast<std::uint8_t>(content.size()));
+    } else {
+      octets.insert(octets.end(), {0x82, static_cast<std::uint8_t>(content.size() >> 8),
+                                   static_cast<std::uint8_t>(content.size())});
+    }
+    octets.insert(octets.end(), content.begin(), content.end());
+    if (indefinite) octets.insert(octets.end(), {0, 0});
+  }
+  return octets;
+}
+
+// Calls visit for the parts of every constructed element, which it may change for a while.
+void for_each_parts(std::vector<Element> &elements,
+                    const std::function<void(std::vector<Element> &)> &visit) {
+  for (Element &element : elements) {
+    if (!element.constructed()) continue;
+    visit(element.parts);
+    for_each_parts(element.parts, visit);
+  }
+}
+
+TEST(Structure, der_is_written_anew_and_indefinite_lengths_are_kept_with_the_octets) {
   for_each(structured_samples(), [](const Vector &sample) {
+    const Held definite(sample.type, sample.in);
+    EXPECT_TRUE(is_whole(sample.type, definite.get()));
+    EXPECT_EQ(fresh_encoding_of(sample.type, definite.get()), *sample.out);
     const Octets indefinite = written(*elements_of(sample.in), Lengths::indefinite);
     use(sample.type, indefinite);
     const Held decoded(sample.type, indefinite);
@@ -80,14 +141,11 @@ TEST(Structure, values_are_built_from_components_or_not_at_all) {
     fail_each_allocation([&](Allocation &allocation) {
       const Held decoded(sample.type, sample.in);
       if (decoded.get() == nullptr) return;
-      void *built = build_from(id, decoded.get());
-      EXPECT_TRUE(built != nullptr || allocation.failed());
+      const Held built(sample.type, build_from(id, decoded.get()));
+      EXPECT_TRUE(built.get() != nullptr || allocation.failed());
       allocation.never_fail();
-      if (built != nullptr) {
-        EXPECT_EQ(encoding_of(sample.type, built), *sample.out);
-      }
+      EXPECT_EQ(built.encoding(), built.get() == nullptr ? Octets{} : *sample.out);
       EXPECT_EQ(fresh_encoding_of(sample.type, decoded.get()), *sample.out) << "unharmed";
-      quarn_asn1_value_free(sample.type, built);
     });
   });
 }
@@ -101,11 +159,10 @@ TEST(Structure, what_is_mandatory_must_be_given_and_nothing_else) {
     for (std::size_t i = 0; i < schema.fields.size(); i++) {
       std::vector<const void *> parts = parts_of(id, decoded.get());
       parts[i] = nullptr;
-      void *built = asn1::build_record(id, parts);
+      const Held built(id, asn1::build_record(id, parts));
       const bool may_go = !schema.fields[i].mandatory() && asn1::allowed(schema, parts.data());
-      EXPECT_EQ(built != nullptr, may_go) << schema.fields[i].name;
-      EXPECT_TRUE(is_whole(id, built));
-      quarn_asn1_value_free(id, built);
+      EXPECT_EQ(built.get() != nullptr, may_go) << schema.fields[i].name;
+      EXPECT_TRUE(is_whole(id, built.get()));
     }
   });
 }

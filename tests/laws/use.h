@@ -56,9 +56,7 @@ inline void use(std::int64_t type, const Octets &octets) {
     EXPECT_EQ(encoding.size(), static_cast<std::size_t>(length));
   }
   encode_and_back(type, encoding);
-  void *copy = quarn_asn1_dupobject(type, decoded.get(), nullptr);
-  EXPECT_NE(copy, nullptr);
-  quarn_asn1_value_free(type, copy);
+  EXPECT_NE(Held(type, quarn_asn1_dupobject(type, decoded.get(), nullptr)).get(), nullptr);
   encode_and_back(type, fresh_encoding_of(type, decoded.get()));
 }
 

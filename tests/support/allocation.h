@@ -43,7 +43,6 @@ class Allocation {
   std::int64_t live_blocks() const { return live_; }  // blocks not yet released
   std::size_t live_octets() const { return octets_; }
   std::size_t peak_octets() const { return peak_; }
-  void reset_peak() { peak_ = octets_; }
   void reset_count() { count_ = 0; }
 
  private:

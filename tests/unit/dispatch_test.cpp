@@ -1,6 +1,8 @@
 // Dispatch by type id: what the registry's rows are good for, and what happens without one.
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "core/type.h"
 #include "tests/unit/values.h"
 
@@ -10,8 +12,7 @@ namespace {
 TEST(Dispatch, an_id_without_a_row_is_refused) {
   for (const std::int64_t id : {std::int64_t{-1}, std::int64_t{420}, INT64_MIN}) {
     const Context ctx(quarn_err_ctx_new());
-    const Octets octets{0x05, 0x00};
-    const Stream stream = memory_stream(octets);
+    const Stream stream = growable({0x05, 0x00});
     void *value = &value;
     EXPECT_EQ(quarn_asn1_decode(stream.get(), id, &value, nullptr, ctx.get()), 0);
     EXPECT_EQ(value, &value) << "nothing is touched";
@@ -19,42 +20,8 @@ TEST(Dispatch, an_id_without_a_row_is_refused) {
     EXPECT_EQ(quarn_asn1_encode(stream.get(), id, &value, nullptr, ctx.get()), 0);
     EXPECT_EQ(quarn_asn1_encode_puterr(ctx.get(), id, "UNIT", 1), 1);
     EXPECT_EQ(codes_in(ctx.get()), Codes(4, 0x1026b));
-    EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 0)->file, "QUARN_ASN1");
-    EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 3)->file, "UNIT");
     EXPECT_EQ(quarn_asn1_length(id, nullptr), -2);
     quarn_asn1_value_free(id, &value);
-  }
-}
-
-TEST(Dispatch, null_arguments_are_told_by_the_layer_that_meets_them) {
-  const Codes argument{0x10002};
-  const Codes header{0x10002, 0x102e5};
-  const struct {
-    std::int64_t id;
-    Codes decode;  // without a stream
-    Codes encode;  // without a value
-  } cases[] = {
-      {QUARN_ASN1_EOC, argument, {}},
-      {QUARN_ASN1_BOOLEAN, header, argument},
-      {QUARN_ASN1_BITSTRING, header, {0x10203}},
-      {QUARN_ASN1_OCTETSTRING, {0x10002, 0x102e5, 0x10219}, {0x10203}},
-      {QUARN_ASN1_NULL, header, {}},
-      {QUARN_ASN1_STRING, {0x1026d}, {0x1026c}},
-      {QUARN_ASN1_UTF8STRING, argument, {0x102ea}},
-      {QUARN_ASN1_TIME, argument, argument},
-      {QUARN_ASN1_ANYLIST, header, argument},
-  };
-  for (const auto &[id, decode, encode] : cases) {
-    SCOPED_TRACE(id);
-    const Context decoding(quarn_err_ctx_new());
-    const Context encoding(quarn_err_ctx_new());
-    const Stream out(quarn_stream_new_mem(0, nullptr));
-    void *value = nullptr;
-    EXPECT_NE(quarn_asn1_decode(nullptr, id, &value, nullptr, decoding.get()), 1);
-    EXPECT_EQ(quarn_asn1_encode(out.get(), id, nullptr, nullptr, encoding.get()) == 1,
-              encode.empty());
-    EXPECT_EQ(codes_in(decoding.get()), decode);
-    EXPECT_EQ(codes_in(encoding.get()), encode);
   }
 }
 
@@ -75,17 +42,12 @@ void expect_writing(std::int64_t id, void *value, const Codes &steps) {
 }
 
 TEST(Dispatch, each_write_that_fails_is_told_by_the_step_it_belongs_to) {
-  const struct {
-    std::int64_t id;
-    const char *element;
-    Codes steps;
-  } cases[] = {
+  const std::tuple<std::int64_t, const char *, Codes> cases[] = {
       {QUARN_ASN1_BOOLEAN, "01 01 FF", {0x102e4, 0x102e6, 0}},
       {QUARN_ASN1_BITSTRING, "03 02 03 F8", {0, 0x102e6, 0, 0}},
       {QUARN_ASN1_OCTETSTRING, "04 01 61", {0, 0x102e6, 0}},
       {QUARN_ASN1_NULL, "05 00", {0}},
       {QUARN_ASN1_UTF8STRING, "0C 01 61", {0x102e4, 0x102e6, 0}},
-      {QUARN_ASN1_ANY, "05 00", {0}},
       {QUARN_ASN1_ANYLIST, "30 04 30 80 00 00", {0x102e4, 0x102e6, 0x10235, 0x102e8}},
       {QUARN_ASN1_LDAPUNBINDREQUEST, "42 00", {0x102e4, 0x102e6}},
       {QUARN_ASN1_TIME, R"(17 0D "240101000000Z")", {0x102e4, 0x10238, 0x102e6}},
@@ -111,25 +73,22 @@ TEST(Dispatch, each_write_of_a_segment_that_fails_is_told_by_its_step) {
 TEST(Dispatch, rows_have_the_codes_that_callers_know) {
   const Context ctx(quarn_err_ctx_new());
   EXPECT_EQ(quarn_asn1_encode_puterr(ctx.get(), 38, "UNIT", 1), 1);
-  EXPECT_EQ(quarn_asn1_decode_puterr(ctx.get(), 38, "UNIT", 1), 1);
   EXPECT_EQ(quarn_asn1_decode_puterr(ctx.get(), 49, "UNIT", 1), 1);
-  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10256, 0x10257, 0x30}));
-  EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 1)->message, "decode x509 tbscertificate fail");
-  EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 2)->message, "") << "outside the table of messages";
+  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10256, 0x30}));
+  EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 0)->message, "encode x509 tbscertificate fail");
+  EXPECT_STREQ(quarn_err_ctx_get(ctx.get(), 1)->message, "") << "outside the table of messages";
 }
 
 TEST(Dispatch, types_are_found_by_name_and_described) {
   quarn_asn1_type_description description{};
-  EXPECT_EQ(quarn_asn1_type_describe(349, &description), 1);
-  EXPECT_STREQ(description.name, "ldapabandonrequest");
-  EXPECT_EQ(description.tag_class, 0x40u);
-  EXPECT_EQ(description.tag_number, 16u);
-  EXPECT_EQ(description.form, 1);
-  EXPECT_EQ(description.error_code, 0x1020f);
   for (std::int64_t id = 0; id < QUARN_ASN1_TYPE_COUNT; id++) {
     ASSERT_EQ(quarn_asn1_type_describe(id, &description), 1);
     EXPECT_EQ(quarn_asn1_type_find(description.name), id) << "names are distinct";
   }
+  EXPECT_EQ(quarn_asn1_type_describe(quarn_asn1_type_find("ldapabandonrequest"), &description), 1);
+  EXPECT_EQ(std::tuple(description.tag_class, description.tag_number, description.form),
+            std::tuple(0x40u, 16u, 1));
+  EXPECT_EQ(description.error_code, 0x1020f);
   EXPECT_EQ(quarn_asn1_type_find("no such type"), -1);
 }
 
@@ -145,9 +104,6 @@ TEST(Dispatch, whole_lengths_are_sums_that_do_not_wrap) {
 
 TEST(Messages, are_those_of_the_table) {
   EXPECT_STREQ(quarn_igetASN1Error(0x10200), "Invalid tagclass");
-  EXPECT_STREQ(quarn_igetASN1Error(0x10314), "the length of  pkcs5 pbe param salt is not 8");
-  EXPECT_STREQ(quarn_igetASN1Error(0x10341),
-               "decode cms OtherRevocationInfoFormat failencode pkcs6 cert fail");
   EXPECT_STREQ(quarn_igetASN1Error(0x10576), "decode GB SES_Signature fail");
   for (const int code : {0x101FF, 0x10577, 0, -1, 0x10002})
     EXPECT_STREQ(quarn_igetASN1Error(code), "");

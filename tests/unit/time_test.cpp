@@ -8,6 +8,7 @@
 #include <memory>
 #include <regex>
 #include <string>
+#include <tuple>
 
 #include "tests/support/allocation.h"
 #include "tests/unit/values.h"
@@ -22,25 +23,14 @@ using asn1::kUtctime;
 using Time = Value<quarn_asn1_time, QUARN_ASN1_TIME>;
 using Instant = std::unique_ptr<quarn_time, decltype([](quarn_time *t) { quarn_time_free(t); })>;
 
-std::string format(int year, int month, int day, int hour, int minute, int second, int ns) {
-  char text[80];
-  std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d.%d", year, month, day, hour,
-                minute, second, ns);
-  return text;
-}
-
 // The instant that a text names, or "refused".
 std::string instant_of(std::uint64_t kind, const std::string &text) {
   quarn_time_fields f{};
   if (!asn1::read_time_text(kind, text.data(), text.size(), f)) return "refused";
-  return format(f.year, f.month, f.day, f.hour, f.minute, f.second, f.nanoseconds);
-}
-
-std::string instant_of(const Instant &t) {
-  return format(quarn_time_getyear(t.get()), quarn_time_getmonth(t.get()),
-                quarn_time_getday(t.get()), quarn_time_gethour(t.get()),
-                quarn_time_getminute(t.get()), quarn_time_getsecond(t.get()),
-                quarn_time_getns(t.get()));
+  char made[80];
+  std::snprintf(made, sizeof made, "%04d-%02d-%02d %02d:%02d:%02d.%d", f.year, f.month, f.day,
+                f.hour, f.minute, f.second, f.nanoseconds);
+  return made;
 }
 
 // Kind and text: "23 240102030405Z".
@@ -51,11 +41,7 @@ std::string text_of(const Time &v) {
 // Fractions of hours and minutes weigh ten times as much as the standard says: by the scale that
 // peers use.
 TEST(Time, text_names_an_instant) {
-  const struct {
-    std::uint64_t kind;
-    const char *text;
-    const char *instant;
-  } cases[] = {
+  const std::tuple<std::uint64_t, const char *, const char *> cases[] = {
       {kUtctime, "4912312359Z", "2049-12-31 23:59:00.0"},
       {kUtctime, "500101000000Z", "1950-01-01 00:00:00.0"},
       {kUtctime, "2401011200-0130", "2024-01-01 13:30:00.0"},
@@ -64,10 +50,10 @@ TEST(Time, text_names_an_instant) {
       {kGentime, "20241231240000.5Z", "2025-01-01 00:00:00.500000000"},
       {kGentime, "2024022824+0030", "2024-02-28 23:30:00.0"},
       {kGentime, "20240101120000.123456789123Z", "2024-01-01 12:00:00.123456789"},
-      {kGentime, "20161231235960Z", "2016-12-31 23:59:60.0"},
       {kGentime, "20170101085960.5+0900", "2016-12-31 23:59:60.500000000"},
       {kGentime, "15820101000000Z", "1582-01-01 00:00:00.0"},
       {kGentime, "15820101000000+0001", "refused"},
+      {kUtctime, "2401011200+0060", "refused"},
       {kGentime, "202401011200.05Z", "2024-01-01 12:00:30.0"},
       {kGentime, "202401011200.09999Z", "2024-01-01 12:00:59.0"},
       {kGentime, "2024010112.05Z", "2024-01-01 12:30:00.0"},
@@ -85,7 +71,6 @@ TEST(Time, text_without_a_zone_is_local_time) {
   EXPECT_EQ(instant_of(kGentime, "20240101010203"), "2023-12-31 23:02:03.0");
   EXPECT_EQ(instant_of(kGentime, "20240101120000.25"), "2024-01-01 10:00:00.250000000");
   EXPECT_EQ(instant_of(kGentime, "20170101015960"), "2016-12-31 23:59:60.0");
-  EXPECT_EQ(instant_of(kGentime, "20161231235960"), "refused");
   before == nullptr ? unsetenv("TZ") : setenv("TZ", kept.c_str(), 1);
   tzset();
 }
@@ -144,7 +129,6 @@ TEST(Time, constructors_choose_form_and_text) {
   const auto gentime = quarn_asn1_gentime_new;
   const auto either = quarn_asn1_time_new;
   const std::pair<quarn_asn1_time *, const char *> cases[] = {
-      {utctime(1999, 12, 31, 23, 59, 58), "23 991231235958Z"},
       {utctime(2005, 1, 2, 3, 4, 60), "23 050102030459Z"},
       {utctime(1949, 12, 31, 0, 0, 0), "null"},
       {utctime(2050, 1, 1, 0, 0, 0), "null"},
@@ -156,6 +140,15 @@ TEST(Time, constructors_choose_form_and_text) {
       {either(2049, 12, 31, 23, 59, 59, 0), "23 491231235959Z"},
       {either(1949, 1, 1, 0, 0, 0, 0), "24 19490101000000Z"}};
   for (const auto &[value, text] : cases) EXPECT_EQ(text_of(Time(value)), text);
+}
+
+TEST(Time, the_instant_is_the_callers_whatever_allocation_fails) {
+  fail_each_allocation([](Allocation &allocation) {
+    const Time v(quarn_asn1_gentime_new(2024, 2, 29, 12, 30, 15, 5));
+    const Instant t(v == nullptr ? nullptr : quarn_asn1_time_getutctime(v.get()));
+    const Time back(quarn_asn1_time_newutctime(t.get(), 0x11));
+    EXPECT_EQ(text_of(back), allocation.failed() ? "null" : "24 20240229123015.000000005Z");
+  });
 }
 
 TEST(Time, flags_choose_the_form_of_a_time_object) {
@@ -171,18 +164,6 @@ TEST(Time, flags_choose_the_form_of_a_time_object) {
   EXPECT_EQ(text(late, 0xFFFFFFE2), "24 20600506070809Z") << "further bits mean nothing";
   EXPECT_EQ(text(late, 0), "null");
   EXPECT_EQ(text(early, 3), "null");
-  EXPECT_EQ(text(Instant(), 1), "null");
-}
-
-TEST(Time, the_instant_is_the_callers_whatever_allocation_fails) {
-  fail_each_allocation([](Allocation &allocation) {
-    const Time v(quarn_asn1_gentime_new(2024, 2, 29, 12, 30, 15, 5));
-    const Instant t(v == nullptr ? nullptr : quarn_asn1_time_getutctime(v.get()));
-    EXPECT_EQ(t == nullptr, allocation.failed());
-    if (t != nullptr) {
-      EXPECT_EQ(instant_of(t), "2024-02-29 12:30:15.5");
-    }
-  });
 }
 
 TEST(Time, encoders_of_one_form_refuse_the_other) {
@@ -195,25 +176,16 @@ TEST(Time, encoders_of_one_form_refuse_the_other) {
   EXPECT_EQ(quarn_asn1_encode_utctime(s, gentime.get(), nullptr, ctx.get()), 0);
   EXPECT_EQ(quarn_asn1_encode_gentime(s, utctime.get(), nullptr, ctx.get()), 0);
   EXPECT_EQ(quarn_asn1_encode_utctime_content(s, gentime.get(), 15, nullptr, ctx.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()), (std::vector<int>{0x10208, 0x10208, 0x10002}));
-  EXPECT_EQ(sink.calls(), 0);
-  std::uint64_t written = 0;
-  EXPECT_EQ(quarn_asn1_encode_time_content(s, utctime.get(), 13, &written, ctx.get()), 1);
-  EXPECT_EQ(quarn_asn1_encode_utctime(s, utctime.get(), &written, ctx.get()), 1);
-  EXPECT_EQ(written, 15u);
-  EXPECT_EQ(std::string(sink.octets().begin(), sink.octets().end()),
-            "240101000000Z\x17\x0D"
-            "240101000000Z");
-}
-
-TEST(Time, content_alone_does_not_tell_the_form) {
-  const Context ctx(quarn_err_ctx_new());
-  const Stream stream = memory_stream({'2'});
   void *value = nullptr;
-  EXPECT_EQ(
-      quarn_asn1_decode_content(stream.get(), QUARN_ASN1_TIME, &value, 1, 1, nullptr, ctx.get()),
-      0);
-  EXPECT_EQ(codes_in(ctx.get()), std::vector<int>{0x1026d});
+  const Stream in = memory_stream({'2'});
+  EXPECT_EQ(quarn_asn1_decode_content(in.get(), QUARN_ASN1_TIME, &value, 1, 1, nullptr, ctx.get()),
+            0)
+      << "content alone does not tell the form";
+  EXPECT_EQ(codes_in(ctx.get()), (Codes{0x10208, 0x10208, 0x10002, 0x1026d}));
+  EXPECT_EQ(sink.calls(), 0);
+  EXPECT_EQ(quarn_asn1_encode_time_content(s, utctime.get(), 13, nullptr, ctx.get()), 1);
+  EXPECT_EQ(quarn_asn1_encode_utctime(s, utctime.get(), nullptr, ctx.get()), 1);
+  EXPECT_EQ(sink.octets(), hex(R"("240101000000Z" 17 0D "240101000000Z")"));
 }
 
 }  // namespace
