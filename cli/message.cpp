@@ -39,6 +39,7 @@ class Reading {
 
  private:
   Frame element_at(std::uint64_t offset);
+  std::string content_type_in(const Frame &identifier);
   void read_type();
   void decode(quarn_stream *content);
   void note_places(const quarn_asn1_content_place &place);
@@ -97,6 +98,18 @@ bool is_message(std::int64_t type_id) {
                      [](const Component &each) { return holds_content(each.type_id); });
 }
 
+// The dotted text of the identifier that a ContentInfo begins with.
+std::string Reading::content_type_in(const Frame &identifier) {
+  if (identifier.indefinite() || identifier.end() > start_.size()) {
+    throw diagnose(input_.held().octets, "no message");
+  }
+  const std::uint64_t length = identifier.end() - identifier.content();
+  const auto dotted = dotted_oid(Octets(start_).subspan(identifier.content(), length));
+  if (!dotted)
+    refuse(identifier, "the type of a ContentInfo, in arcs that are complete and fit 64 bits");
+  return *dotted;
+}
+
 // What the first elements tell: the type of the value, and what is around it.
 void Reading::read_type() {
   const Frame outer = element_at(0);
@@ -109,9 +122,7 @@ void Reading::read_type() {
   if (!has_tag(first, kUniversal, 6, 1)) {
     refuse(first, "the type of a ContentInfo, or the version of a SignedData");
   }
-  if (first.end() > start_.size()) throw diagnose(input_.held().octets, "no message");
-  const Octets octets = Octets(start_).subspan(first.content(), first.end() - first.content());
-  message_.content_type = dotted_oid(octets).value_or("");
+  message_.content_type = content_type_in(first);
   const Opening *opening = find_opening(Place::content, message_.content_type);
   if (opening != nullptr && opening->type_id == QUARN_ASN1_OCTETSTRING) {
     message_.type_id = QUARN_ASN1_PKCS7CONTENTINFO;
