@@ -174,7 +174,7 @@ std::string plain_hex(Octets octets) {
 }
 
 std::string leaf_text(const Node &node, std::size_t width) {
-  const std::vector<std::uint8_t> content = octets_of(node.type_id, node.value);
+  const std::vector<std::uint8_t> content = octets_of(node);
   std::string plain = value_text(header_of(node), content, width);
   switch (node.shape.base) {
     case QUARN_ASN1_INTEGER:
@@ -196,7 +196,7 @@ std::string leaf_text(const Node &node, std::size_t width) {
 }
 
 std::string leaf_json(const Node &node) {
-  const std::vector<std::uint8_t> content = octets_of(node.type_id, node.value);
+  const std::vector<std::uint8_t> content = octets_of(node);
   switch (node.shape.base) {
     case QUARN_ASN1_BOOLEAN:
       return !content.empty() && content[0] != 0 ? "true" : "false";

@@ -38,7 +38,7 @@ class TextShow : public TypedVisitor {
   std::string head(const Node &node) const;
   void line(const Node &node, const std::string &text) const;
   bool fold(const Node &node) const;
-  void pair(const Node &node, const quarn_asn1_component &attribute) const;
+  void pair(const Node &node, const Node &attribute) const;
   void unopened(const Node &node) const;
   void elements(Octets octets,
                 Walk::Top top,

@@ -22,7 +22,7 @@ std::string holder_json(const Node &node) {
 
 // Octets that were to be opened and are not: in hexadecimal, with what they hold or the reason.
 std::string unopened_json(const Node &node) {
-  const std::vector<std::uint8_t> content = octets_of(node.type_id, node.value);
+  const std::vector<std::uint8_t> content = octets_of(node);
   const bool bits = node.shape.base == QUARN_ASN1_BITSTRING;
   Octets inside(content);
   std::string text = "{";
@@ -40,7 +40,7 @@ std::string unopened_json(const Node &node) {
 }
 
 std::string any_json(const Node &node) {
-  const std::vector<std::uint8_t> octets = octets_of(node.type_id, node.value);
+  const std::vector<std::uint8_t> octets = octets_of(node);
   if (node.trouble.empty()) return element_json(octets);
   return "{\"error\":" + json_string(node.trouble) + ",\"element\":" + element_json(octets) + "}";
 }

@@ -80,12 +80,15 @@ Node node_of(std::int64_t type_id, const void *value);
 // What its component of this name holds, or an empty node.
 Node part_of(const Node &node, std::string_view name);
 
+// How many components a record or a list has; none for an empty node.
+std::int64_t count_of(const Node &node);
 // Component number index; its value is null when it is absent.
 quarn_asn1_component component_of(const Node &node, std::int64_t index);
-quarn_asn1_component component_of(std::int64_t type_id, const void *value, std::int64_t index);
+// What that component holds, or an empty node.
+Node part_of(const Node &node, std::int64_t index);
 
 // Content octets of a primitive value, as they stand in its encoding; of an ANY the whole encoding.
-std::vector<std::uint8_t> octets_of(std::int64_t type_id, const void *value);
+std::vector<std::uint8_t> octets_of(const Node &node);
 // The dotted text of an OBJECT IDENTIFIER.
 std::string oid_text(const void *value);
 
