@@ -100,10 +100,9 @@ bool is_address(const Node &node) {
 }
 
 quarn_asn1_header header_of(const Node &node) {
-  quarn_asn1_type_description type{};
-  static_cast<void>(quarn_asn1_type_describe(node.shape.base, &type));
   quarn_asn1_header header{};
-  header.tag_number = node.shape.base == QUARN_ASN1_STRING ? 4 : type.tag_number;
+  header.tag_number =
+      node.shape.base == QUARN_ASN1_STRING ? 4 : description_of(node.shape.base).tag_number;
   header.form = 1;
   return header;
 }

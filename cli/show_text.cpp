@@ -27,9 +27,7 @@ std::string indented(std::size_t level) {
 
 // The name in ASN.1, with the one in use for object identifiers.
 std::string type_name(std::int64_t type_id) {
-  quarn_asn1_shape shape{};
-  static_cast<void>(quarn_asn1_type_shape(type_id, &shape));
-  return type_id == QUARN_ASN1_OID ? "OID" : shape.name;
+  return type_id == QUARN_ASN1_OID ? "OID" : notation_of(type_id);
 }
 
 // Why octets are not shown as what they should be.

@@ -138,9 +138,7 @@ void Walker::open(Level &level, const Level &parent) {
   }
   Decoded decoded(opening->type_id, octets);
   if (decoded.get() == nullptr) {
-    quarn_asn1_shape shape{};
-    static_cast<void>(quarn_asn1_type_shape(opening->type_id, &shape));
-    node.trouble = std::string("no ") + shape.name + ": " + decoded.reason();
+    node.trouble = "no " + notation_of(opening->type_id) + ": " + decoded.reason();
     return;
   }
   level.opened = std::move(decoded);
@@ -223,6 +221,17 @@ void Walker::push(Level level) {
 }
 
 }  // namespace
+
+quarn_asn1_type_description description_of(std::int64_t type_id) {
+  quarn_asn1_type_description type{};
+  static_cast<void>(quarn_asn1_type_describe(type_id, &type));
+  return type;
+}
+
+std::string notation_of(std::int64_t type_id) {
+  quarn_asn1_shape shape{};
+  return quarn_asn1_type_shape(type_id, &shape) == 1 ? shape.name : "?";
+}
 
 void walk_value(std::int64_t type_id, const void *value, TypedVisitor &visitor) {
   Walker(visitor).show(type_id, value);

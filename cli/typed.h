@@ -25,6 +25,11 @@
 
 namespace quarn::cli {
 
+// The registered name, tag and codes of a type; zeros for one that does not exist.
+quarn_asn1_type_description description_of(std::int64_t type_id);
+// Its name in ASN.1: "Certificate".
+std::string notation_of(std::int64_t type_id);
+
 // A context-specific tag [n], around an encoding or in place of its own tag.
 struct ContextTag {
   std::uint64_t number;

@@ -67,12 +67,6 @@ std::string json_line(std::int64_t id, const quarn_asn1_type_description &type) 
          code_text(type.error_code + 1) + "\"";
 }
 
-quarn_asn1_type_description description_of(std::int64_t id) {
-  quarn_asn1_type_description type{};
-  static_cast<void>(quarn_asn1_type_describe(id, &type));
-  return type;
-}
-
 // Words in lines of at most 100 columns, behind a title unless that is empty.
 std::string wrapped(const std::string &title, const std::vector<std::string> &words) {
   constexpr std::size_t kWidth = 100;
