@@ -38,6 +38,18 @@ void remove_on_signals(const std::string &path) {
   }
 }
 
+// Opens a new file, whose name ends in XXXXXX until then; signals wait until they would remove it.
+int make_temporary(std::string &path) {
+  sigset_t all;
+  sigset_t before;
+  ::sigfillset(&all);
+  static_cast<void>(::sigprocmask(SIG_BLOCK, &all, &before));
+  const int descriptor = ::mkostemp(path.data(), O_CLOEXEC);
+  if (descriptor >= 0) remove_on_signals(path);
+  static_cast<void>(::sigprocmask(SIG_SETMASK, &before, nullptr));
+  return descriptor;
+}
+
 }  // namespace
 
 Failure OutputFile::failure(const char *what) const {
@@ -55,8 +67,7 @@ OutputFile::OutputFile(std::string path) : path_(std::move(path)) {
     if (real != nullptr) path_ = real;
     std::free(real);
     temporary_ = path_ + ".XXXXXX";
-    descriptor_ = ::mkostemp(temporary_.data(), O_CLOEXEC);
-    if (descriptor_ >= 0) remove_on_signals(temporary_);
+    descriptor_ = make_temporary(temporary_);
     const mode_t mask = ::umask(0);
     ::umask(mask);
     const mode_t mode = exists ? status.st_mode & 07777 : 0666 & ~mask;
