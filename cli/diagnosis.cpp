@@ -246,9 +246,8 @@ std::string details(const Report &report) {
   }
   for (const Record &record : report.records) {
     const std::string place = record.offset < 0 ? "" : ", offset " + std::to_string(record.offset);
-    line("library   ", hex_number(static_cast<std::uint64_t>(record.code)) + " " +
-                           printable(record.message) + " (" + record.unit + ":" +
-                           std::to_string(record.line) + place + ")");
+    line("library   ", code_text(record.code) + " " + printable(record.message) + " (" +
+                           record.unit + ":" + std::to_string(record.line) + place + ")");
   }
   return text;
 }
@@ -262,7 +261,7 @@ std::string json_members(const Report &report) {
   for (std::size_t i = 0; i < report.records.size(); i++) {
     const Record &record = report.records[i];
     text += i == 0 ? "{" : ",{";
-    text += "\"code\":" + json_string(hex_number(static_cast<std::uint64_t>(record.code))) +
+    text += "\"code\":" + json_string(code_text(record.code)) +
             ",\"message\":" + json_string(record.message) +
             ",\"unit\":" + json_string(record.unit) + ",\"line\":" + std::to_string(record.line);
     if (record.offset >= 0) text += ",\"offset\":" + std::to_string(record.offset);

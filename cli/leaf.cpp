@@ -68,8 +68,7 @@ std::vector<std::string> set_bits(const Node &node, Octets content) {
 }
 
 std::string named_bits_text(const Node &node, Octets content, const std::string &bits) {
-  std::string list;
-  for (const std::string &name : set_bits(node, content)) list += (list.empty() ? "" : ", ") + name;
+  const std::string list = joined(set_bits(node, content));
   return painted(Paint::name, list.empty() ? "none" : list) + " " + bits;
 }
 
@@ -130,15 +129,7 @@ std::string bits_json(const Node &node, Octets content) {
   const std::size_t count = 8 * (content.size() - 1) - content[0];
   std::string text =
       "{\"bits\":" + std::to_string(count) + ",\"hex\":" + quoted(plain_hex(content.subspan(1)));
-  if (node.names != nullptr) {
-    text += ",\"names\":[";
-    bool first = true;
-    for (const std::string &name : set_bits(node, content)) {
-      text += (first ? "" : ",") + json_string(name);
-      first = false;
-    }
-    text += "]";
-  }
+  if (node.names != nullptr) text += ",\"names\":" + json_list(set_bits(node, content));
   return text + "}";
 }
 

@@ -6,6 +6,7 @@
 
 #include "cli/commands.h"
 #include "cli/failure.h"
+#include "cli/text.h"
 
 namespace quarn::cli {
 
@@ -271,11 +272,7 @@ std::vector<std::string> split(std::string_view list) {
 
 std::string full_help(const Option &option) {
   if (option.choices == nullptr) return option.help;
-  std::string list;
-  for (const std::string &choice : split(option.choices)) {
-    list += (list.empty() ? "" : ", ") + choice;
-  }
-  return std::string(option.help) + " One of " + list + ".";
+  return std::string(option.help) + " One of " + joined(split(option.choices)) + ".";
 }
 
 const std::vector<ExitMeaning> &exit_meanings() {

@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quarn::cli {
 
@@ -58,6 +59,12 @@ std::string escaped_4514(std::string_view text);
 std::string hex_octets(Octets octets, std::size_t most = SIZE_MAX);
 // "0x88"
 std::string hex_number(std::uint64_t number);
+// An error code: "0x10203".
+std::string code_text(int code);
+// "a, b, c"
+std::string joined(const std::vector<std::string> &words);
+// ["a","b","c"] of JSON.
+std::string json_list(const std::vector<std::string> &words);
 // "1 octet", "2 octets"
 std::string counted(std::uint64_t count, const std::string &thing);
 

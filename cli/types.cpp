@@ -29,10 +29,6 @@ std::string tag_text(const quarn_asn1_type_description &type) {
   return type.tag_number == 0 ? "-" : std::to_string(type.tag_number);
 }
 
-std::string code_text(int code) {
-  return hex_number(static_cast<std::uint64_t>(code));
-}
-
 const char *form_text(const quarn_asn1_type_description &type) {
   if (type.form < 0) return "either";
   return type.form == 1 ? "primitive" : "constructed";
@@ -124,12 +120,6 @@ std::string description_text(std::int64_t id) {
   text += uses_text(id);
   text += wrapped("header", {definition->header});
   return text + wrapped("functions", words_of(definition->functions));
-}
-
-std::string json_list(const std::vector<std::string> &words) {
-  std::string text;
-  for (const std::string &word : words) text += (text.empty() ? "" : ",") + json_string(word);
-  return "[" + text + "]";
 }
 
 std::string json_components(const Definition &definition) {
