@@ -1,6 +1,4 @@
 // `quarn cms`: messages of any size, in one pass.
-#include <unistd.h>
-
 #include "cli/commands.h"
 #include "cli/input.h"
 #include "cli/message_show.h"
@@ -78,10 +76,7 @@ int run_cms(const Arguments &arguments) {
   if (to_output && (arguments.has(Opt::json) || arguments.has(Opt::compact))) {
     throw UsageError("cms", "--content - writes nothing but the content, and no JSON");
   }
-  const std::string path = arguments.operands.empty() ? "-" : arguments.operands[0];
-  if (arguments.operands.empty() && isatty(STDIN_FILENO) == 1) {
-    say("quarn: reading from the terminal; end with Ctrl-D");
-  }
+  const std::string path = inputs_of(arguments).front();
   const auto failed = [&path](const Failure &failure) {
     say_failure("cms", path, nullptr, failure);
     return failure.code();

@@ -53,7 +53,7 @@ int make_temporary(std::string &path) {
 }  // namespace
 
 Failure OutputFile::failure(const char *what) const {
-  return {kFile, printable(path_) + ": " + what + ": " + std::strerror(errno)};
+  return system_failure(printable(path_) + ": " + what);
 }
 
 OutputFile::OutputFile(std::string path) : path_(std::move(path)) {
