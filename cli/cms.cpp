@@ -9,9 +9,6 @@ namespace quarn::cli {
 
 namespace {
 
-constexpr std::uint64_t kDefaultWidth = 72;
-constexpr std::size_t kJsonIndent = 2;
-
 int write_octets(void *user, const void *octets, std::int64_t count) {
   const std::string_view text(static_cast<const char *>(octets), static_cast<std::size_t>(count));
   return static_cast<Output *>(user)->try_write(text) ? 1 : 0;
@@ -63,10 +60,10 @@ Message read_from(MessageInput &input, Cut &cut) {
 void show(const Message &message, const Arguments &arguments) {
   if (arguments.value(Opt::content) == "-") return;
   if (arguments.has(Opt::json) || arguments.has(Opt::compact)) {
-    MessageJson(message, arguments.has(Opt::compact) ? 0 : kJsonIndent).show();
+    MessageJson(message, arguments.json_indent()).show();
     return standard_output().write("\n");
   }
-  MessageText(message, arguments.number(Opt::width, kDefaultWidth)).show();
+  MessageText(message, arguments.width()).show();
 }
 
 }  // namespace

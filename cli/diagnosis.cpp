@@ -164,10 +164,8 @@ Failure failure_of(Report report, Octets octets, const std::string &message) {
 }
 
 Failure failure_of(Report report, const std::string &message) {
-  const std::string text = !message.empty()
-                               ? message
-                               : "offset " + std::to_string(report.offset) + " (" +
-                                     hex_number(report.offset) + "): found " + report.found;
+  const std::string text =
+      !message.empty() ? message : offset_text(report.offset) + ": found " + report.found;
   const Exit code = report.code;
   return {code, text, std::make_shared<const Report>(std::move(report))};
 }

@@ -157,8 +157,7 @@ MessageInput::Held MessageInput::held() {
 void MessageInput::expect_end() {
   if (ahead().empty()) refill();
   if (!ahead().empty()) {
-    throw Failure(kBadInput, "offset " + std::to_string(position()) + " (" +
-                                 hex_number(position()) + "): octets follow the message");
+    throw Failure(kBadInput, offset_text(position()) + ": octets follow the message");
   }
   if (pem_ && pem_->find()) {
     throw Failure(kBadInput, "another message follows; one at a time can be shown");

@@ -302,4 +302,9 @@ std::uint64_t Arguments::number(Opt option, std::uint64_t fallback) const {
   return number;
 }
 
+std::size_t Arguments::width() const {
+  constexpr std::size_t kDefaultWidth = 72;  // as the help says
+  return number(Opt::width, kDefaultWidth);
+}
+
 }  // namespace quarn::cli

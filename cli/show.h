@@ -53,7 +53,7 @@ class TextShow : public TypedVisitor {
 class JsonShow : public TypedVisitor {
  public:
   // indent: blanks a level; 0 for one line.
-  explicit JsonShow(std::size_t indent) : indent_(indent) {}
+  explicit JsonShow(int indent) : indent_(static_cast<std::size_t>(indent)) {}
 
   bool enter(const Node &node, std::int64_t count) override;
   void leave() override;

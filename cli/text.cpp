@@ -266,6 +266,10 @@ std::string hex_number(std::uint64_t number) {
   return out;
 }
 
+std::string offset_text(std::uint64_t offset) {
+  return "offset " + std::to_string(offset) + " (" + hex_number(offset) + ")";
+}
+
 std::string code_text(int code) {
   return hex_number(static_cast<std::uint64_t>(code));
 }

@@ -59,6 +59,8 @@ std::string escaped_4514(std::string_view text);
 std::string hex_octets(Octets octets, std::size_t most = SIZE_MAX);
 // "0x88"
 std::string hex_number(std::uint64_t number);
+// "offset 136 (0x88)"
+std::string offset_text(std::uint64_t offset);
 // An error code: "0x10203".
 std::string code_text(int code);
 // "a, b, c"
