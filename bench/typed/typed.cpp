@@ -206,7 +206,7 @@ Question lists_decoded(const std::string &title, bool extensions) {
   for (const auto &[entries, suffix] : kLengths) {
     const std::vector<Octets> &inputs = kept.emplace_back(1, revocation_list(entries, extensions));
     for (const Library &library : libraries()) {
-      if (library.most_entries != 0 && entries > library.most_entries) {
+      if (extensions && library.most_entries != 0 && entries > library.most_entries) {
         cases.note(std::string(library.name) + suffix + ": left out, takes minutes");
         continue;
       }

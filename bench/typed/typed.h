@@ -20,7 +20,7 @@ struct Library {
       nullptr;  // each extension that it has a type for
   bool (*request)(const Octets &der) = nullptr;
   bool (*list)(const Octets &der) = nullptr;  // of revoked certificates
-  std::size_t most_entries = 0;               // of a list, where more take too long; 0: any number
+  std::size_t most_entries = 0;  // of a list with extensions, where more take minutes; 0: any
   bool (*sorted_name)(const Octets &der) = nullptr;
 
   // A certificate that is kept.
