@@ -121,22 +121,14 @@ Case writing(const std::string &name,
              const std::string &reference,
              double at_most) {
   return {.name = name,
-          .work =
-              [=] {
-                write_signed(content_of(kLarge), piece, digest);
-                return std::uint64_t{0};
-              },
+          .work = uncounted([=] { write_signed(content_of(kLarge), piece, digest); }),
           .at_most = at_most,
           .reference = reference};
 }
 
 Case writing_openssl(const std::string &name, bool digest) {
   return {.name = name,
-          .work =
-              [=] {
-                write_openssl(content_of(kLarge), digest);
-                return std::uint64_t{0};
-              },
+          .work = uncounted([=] { write_openssl(content_of(kLarge), digest); }),
           .reference = name};
 }
 
@@ -160,12 +152,10 @@ Case decoding_file(const std::string &name,
                    const Size &size,
                    const std::string &reference) {
   return {.name = name + size.suffix,
-          .work =
-              [=, octets = size.octets] {
-                const std::uint64_t found = decode(signed_file(octets));
-                require(found == 0 || found == octets, "find all content");
-                return std::uint64_t{0};
-              },
+          .work = uncounted([=, octets = size.octets] {
+            const std::uint64_t found = decode(signed_file(octets));
+            require(found == 0 || found == octets, "find all content");
+          }),
           .reference = reference + size.suffix};
 }
 
@@ -202,11 +192,7 @@ Question from_files() {
 
 Case decoding_enveloped(const std::string &name, DecodeMessage decode, const Size &size) {
   return {.name = name + size.suffix,
-          .work =
-              [=, octets = size.octets] {
-                decode(enveloped_message(octets));
-                return std::uint64_t{0};
-              },
+          .work = uncounted([=, octets = size.octets] { decode(enveloped_message(octets)); }),
           .reference = std::string("OpenSSL") + size.suffix};
 }
 
@@ -231,13 +217,12 @@ Question enveloped_encoded() {
   for (const Size &size : {kSizes[0], kSizes[1]}) {
     for (const MessageLibrary &library : able) {
       void *message = library.load_enveloped(enveloped_message(size.octets));
-      question.cases.push_back({.name = std::string(library.name) + size.suffix,
-                                .work =
-                                    [message, encode = library.encode_enveloped, size] {
-                                      require(encode(message) > size.octets, "encode a message");
-                                      return std::uint64_t{0};
-                                    },
-                                .reference = std::string("OpenSSL") + size.suffix});
+      question.cases.push_back(
+          {.name = std::string(library.name) + size.suffix,
+           .work = uncounted([message, encode = library.encode_enveloped, size] {
+             require(encode(message) > size.octets, "encode a message");
+           }),
+           .reference = std::string("OpenSSL") + size.suffix});
     }
   }
   return question;
