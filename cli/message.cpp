@@ -136,7 +136,7 @@ void Reading::read_type() {
   }
   message_.type_id = opening->type_id;
   const Frame tag = element_at(first.end());
-  if (!has_tag(tag, 0x80, 0, 0)) refuse(tag, "[0], the content of the ContentInfo");
+  if (!has_tag(tag, kContext, 0, 0)) refuse(tag, "[0], the content of the ContentInfo");
   frames_ = {outer, tag};
   base_ = tag.content();
 }

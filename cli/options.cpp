@@ -238,17 +238,13 @@ const Option &option(Opt id) {
   return kOptions[0];
 }
 
-const std::vector<Opt> &common_options() {
-  static const std::vector<Opt> common = {Opt::color, Opt::help};
-  return common;
-}
-
 std::vector<const Option *> options_of(const Command *command) {
   std::vector<const Option *> list;
   if (command != nullptr) {
     for (const Opt id : command->options) list.push_back(&option(id));
   }
-  for (const Opt id : common_options()) list.push_back(&option(id));
+  list.push_back(&option(Opt::color));
+  list.push_back(&option(Opt::help));
   if (command == nullptr) list.push_back(&option(Opt::version));
   return list;
 }

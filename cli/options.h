@@ -81,8 +81,6 @@ const Command *find_command(std::string_view name);
 const Option &option(Opt id);
 // What the commands that read encodings accept as FILE.
 const char *input_text();
-// Options that every command has.
-const std::vector<Opt> &common_options();
 // The options of the command and the common ones; those of `quarn` itself for null.
 std::vector<const Option *> options_of(const Command *command);
 

@@ -82,9 +82,6 @@ class JsonShow : public TypedVisitor {
   std::vector<Level> levels_;
 };
 
-// Any encoding as a JSON value: the document that `quarn json` writes.
-std::string element_json(Octets octets);
-
 }  // namespace quarn::cli
 
 #endif

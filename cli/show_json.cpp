@@ -14,6 +14,18 @@ namespace {
 
 constexpr std::size_t kMostIndent = 64;  // levels
 
+// Any encoding as a JSON value: the document that `quarn json` writes.
+std::string element_json(Octets octets) {
+  const Json document(quarn_asn1_tojson(octets.data(), static_cast<std::int64_t>(octets.size())));
+  char *text = nullptr;
+  std::size_t length = 0;
+  if (document == nullptr || quarn_json_print(document.get(), 0, &text, &length) != 1) {
+    return "{\"hex\":\"" + plain_hex(octets) + "\"}";
+  }
+  const OwnedText owned(text);
+  return JsonText().escaped({text, length});
+}
+
 std::string holder_json(const Node &node) {
   std::string text = "{";
   if (node.holder != QUARN_ASN1_ANY) text += "\"hex\":\"" + plain_hex(node.held) + "\",";
@@ -46,17 +58,6 @@ std::string any_json(const Node &node) {
 }
 
 }  // namespace
-
-std::string element_json(Octets octets) {
-  const Json document(quarn_asn1_tojson(octets.data(), static_cast<std::int64_t>(octets.size())));
-  char *text = nullptr;
-  std::size_t length = 0;
-  if (document == nullptr || quarn_json_print(document.get(), 0, &text, &length) != 1) {
-    return "{\"hex\":\"" + plain_hex(octets) + "\"}";
-  }
-  const OwnedText owned(text);
-  return JsonText().escaped({text, length});
-}
 
 void JsonShow::new_line() const {
   if (indent_ == 0) return;

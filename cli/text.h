@@ -18,9 +18,6 @@ using Octets = std::span<const std::uint8_t>;
 inline std::string_view as_text(Octets octets) {
   return {reinterpret_cast<const char *>(octets.data()), octets.size()};
 }
-inline Octets as_octets(std::string_view text) {
-  return {reinterpret_cast<const std::uint8_t *>(text.data()), text.size()};
-}
 
 // UTF-8 with everything that is not plainly visible written as \n, \u{202E} or, for octets that are
 // no UTF-8, \xFF. A backslash becomes two, so that the result is unambiguous.

@@ -13,8 +13,6 @@ namespace quarn::cli {
 
 namespace {
 
-constexpr std::uint32_t kContext = 0x80;
-
 struct Placed {
   Element element;
   std::uint64_t end;    // of its content

@@ -13,6 +13,7 @@
 #include "cli/open.h"
 #include "cli/output.h"
 #include "cli/text.h"
+#include "cli/walk.h"
 #include "quarn_asn1/core.h"
 
 namespace quarn::cli {
@@ -25,7 +26,7 @@ std::string column(std::string text, std::size_t width) {
 }
 
 std::string tag_text(const quarn_asn1_type_description &type) {
-  if (type.tag_class == 0x40) return "APPLICATION " + std::to_string(type.tag_number);
+  if (type.tag_class == kApplication) return "APPLICATION " + std::to_string(type.tag_number);
   return type.tag_number == 0 ? "-" : std::to_string(type.tag_number);
 }
 
@@ -57,7 +58,7 @@ std::string table_line(std::int64_t id, const quarn_asn1_type_description &type)
 // The members of an object, without its braces.
 std::string json_line(std::int64_t id, const quarn_asn1_type_description &type) {
   return "\"id\":" + std::to_string(id) + ",\"name\":" + json_string(type.name) +
-         ",\"class\":" + (type.tag_class == 0x40 ? "\"APPLICATION\"" : "\"UNIVERSAL\"") +
+         ",\"class\":" + (type.tag_class == kApplication ? "\"APPLICATION\"" : "\"UNIVERSAL\"") +
          ",\"tag\":" + std::to_string(type.tag_number) + ",\"form\":\"" + form_text(type) +
          "\",\"encode_code\":\"" + code_text(type.error_code) + "\",\"decode_code\":\"" +
          code_text(type.error_code + 1) + "\"";
