@@ -207,25 +207,21 @@ std::vector<Command> reference_commands() {
       {"help", "[COMMAND]", "Show help", "Shows help for a command.", {}, {}, 0, 1, run_help}};
 }
 
-const std::vector<Command> &table() {
+}  // namespace
+
+const std::vector<Command> &commands() {
   static const std::vector<Command> all = [] {
-    std::vector<Command> list = encoding_commands();
-    for (Command &command : message_commands()) list.push_back(std::move(command));
-    for (Command &command : form_commands()) list.push_back(std::move(command));
-    for (Command &command : reference_commands()) list.push_back(std::move(command));
+    std::vector<Command> list;
+    for (auto *make : {encoding_commands, message_commands, form_commands, reference_commands}) {
+      for (Command &command : make()) list.push_back(std::move(command));
+    }
     return list;
   }();
   return all;
 }
 
-}  // namespace
-
-const std::vector<Command> &commands() {
-  return table();
-}
-
 const Command *find_command(std::string_view name) {
-  for (const Command &command : table()) {
+  for (const Command &command : commands()) {
     if (name == command.name) return &command;
   }
   return nullptr;
