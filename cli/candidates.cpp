@@ -10,8 +10,6 @@ namespace quarn::cli {
 
 namespace {
 
-constexpr std::uint8_t kNull = 0x05;  // identifier octet
-
 Sight always(const Node & /*value*/) {
   return Sight::sure;
 }
@@ -67,10 +65,7 @@ Sight code_time_stamp_request(const Node &node) {
 // Beside other identifiers stand values of other types; NULL stands beside those of algorithms.
 Sight algorithm(const Node &node) {
   if (known(Place::parameters, node, "algorithm")) return Sight::sure;
-  const Node parameters = part_of(node, "parameters");
-  if (parameters.value == nullptr) return Sight::no;
-  const std::vector<std::uint8_t> octets = octets_of(parameters);
-  return octets.at(0) == kNull ? Sight::likely : Sight::no;
+  return is_null(part_of(node, "parameters")) ? Sight::likely : Sight::no;
 }
 // Any algorithm and a string would do for the type, a digest to begin with.
 Sight encrypted_key(const Node &node) {

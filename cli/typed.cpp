@@ -285,6 +285,12 @@ std::vector<std::uint8_t> octets_of(const Node &node) {
   return {octets, octets + count};
 }
 
+bool is_null(const Node &any) {
+  constexpr std::uint8_t kNull = 0x05;  // identifier octet
+  return any.value != nullptr && octets_of(any).at(0) == kNull &&
+         quarn_asn1_any_getcontentlength(static_cast<const quarn_asn1_any *>(any.value)) == 0;
+}
+
 std::string oid_text(const void *value) {
   if (value == nullptr) return "";
   const char *text = quarn_asn1_oid_getstring(static_cast<const quarn_asn1_oid *>(value));

@@ -94,6 +94,8 @@ Node part_of(const Node &node, std::int64_t index);
 
 // Content octets of a primitive value, as they stand in its encoding; of an ANY the whole encoding.
 std::vector<std::uint8_t> octets_of(const Node &node);
+// Whether an ANY is NULL, as the parameters of many algorithms are.
+bool is_null(const Node &any);
 // The dotted text of an OBJECT IDENTIFIER.
 std::string oid_text(const void *value);
 
