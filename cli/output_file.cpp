@@ -71,7 +71,11 @@ OutputFile::OutputFile(std::string path) : path_(std::move(path)) {
     const mode_t mask = ::umask(0);
     ::umask(mask);
     const mode_t mode = exists ? status.st_mode & 07777 : 0666 & ~mask;
-    if (descriptor_ >= 0 && ::fchmod(descriptor_, mode) != 0) throw failure("cannot be made");
+    if (descriptor_ >= 0 && ::fchmod(descriptor_, mode) != 0) {
+      const Failure refused = failure("cannot be made");
+      ::unlink(temporary_.c_str());
+      throw refused;
+    }
   }
   if (descriptor_ < 0) {
     temporary_.clear();
