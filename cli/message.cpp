@@ -39,7 +39,7 @@ class Reading {
   MessageInput &input_;
   std::vector<std::uint8_t> start_;
   quarn_stream *stream_ = nullptr;
-  std::vector<Element> around_;  // it, outermost first
+  std::vector<Element> around_;  // the value, outermost first
   std::uint64_t base_ = 0;       // octets before the value
   std::uint64_t tail_ = 0;       // octets that end it and are in none of its components
   Message message_;
