@@ -87,8 +87,21 @@ Memory end_count();
 // Ends the program when something that must work does not: its figures would mean nothing.
 void require(bool good, const std::string &what);
 
+// Work that has no number to compare.
+template <typename Function>
+std::function<std::uint64_t()> uncounted(Function function) {
+  return [function] {
+    function();
+    return std::uint64_t{0};
+  };
+}
+
 // The DER of an element around its content.
 Octets element(std::uint8_t identifier, const Octets &content);
+// A piece so often that there are so many octets or a few more.
+Octets repeated(const Octets &piece, std::size_t size);
+// The same octets for the same seed, which look like random ones.
+Octets random_octets(std::size_t size, std::uint64_t seed);
 
 }  // namespace bench
 

@@ -1,4 +1,5 @@
-// The certificates that are measured: those that every Debian system has, and generated ones.
+// What is measured with: the certificates that every Debian system has, generated ones, and octets
+// that are put together.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -84,6 +85,22 @@ Octets element(std::uint8_t identifier, const Octets &content) {
   }
   der.insert(der.end(), content.begin(), content.end());
   return der;
+}
+
+Octets repeated(const Octets &piece, std::size_t size) {
+  Octets all;
+  all.reserve(size + piece.size());
+  while (all.size() < size) all.insert(all.end(), piece.begin(), piece.end());
+  return all;
+}
+
+Octets random_octets(std::size_t size, std::uint64_t seed) {
+  Octets all(size);
+  for (std::uint8_t &octet : all) {
+    seed = seed * 6364136223846793005U + 1442695040888963407U;
+    octet = static_cast<std::uint8_t>(seed >> 56);
+  }
+  return all;
 }
 
 void require(bool good, const std::string &what) {

@@ -20,13 +20,6 @@ constexpr double kMostJsonTree = 40;  // octets held for an octet of real input
 constexpr double kMostAnyTree = 4;
 constexpr int kRepetitions = 3;
 
-Octets repeated(const Octets &piece, std::size_t size) {
-  Octets all;
-  all.reserve(size + piece.size());
-  while (all.size() < size) all.insert(all.end(), piece.begin(), piece.end());
-  return all;
-}
-
 // Elements one in the other, of definite length: made from the inside out, back to front.
 Octets nested(std::uint8_t identifier, std::size_t size) {
   Octets reversed{0x00, 0x05};

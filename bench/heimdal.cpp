@@ -20,11 +20,7 @@ bool header_heimdal(const std::uint8_t *octets, std::size_t count, Found &found)
 }
 
 bool decode_heimdal(const Octets &der) {
-  Certificate certificate;
-  std::size_t size = 0;
-  if (decode_Certificate(der.data(), der.size(), &certificate, &size) != 0) return false;
-  free_Certificate(&certificate);
-  return true;
+  return decode_certificate(der.data(), der.size());
 }
 
 }  // namespace bench

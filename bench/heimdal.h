@@ -1,7 +1,9 @@
-// Heimdal's headers, which are written for C and for other warnings than ours.
+// Heimdal: its headers, which are written for C and for other warnings than ours, and what is done
+// with them in several questions.
 #ifndef QUARN_BENCH_HEIMDAL_H
 #define QUARN_BENCH_HEIMDAL_H
 
+#include <cstddef>
 #include <cstdint>
 
 #pragma GCC diagnostic push
@@ -15,5 +17,26 @@ extern "C" {
 #include <heimdal/der.h>
 }
 #pragma GCC diagnostic pop
+
+namespace bench {
+
+template <typename T>
+using DecodeHeimdal = int(const unsigned char *, size_t, T *, size_t *);
+
+// False when it refuses the octets.
+template <typename T, DecodeHeimdal<T> decode, void release(T *)>
+bool decode_and_free(const void *octets, std::size_t count) {
+  T value;
+  std::size_t size = 0;
+  if (decode(static_cast<const unsigned char *>(octets), count, &value, &size) != 0) return false;
+  release(&value);
+  return true;
+}
+
+inline bool decode_certificate(const void *octets, std::size_t count) {
+  return decode_and_free<Certificate, decode_Certificate, free_Certificate>(octets, count);
+}
+
+}  // namespace bench
 
 #endif

@@ -15,7 +15,7 @@ Octets text(std::uint8_t identifier, const std::string &content) {
 }
 
 std::function<std::uint64_t()> decode_quarn(quarn_asn1_type_id type, const Octets &der) {
-  return [type, der] {
+  return uncounted([type, der] {
     std::uint64_t octets = 0;
     for (std::size_t i = 0; i < kTimes; i++) {
       void *value = nullptr;
@@ -24,23 +24,21 @@ std::function<std::uint64_t()> decode_quarn(quarn_asn1_type_id type, const Octet
       quarn_asn1_value_free(type, value);
     }
     if (octets != kTimes * der.size()) require(false, "decode type " + std::to_string(type));
-    return std::uint64_t{0};
-  };
+  });
 }
 
 template <typename T>
 std::function<std::uint64_t()> decode_openssl(T *(*decode)(T **, const unsigned char **, long),
                                               void (*release)(T *),
                                               const Octets &der) {
-  return [decode, release, der] {
+  return uncounted([decode, release, der] {
     for (std::size_t i = 0; i < kTimes; i++) {
       const std::uint8_t *next = der.data();
       T *value = decode(nullptr, &next, static_cast<long>(der.size()));
       require(next == der.data() + der.size(), "decode a small value with OpenSSL");
       release(value);
     }
-    return std::uint64_t{0};
-  };
+  });
 }
 
 // Both ways to decode one type. The ratio is for information: what is demanded is the number of

@@ -116,14 +116,16 @@ Form form_named(std::string_view name) {
   return name == "hex" ? Form::hex : Form::automatic;
 }
 
+std::vector<std::string> inputs_of(const Arguments &arguments) {
+  if (!arguments.operands.empty()) return arguments.operands;
+  if (isatty(STDIN_FILENO) == 1) say("quarn: reading from the terminal; end with Ctrl-D");
+  return {"-"};
+}
+
 int visit_inputs(const Arguments &arguments, Visitor &visitor) {
   Batch batch(visitor, form_named(arguments.value(Opt::in_form, "auto")));
-  if (arguments.operands.empty()) {
-    if (isatty(STDIN_FILENO) == 1) say("quarn: reading from the terminal; end with Ctrl-D");
-    batch.add("-", false);
-  }
-  for (const std::string &operand : arguments.operands) {
-    batch.add(operand, arguments.has(Opt::recursive));
+  for (const std::string &input : inputs_of(arguments)) {
+    batch.add(input, arguments.has(Opt::recursive));
   }
   return batch.run();
 }
@@ -165,9 +167,8 @@ void say_failure(const std::string &command,
                  const std::string &path,
                  const Object *object,
                  const Failure &failure) {
-  std::string line = "quarn " + command + ": " +
-                     (path == "-" ? "standard input" : printable(path)) + ": " +
-                     object_prefix(object) + failure.what();
+  std::string line =
+      "quarn " + command + ": " + input_name(path) + ": " + object_prefix(object) + failure.what();
   if (failure.report() != nullptr) line += "\n" + details(*failure.report());
   say(line);
 }

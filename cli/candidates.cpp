@@ -10,18 +10,12 @@ namespace quarn::cli {
 
 namespace {
 
-constexpr std::uint8_t kNull = 0x05;  // identifier octet
-
 Sight always(const Node & /*value*/) {
   return Sight::sure;
 }
 
 Sight sure_if(bool condition, Sight otherwise = Sight::no) {
   return condition ? Sight::sure : otherwise;
-}
-
-std::int64_t count_of(const Node &node) {
-  return node.value == nullptr ? 0 : quarn_asn1_component_count(node.type_id, node.value);
 }
 
 Sight not_empty(const Node &list) {
@@ -71,10 +65,7 @@ Sight code_time_stamp_request(const Node &node) {
 // Beside other identifiers stand values of other types; NULL stands beside those of algorithms.
 Sight algorithm(const Node &node) {
   if (known(Place::parameters, node, "algorithm")) return Sight::sure;
-  const Node parameters = part_of(node, "parameters");
-  if (parameters.value == nullptr) return Sight::no;
-  const std::vector<std::uint8_t> octets = octets_of(parameters.type_id, parameters.value);
-  return octets.at(0) == kNull ? Sight::likely : Sight::no;
+  return is_null(part_of(node, "parameters")) ? Sight::likely : Sight::no;
 }
 // Any algorithm and a string would do for the type, a digest to begin with.
 Sight encrypted_key(const Node &node) {
@@ -86,8 +77,7 @@ Sight extension(const Node &node) {
 }
 Sight extensions(const Node &list) {
   for (std::int64_t i = 0; i < count_of(list); i++) {
-    const quarn_asn1_component one = component_of(list, i);
-    if (extension(node_of(one.type_id, one.value)) == Sight::sure) return Sight::sure;
+    if (extension(part_of(list, i)) == Sight::sure) return Sight::sure;
   }
   return Sight::no;
 }
@@ -115,15 +105,12 @@ Sight evidence_record(const Node &node) {
 }
 Sight certificate_store(const Node &list) {
   for (std::int64_t i = 0; i < count_of(list); i++) {
-    const quarn_asn1_component one = component_of(list, i);
-    if (has(node_of(one.type_id, one.value), "attrs")) return Sight::sure;
+    if (has(part_of(list, i), "attrs")) return Sight::sure;
   }
   return count_of(list) > 0 ? Sight::likely : Sight::no;
 }
 Sight name(const Node &list) {
-  if (count_of(list) == 0) return Sight::no;
-  const quarn_asn1_component first = component_of(list, 0);
-  return not_empty(node_of(first.type_id, first.value));
+  return not_empty(part_of(list, 0));
 }
 Sight certificate_pair(const Node &node) {
   return sure_if(has(node, "forward") || has(node, "reverse"));
@@ -140,7 +127,7 @@ struct Number {
 Number number(const Node &node, std::string_view name) {
   const Node part = part_of(node, name);
   if (part.value == nullptr) return {};
-  const std::vector<std::uint8_t> octets = octets_of(part.type_id, part.value);
+  const std::vector<std::uint8_t> octets = octets_of(part);
   if (octets.empty() || octets[0] >= 0x80) return {};
   const auto first = std::find_if(octets.begin(), octets.end(), [](auto octet) { return octet; });
   return {static_cast<std::size_t>(octets.end() - first), (octets.back() & 1) != 0, octets.back()};
@@ -213,7 +200,7 @@ Sight signature_value(const Node &node) {
 Sight ec_private_key(const Node &node) {
   constexpr std::size_t kLeastKey = 14;  // of a curve of 112 bits
   const Node key = part_of(node, "privateKey");
-  if (small(node, "version") != 1 || octets_of(key.type_id, key.value).size() < kLeastKey) {
+  if (small(node, "version") != 1 || octets_of(key).size() < kLeastKey) {
     return Sight::no;
   }
   return sure_if(has(node, "parameters") || has(node, "publicKey"), Sight::likely);
@@ -228,8 +215,7 @@ Sight ec_parameters(const Node &node) {
     return sure_if(begins_with_one_of(oid_text(node.value), kCurves));
   }
   if (!node.list() || count_of(node) < 2) return Sight::no;
-  const quarn_asn1_component second = component_of(node, 1);
-  const Decoded field(QUARN_ASN1_X509ALGORITHMID, octets_of(second.type_id, second.value));
+  const Decoded field(QUARN_ASN1_X509ALGORITHMID, octets_of(part_of(node, 1)));
   return sure_if(field.get() != nullptr &&
                  starts(node_of(field.type_id(), field.get()), "algorithm", "1.2.840.10045.1."));
 }

@@ -1,6 +1,4 @@
 // `quarn cms`: messages of any size, in one pass.
-#include <unistd.h>
-
 #include "cli/commands.h"
 #include "cli/input.h"
 #include "cli/message_show.h"
@@ -10,9 +8,6 @@
 namespace quarn::cli {
 
 namespace {
-
-constexpr std::uint64_t kDefaultWidth = 72;
-constexpr std::size_t kJsonIndent = 2;
 
 int write_octets(void *user, const void *octets, std::int64_t count) {
   const std::string_view text(static_cast<const char *>(octets), static_cast<std::size_t>(count));
@@ -65,10 +60,10 @@ Message read_from(MessageInput &input, Cut &cut) {
 void show(const Message &message, const Arguments &arguments) {
   if (arguments.value(Opt::content) == "-") return;
   if (arguments.has(Opt::json) || arguments.has(Opt::compact)) {
-    MessageJson(message, arguments.has(Opt::compact) ? 0 : kJsonIndent).show();
+    MessageJson(message, arguments.json_indent()).show();
     return standard_output().write("\n");
   }
-  MessageText(message, arguments.number(Opt::width, kDefaultWidth)).show();
+  MessageText(message, arguments.width()).show();
 }
 
 }  // namespace
@@ -78,10 +73,7 @@ int run_cms(const Arguments &arguments) {
   if (to_output && (arguments.has(Opt::json) || arguments.has(Opt::compact))) {
     throw UsageError("cms", "--content - writes nothing but the content, and no JSON");
   }
-  const std::string path = arguments.operands.empty() ? "-" : arguments.operands[0];
-  if (arguments.operands.empty() && isatty(STDIN_FILENO) == 1) {
-    say("quarn: reading from the terminal; end with Ctrl-D");
-  }
+  const std::string path = inputs_of(arguments).front();
   const auto failed = [&path](const Failure &failure) {
     say_failure("cms", path, nullptr, failure);
     return failure.code();

@@ -23,7 +23,7 @@ char letter_of(const quarn_asn1_header &header) {
   if (header.tag_class == kUniversal && header.tag_number < kLetters.size()) {
     return kLetters[header.tag_number];
   }
-  const bool digit = header.tag_class == 0x80 && header.tag_number < 10;
+  const bool digit = header.tag_class == kContext && header.tag_number < 10;
   return digit ? static_cast<char>('0' + header.tag_number) : '.';
 }
 

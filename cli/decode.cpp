@@ -12,9 +12,6 @@ namespace quarn::cli {
 
 namespace {
 
-constexpr std::uint64_t kDefaultWidth = 72;
-constexpr std::size_t kJsonIndent = 2;
-
 // What the three forms of output have in common: from an object to a value of a type.
 class Decode : public Visitor {
  public:
@@ -73,8 +70,7 @@ void Decode::unknown(const Source & /*source*/,
 // For people.
 class Text : public Decode {
  public:
-  explicit Text(const Arguments &arguments)
-      : Decode(arguments), width_(arguments.number(Opt::width, kDefaultWidth)) {}
+  explicit Text(const Arguments &arguments) : Decode(arguments), width_(arguments.width()) {}
 
  protected:
   void show(const Source &source,
@@ -108,7 +104,7 @@ class Text : public Decode {
 class Documents : public Decode {
  public:
   explicit Documents(const Arguments &arguments)
-      : Decode(arguments), indent_(arguments.has(Opt::compact) ? 0 : kJsonIndent) {}
+      : Decode(arguments), indent_(arguments.json_indent()) {}
 
  protected:
   void show(const Source & /*source*/,
@@ -121,7 +117,7 @@ class Documents : public Decode {
   }
 
  private:
-  std::size_t indent_;
+  int indent_;
 };
 
 // One line an object, whether it is good or bad.

@@ -1,12 +1,12 @@
 // `quarn der`: JSON documents back to octets.
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 
 #include "cli/commands.h"
 #include "cli/diagnosis.h"
 #include "cli/failure.h"
 #include "cli/handles.h"
+#include "cli/input.h"
 #include "cli/output_file.h"
 #include "cli/text.h"
 #include "quarn_asn1/json.h"
@@ -93,7 +93,7 @@ Failure parse_failure(std::string_view text, std::size_t offset, const std::stri
 
 // What a text that is no JSON looks like.
 std::string no_json(std::string_view text, std::size_t offset) {
-  if (offset <= 1 && text.substr(0, 11) == "-----BEGIN ") {
+  if (offset <= 1 && text.starts_with(kPemBegin)) {
     return "this is PEM, not JSON; `quarn json` makes JSON of it";
   }
   if (offset <= 1 && (text.substr(0, 1) == "0" || text.substr(0, 1) == "1")) {
@@ -208,17 +208,15 @@ Blob read(const std::string &path) {
   if (blob != nullptr) return blob;
   const quarn_err_record *record = quarn_err_ctx_get(records.get(), 0);
   if (record == nullptr || record->code == QUARN_ERROR_NO_MEMORY) throw std::bad_alloc();
-  throw Failure(kFile, errno != 0 ? std::string("cannot be read: ") + std::strerror(errno)
-                                  : std::string("cannot be read"));
+  throw errno != 0 ? system_failure("cannot be read") : Failure(kFile, "cannot be read");
 }
 
 }  // namespace
 
 int run_der(const Arguments &arguments) {
   const Form form = form_of(arguments);
-  const std::string path = arguments.operands.empty() ? "-" : arguments.operands[0];
-  const std::string name = path == "-" ? "standard input" : printable(path);
   Target target("der", arguments, form);
+  const std::string path = inputs_of(arguments).front();
   try {
     const Blob blob = read(path);
     const std::string_view text(reinterpret_cast<const char *>(blob->data),
@@ -230,7 +228,7 @@ int run_der(const Arguments &arguments) {
     const bool of_output =
         failure.code() == kFile &&
         std::string_view(failure.what()).find("write to") != std::string_view::npos;
-    say("quarn der: " + (of_output ? "" : name + ": ") + failure.what());
+    say("quarn der: " + (of_output ? "" : input_name(path) + ": ") + failure.what());
     return failure.code();
   }
 }

@@ -164,10 +164,8 @@ Failure failure_of(Report report, Octets octets, const std::string &message) {
 }
 
 Failure failure_of(Report report, const std::string &message) {
-  const std::string text = !message.empty()
-                               ? message
-                               : "offset " + std::to_string(report.offset) + " (" +
-                                     hex_number(report.offset) + "): found " + report.found;
+  const std::string text =
+      !message.empty() ? message : offset_text(report.offset) + ": found " + report.found;
   const Exit code = report.code;
   return {code, text, std::make_shared<const Report>(std::move(report))};
 }
@@ -246,9 +244,8 @@ std::string details(const Report &report) {
   }
   for (const Record &record : report.records) {
     const std::string place = record.offset < 0 ? "" : ", offset " + std::to_string(record.offset);
-    line("library   ", hex_number(static_cast<std::uint64_t>(record.code)) + " " +
-                           printable(record.message) + " (" + record.unit + ":" +
-                           std::to_string(record.line) + place + ")");
+    line("library   ", code_text(record.code) + " " + printable(record.message) + " (" +
+                           record.unit + ":" + std::to_string(record.line) + place + ")");
   }
   return text;
 }
@@ -262,7 +259,7 @@ std::string json_members(const Report &report) {
   for (std::size_t i = 0; i < report.records.size(); i++) {
     const Record &record = report.records[i];
     text += i == 0 ? "{" : ",{";
-    text += "\"code\":" + json_string(hex_number(static_cast<std::uint64_t>(record.code))) +
+    text += "\"code\":" + json_string(code_text(record.code)) +
             ",\"message\":" + json_string(record.message) +
             ",\"unit\":" + json_string(record.unit) + ",\"line\":" + std::to_string(record.line);
     if (record.offset >= 0) text += ",\"offset\":" + std::to_string(record.offset);

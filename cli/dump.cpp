@@ -22,7 +22,6 @@ namespace {
 
 constexpr std::size_t kMostIndent = 32;
 constexpr const char *kTitle = "  offset head   length  form  element";
-constexpr std::uint64_t kDefaultWidth = 72;
 
 std::string column(const std::string &text, std::size_t width) {
   return text.size() < width ? std::string(width - text.size(), ' ') + text : text;
@@ -33,7 +32,7 @@ class Dump : public Visitor {
   explicit Dump(const Arguments &arguments)
       : dig_(!arguments.has(Opt::no_dig)),
         depth_(arguments.number(Opt::depth, UINT64_MAX)),
-        width_(arguments.number(Opt::width, kDefaultWidth)) {}
+        width_(arguments.width()) {}
 
   void object(const Source &source, const Object &object, bool several) override;
   void failure(const std::string &path, const Object *object, const Failure &failure) override {
@@ -46,7 +45,7 @@ class Dump : public Visitor {
 
   bool dig_;
   std::uint64_t depth_;
-  std::uint64_t width_;
+  std::size_t width_;
   bool first_ = true;
   bool titled_ = false;
 };

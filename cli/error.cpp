@@ -75,16 +75,6 @@ std::optional<Explanation> explain(int code) {
   return explanation;
 }
 
-std::string joined(const std::vector<std::string> &names) {
-  std::string text;
-  for (const std::string &name : names) text += (text.empty() ? "" : ", ") + name;
-  return text;
-}
-
-std::string code_text(int code) {
-  return hex_number(static_cast<std::uint64_t>(code));
-}
-
 std::string as_lines(const Explanation &explanation) {
   std::string text = painted(Paint::tag, code_text(explanation.code)) + " (" +
                      std::to_string(explanation.code) + ", " + explanation.kind +
@@ -98,12 +88,6 @@ std::string as_lines(const Explanation &explanation) {
     text += "  decoding  " + joined(explanation.decode_of) + "\n";
   }
   return text;
-}
-
-std::string json_list(const std::vector<std::string> &names) {
-  std::string text;
-  for (const std::string &name : names) text += (text.empty() ? "" : ",") + json_string(name);
-  return "[" + text + "]";
 }
 
 std::string as_json(const Explanation &explanation) {

@@ -2,7 +2,9 @@
 #ifndef QUARN_CLI_FAILURE_H
 #define QUARN_CLI_FAILURE_H
 
+#include <cerrno>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -38,6 +40,11 @@ class Failure : public std::runtime_error {
   Exit code_;
   std::shared_ptr<const Report> report_;
 };
+
+// A call to the system did not do what it should; `what` and the reason that errno names.
+inline Failure system_failure(const std::string &what) {
+  return {kFile, what + ": " + std::strerror(errno)};
+}
 
 // The command line is wrong. The command's name, empty before one is known, says whose help to
 // point at.

@@ -17,17 +17,12 @@ namespace {
 
 constexpr std::size_t kMostReasons = 6;
 
-std::string registered_name(std::int64_t type_id) {
-  quarn_asn1_type_description type{};
-  return quarn_asn1_type_describe(type_id, &type) == 1 ? type.name : "";
-}
-
 // The name of a type, with the registered one where several types have the same.
 std::string full_name(std::int64_t type_id) {
   const std::string name = notation_of(type_id);
   std::int64_t first = 1;
   while (first < type_id && notation_of(first) != name) first++;
-  return first == type_id ? name : name + " (" + registered_name(type_id) + ")";
+  return first == type_id ? name : name + " (" + description_of(type_id).name + ")";
 }
 
 // Where octets stop being what a type demands, and why.
@@ -94,7 +89,7 @@ bool same_word(const std::string &a, const std::string &b) {
 UsageError no_such_type(const std::string &command, const std::string &name) {
   std::vector<std::string> names;
   for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
-    names.push_back(registered_name(id));
+    names.emplace_back(description_of(id).name);
     names.push_back(notation_of(id));
   }
   const std::string near = nearest(name, names);
@@ -109,9 +104,8 @@ std::string expected_of(std::int64_t type_id, const std::vector<Record> &records
   const std::string whole = full_name(type_id);
   for (const Record &record : records) {
     for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
-      quarn_asn1_type_description type{};
-      static_cast<void>(quarn_asn1_type_describe(id, &type));
-      if (type.error_code + 1 == record.code) return notation_of(id) + ", in a value of " + whole;
+      if (description_of(id).error_code + 1 == record.code)
+        return notation_of(id) + ", in a value of " + whole;
     }
   }
   return "a value of " + whole;
@@ -158,14 +152,9 @@ Decoded decode_as(std::int64_t type_id, Octets octets) {
   throw failure_of(report_of(value, octets), octets);
 }
 
-std::string notation_of(std::int64_t type_id) {
-  quarn_asn1_shape shape{};
-  return quarn_asn1_type_shape(type_id, &shape) == 1 ? shape.name : "?";
-}
-
 std::int64_t find_type(const std::string &name) {
   for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
-    if (name == std::to_string(id) || same_word(name, registered_name(id))) return id;
+    if (name == std::to_string(id) || same_word(name, description_of(id).name)) return id;
   }
   for (std::int64_t id = 1; id < QUARN_ASN1_TYPE_COUNT; id++) {
     if (same_word(name, notation_of(id))) return id;

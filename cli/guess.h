@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "cli/diagnosis.h"
-#include "cli/open.h"
+#include "cli/typed.h"
 
 namespace quarn::cli {
 
@@ -41,9 +41,6 @@ std::int64_t type_named(const std::string &command, const std::string &name);
 
 // The same; -1 when there is none.
 std::int64_t find_type(const std::string &name);
-
-// "Certificate"
-std::string notation_of(std::int64_t type_id);
 
 }  // namespace quarn::cli
 

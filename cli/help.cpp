@@ -55,8 +55,7 @@ std::string entry(const std::string &name, const std::string &text) {
 }
 
 std::string option_entry(const Option &option) {
-  std::string names;
-  for (const std::string &name : names_of(option)) names += (names.empty() ? "" : ", ") + name;
+  std::string names = joined(names_of(option));
   if (names.rfind("--", 0) == 0) names = "    " + names;
   if (option.value != nullptr) names += std::string(" ") + option.value;
   return entry(names, full_help(option));

@@ -12,8 +12,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
 
 #include "cli/diagnosis.h"
@@ -23,22 +21,11 @@ namespace quarn::cli {
 
 namespace {
 
-constexpr std::string_view kBegin = "-----BEGIN ";
-
-bool blank(std::uint8_t c) {
-  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
-
 int hex_value(std::uint8_t c) {
   if (c >= '0' && c <= '9') return c - '0';
   if (c >= 'a' && c <= 'f') return c - 'a' + 10;
   if (c >= 'A' && c <= 'F') return c - 'A' + 10;
   return -1;
-}
-
-bool base64_character(std::uint8_t c) {
-  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '+' ||
-         c == '/' || c == '=';
 }
 
 // The digits' values of hexadecimal text with blanks, colons and 0x before octets; or the offset of
@@ -52,7 +39,7 @@ HexText read_hex(Octets text) {
   HexText result;
   int high = -1;
   for (std::size_t i = 0; i < text.size(); i++) {
-    if (blank(text[i]) || text[i] == ':') continue;
+    if (is_blank(text[i]) || text[i] == ':') continue;
     const bool prefix = high < 0 && text[i] == '0' && i + 1 < text.size() &&
                         (text[i + 1] == 'x' || text[i + 1] == 'X');
     if (prefix) {
@@ -79,7 +66,7 @@ HexText read_hex(Octets text) {
 // so that a file of base64 may pass: it then has no even count, or other characters soon.
 bool hex_text(Octets text) {
   const bool only = std::all_of(text.begin(), text.end(), [](std::uint8_t c) {
-    return hex_value(c) >= 0 || blank(c) || c == ':' || c == 'x' || c == 'X';
+    return hex_value(c) >= 0 || is_blank(c) || c == ':' || c == 'x' || c == 'X';
   });
   return only && !read_hex(text).octets.empty();
 }
@@ -94,7 +81,7 @@ struct Base64Text {
 Base64Text read_base64(Octets text) {
   Base64Text result;
   result.only = std::all_of(text.begin(), text.end(),
-                            [](std::uint8_t c) { return base64_character(c) || blank(c); });
+                            [](std::uint8_t c) { return is_base64(c) || is_blank(c); });
   if (!result.only) return result;
   std::uint8_t *octets = nullptr;
   std::int64_t count = 0;
@@ -141,8 +128,7 @@ void check_readable(const std::string &path) {
     throw Failure(kFile, "is a directory; --recursive takes the files below it");
   }
   const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (descriptor < 0)
-    throw Failure(kFile, std::string("cannot be opened: ") + std::strerror(errno));
+  if (descriptor < 0) throw system_failure("cannot be opened");
   ::close(descriptor);
 }
 
@@ -153,9 +139,18 @@ std::string first_record(const quarn_err_ctx *ctx) {
 
 }  // namespace
 
+bool is_blank(int c) {
+  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+bool is_base64(int c) {
+  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '+' ||
+         c == '/' || c == '=';
+}
+
 bool has_begin_line(std::string_view text) {
-  for (std::size_t at = text.find(kBegin); at != std::string_view::npos;
-       at = text.find(kBegin, at + 1)) {
+  for (std::size_t at = text.find(kPemBegin); at != std::string_view::npos;
+       at = text.find(kPemBegin, at + 1)) {
     if (at == 0 || text[at - 1] == '\n' || text[at - 1] == '\r') return true;
   }
   return false;
@@ -164,15 +159,15 @@ bool has_begin_line(std::string_view text) {
 bool ordinary_text(Octets text) {
   const Octets start = text.first(std::min<std::size_t>(text.size(), 512));
   const bool blanks = std::all_of(start.begin(), start.end(), [](std::uint8_t c) {
-    return (c >= 0x20 && c != 0x7F) || blank(c);
+    return (c >= 0x20 && c != 0x7F) || is_blank(c);
   });
   std::size_t whole = start.size();  // without a character that is cut off
   while (whole > 0 && start.size() - whole < 4 && start[whole - 1] >= 0x80) whole--;
   return blanks && quarn_utf8_valid(start.data(), static_cast<std::int64_t>(whole)) == 1;
 }
 
-std::string Source::name() const {
-  return path_ == "-" ? "standard input" : printable(path_);
+std::string input_name(const std::string &path) {
+  return path == "-" ? "standard input" : printable(path);
 }
 
 Source::Source(std::string path, Form form) : path_(std::move(path)), form_(form) {

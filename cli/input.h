@@ -21,6 +21,9 @@ namespace quarn::cli {
 enum class Form { automatic, der, pem, base64, hex };
 Form form_named(std::string_view name);
 
+// A path, fit to be printed.
+std::string input_name(const std::string &path);
+
 // One encoding, or what should have been one.
 struct Object {
   std::size_t index = 0;
@@ -38,8 +41,7 @@ class Source {
   Source(std::string path, Form form);
 
   const std::string &path() const { return path_; }
-  // The path, fit to be printed.
-  std::string name() const;
+  std::string name() const { return input_name(path_); }
   Form form() const { return form_; }
   const std::vector<Object> &objects() const { return objects_; }
   // The octets of the file as they are.
@@ -75,6 +77,13 @@ class Visitor {
 // Shows every object of the operands to the visitor, and returns the exit code.
 int visit_inputs(const Arguments &arguments, Visitor &visitor);
 
+// The operands, or "-" when there are none: then somebody at a terminal is told to type.
+std::vector<std::string> inputs_of(const Arguments &arguments);
+
+// Characters in the forms of text.
+constexpr std::string_view kPemBegin = "-----BEGIN ";
+bool is_blank(int c);
+bool is_base64(int c);
 // Whether a line of the text begins a PEM block.
 bool has_begin_line(std::string_view text);
 // UTF-8 with no controls but blanks, at the start at least.

@@ -13,8 +13,6 @@ namespace quarn::cli {
 
 namespace {
 
-constexpr int kIndent = 2;
-
 Json document_of(const Object &object) {
   const auto length = static_cast<std::int64_t>(object.octets.size());
   Json json(quarn_asn1_tojson(object.octets.data(), length));
@@ -55,7 +53,7 @@ void write(const quarn_json *json, int indent) {
 // Documents as they are, one after another.
 class Documents : public Visitor {
  public:
-  explicit Documents(bool compact) : indent_(compact ? 0 : kIndent) {}
+  explicit Documents(int indent) : indent_(indent) {}
 
   void object(const Source & /*source*/, const Object &object, bool /*several*/) override {
     write(document_of(object).get(), indent_);
@@ -90,7 +88,7 @@ int run_json(const Arguments &arguments) {
     Lines lines;
     return visit_inputs(arguments, lines);
   }
-  Documents documents(arguments.has(Opt::compact));
+  Documents documents(arguments.json_indent());
   return visit_inputs(arguments, documents);
 }
 

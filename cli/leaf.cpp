@@ -68,8 +68,7 @@ std::vector<std::string> set_bits(const Node &node, Octets content) {
 }
 
 std::string named_bits_text(const Node &node, Octets content, const std::string &bits) {
-  std::string list;
-  for (const std::string &name : set_bits(node, content)) list += (list.empty() ? "" : ", ") + name;
+  const std::string list = joined(set_bits(node, content));
   return painted(Paint::name, list.empty() ? "none" : list) + " " + bits;
 }
 
@@ -100,10 +99,9 @@ bool is_address(const Node &node) {
 }
 
 quarn_asn1_header header_of(const Node &node) {
-  quarn_asn1_type_description type{};
-  static_cast<void>(quarn_asn1_type_describe(node.shape.base, &type));
   quarn_asn1_header header{};
-  header.tag_number = node.shape.base == QUARN_ASN1_STRING ? 4 : type.tag_number;
+  header.tag_number =
+      node.shape.base == QUARN_ASN1_STRING ? 4 : description_of(node.shape.base).tag_number;
   header.form = 1;
   return header;
 }
@@ -131,15 +129,7 @@ std::string bits_json(const Node &node, Octets content) {
   const std::size_t count = 8 * (content.size() - 1) - content[0];
   std::string text =
       "{\"bits\":" + std::to_string(count) + ",\"hex\":" + quoted(plain_hex(content.subspan(1)));
-  if (node.names != nullptr) {
-    text += ",\"names\":[";
-    bool first = true;
-    for (const std::string &name : set_bits(node, content)) {
-      text += (first ? "" : ",") + json_string(name);
-      first = false;
-    }
-    text += "]";
-  }
+  if (node.names != nullptr) text += ",\"names\":" + json_list(set_bits(node, content));
   return text + "}";
 }
 
@@ -174,7 +164,7 @@ std::string plain_hex(Octets octets) {
 }
 
 std::string leaf_text(const Node &node, std::size_t width) {
-  const std::vector<std::uint8_t> content = octets_of(node.type_id, node.value);
+  const std::vector<std::uint8_t> content = octets_of(node);
   std::string plain = value_text(header_of(node), content, width);
   switch (node.shape.base) {
     case QUARN_ASN1_INTEGER:
@@ -196,7 +186,7 @@ std::string leaf_text(const Node &node, std::size_t width) {
 }
 
 std::string leaf_json(const Node &node) {
-  const std::vector<std::uint8_t> content = octets_of(node.type_id, node.value);
+  const std::vector<std::uint8_t> content = octets_of(node);
   switch (node.shape.base) {
     case QUARN_ASN1_BOOLEAN:
       return !content.empty() && content[0] != 0 ? "true" : "false";

@@ -74,14 +74,12 @@ constexpr const char *kErrors =
 
 constexpr const char *kMemory =
     "All commands but `cms`, which leaves out the content of a message, hold each input file in "
-    "memory, one at a time. `json` and `der` hold the "
-    "document too, some tens of times the octets; `dump` needs memory only for the depth of "
-    "the nesting, and so does `check` where it knows no type. Nesting may be of any depth, but "
-    "`json` takes fewer than 128 elements of "
-    "indefinite "
-    "length directly inside one another, and `decode` and `cms` take 128 values inside one "
-    "another, "
-    "segments of strings among them. Links to directories are not followed with `--recursive`.";
+    "memory, one at a time. `json` and `der` hold the document too, some tens of times the "
+    "octets; `dump` needs memory only for the depth of the nesting, and so does `check` where it "
+    "knows no type. Nesting may be of any depth, but `json` takes fewer than 128 elements of "
+    "indefinite length directly inside one another, and `decode` and `cms` take 128 values inside "
+    "one another, segments of strings among them. Links to directories are not followed with "
+    "`--recursive`.";
 
 }  // namespace
 

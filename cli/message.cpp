@@ -18,18 +18,6 @@ namespace {
 
 constexpr std::uint64_t kEndOfContents = 2;  // octets
 
-// An element around the message.
-struct Frame {
-  std::uint64_t offset;
-  quarn_asn1_header header;
-
-  bool indefinite() const { return header.content_length == QUARN_ASN1_INDEFINITE; }
-  std::uint64_t content() const { return offset + header.header_length; }
-  std::uint64_t end() const {
-    return content() + static_cast<std::uint64_t>(header.content_length);
-  }
-};
-
 class Reading {
  public:
   explicit Reading(MessageInput &input)
@@ -38,21 +26,22 @@ class Reading {
   Message read(quarn_stream *content);
 
  private:
-  Frame element_at(std::uint64_t offset);
+  Element element_at(std::uint64_t offset);
+  std::string content_type_in(const Element &identifier);
   void read_type();
   void decode(quarn_stream *content);
   void note_places(const quarn_asn1_content_place &place);
-  void close(const Frame &frame);
+  void close(const Element &around);
   [[noreturn]] void fail(int result, const quarn_err_ctx *ctx);
-  [[noreturn]] void refuse(const Frame &found, const std::string &expected);
+  [[noreturn]] void refuse(const Element &found, const std::string &expected);
   [[noreturn]] void refuse(Report report);
 
   MessageInput &input_;
   std::vector<std::uint8_t> start_;
   quarn_stream *stream_ = nullptr;
-  std::vector<Frame> frames_;  // outermost first
-  std::uint64_t base_ = 0;     // octets before the value
-  std::uint64_t tail_ = 0;     // octets that end it and are in none of its components
+  std::vector<Element> around_;  // the value, outermost first
+  std::uint64_t base_ = 0;       // octets before the value
+  std::uint64_t tail_ = 0;       // octets that end it and are in none of its components
   Message message_;
 };
 
@@ -66,7 +55,7 @@ void Reading::refuse(Report report) {
   throw failure_of(std::move(report));
 }
 
-void Reading::refuse(const Frame &found, const std::string &expected) {
+void Reading::refuse(const Element &found, const std::string &expected) {
   Report report;
   report.offset = found.offset;
   report.found = tag_name(found.header);
@@ -75,17 +64,19 @@ void Reading::refuse(const Frame &found, const std::string &expected) {
 }
 
 // The header there, which is among the octets that have been read ahead.
-Frame Reading::element_at(std::uint64_t offset) {
-  Frame frame{offset, {}};
+Element Reading::element_at(std::uint64_t offset) {
+  Element element;
+  element.offset = offset;
   const Octets rest = Octets(start_).subspan(std::min<std::uint64_t>(offset, start_.size()));
   const auto count = static_cast<std::int64_t>(rest.size());
-  if (quarn_asn1_mem_header(rest.data(), count, &frame.header) == 1) return frame;
+  if (quarn_asn1_mem_header(rest.data(), count, &element.header) == 1) return element;
   throw diagnose(input_.held().octets, "no message");
 }
 
-bool has_tag(const Frame &frame, std::uint32_t tag_class, std::uint64_t number, int form) {
-  const quarn_asn1_header &header = frame.header;
-  return header.tag_class == tag_class && header.tag_number == number && header.form == form;
+// Whether it is the [0] around the content of a ContentInfo.
+bool holds_value(const Element &element) {
+  const quarn_asn1_header &header = element.header;
+  return header.tag_class == kContext && header.tag_number == 0 && element.constructed();
 }
 
 // Whether values of a type are messages: of the types that may stand in a ContentInfo, those with a
@@ -97,21 +88,31 @@ bool is_message(std::int64_t type_id) {
                      [](const Component &each) { return holds_content(each.type_id); });
 }
 
+// The dotted text of the identifier that a ContentInfo begins with.
+std::string Reading::content_type_in(const Element &identifier) {
+  const Octets rest = Octets(start_).subspan(identifier.content_offset());
+  if (identifier.indefinite() || identifier.content_length() > rest.size()) {
+    throw diagnose(input_.held().octets, "no message");
+  }
+  const auto dotted = dotted_oid(rest.first(identifier.content_length()));
+  if (!dotted)
+    refuse(identifier, "the type of a ContentInfo, in arcs that are complete and fit 64 bits");
+  return *dotted;
+}
+
 // What the first elements tell: the type of the value, and what is around it.
 void Reading::read_type() {
-  const Frame outer = element_at(0);
-  if (!has_tag(outer, kUniversal, 16, 0)) {
+  const Element outer = element_at(0);
+  if (!outer.universal(16) || !outer.constructed()) {
     refuse(outer, "SEQUENCE, which every message in DER begins with; mail (S/MIME) is not read");
   }
-  const Frame first = element_at(outer.content());
+  const Element first = element_at(outer.content_offset());
   message_.type_id = QUARN_ASN1_PKCS7SIGNEDDATA;
-  if (has_tag(first, kUniversal, 2, 1)) return;
-  if (!has_tag(first, kUniversal, 6, 1)) {
+  if (first.universal(2) && !first.constructed()) return;
+  if (!first.universal(6) || first.constructed()) {
     refuse(first, "the type of a ContentInfo, or the version of a SignedData");
   }
-  if (first.end() > start_.size()) throw diagnose(input_.held().octets, "no message");
-  const Octets octets = Octets(start_).subspan(first.content(), first.end() - first.content());
-  message_.content_type = dotted_oid(octets).value_or("");
+  message_.content_type = content_type_in(first);
   const Opening *opening = find_opening(Place::content, message_.content_type);
   if (opening != nullptr && opening->type_id == QUARN_ASN1_OCTETSTRING) {
     message_.type_id = QUARN_ASN1_PKCS7CONTENTINFO;
@@ -124,10 +125,10 @@ void Reading::read_type() {
                                  ", which this command does not know");
   }
   message_.type_id = opening->type_id;
-  const Frame tag = element_at(first.end());
-  if (!has_tag(tag, 0x80, 0, 0)) refuse(tag, "[0], the content of the ContentInfo");
-  frames_ = {outer, tag};
-  base_ = tag.content();
+  const Element tag = element_at(first.content_offset() + first.content_length());
+  if (!holds_value(tag)) refuse(tag, "[0], the content of the ContentInfo");
+  around_ = {outer, tag};
+  base_ = tag.content_offset();
 }
 
 void Reading::note_places(const quarn_asn1_content_place &place) {
@@ -182,14 +183,16 @@ void Reading::fail(int result, const quarn_err_ctx *ctx) {
 }
 
 // Goes behind the end of an element around the message.
-void Reading::close(const Frame &frame) {
+void Reading::close(const Element &around) {
   Report report;
   report.offset = base_ + quarn_stream_position(stream_);
-  const std::string element = tag_name(frame.header) + " at offset " + std::to_string(frame.offset);
-  if (!frame.indefinite()) {
-    if (report.offset == frame.end()) return;
+  const std::string element =
+      tag_name(around.header) + " at offset " + std::to_string(around.offset);
+  if (!around.indefinite()) {
+    const std::uint64_t end = around.content_offset() + around.content_length();
+    if (report.offset == end) return;
     report.found = "the end of the " + notation_of(message_.type_id);
-    report.expected = "it at " + std::to_string(frame.end()) + ", where the " + element + " ends";
+    report.expected = "it at " + std::to_string(end) + ", where the " + element + " ends";
     refuse(std::move(report));
   }
   std::uint8_t octets[kEndOfContents] = {1, 1};
@@ -207,7 +210,7 @@ Message Reading::read(quarn_stream *content) {
   stream_ = input_.open(base_);
   tail_ = element_at(base_).indefinite() ? kEndOfContents : 0;
   decode(content);
-  for (auto frame = frames_.rbegin(); frame != frames_.rend(); ++frame) close(*frame);
+  for (auto each = around_.rbegin(); each != around_.rend(); ++each) close(*each);
   message_.length = base_ + quarn_stream_position(stream_);
   input_.expect_end();
   return std::move(message_);

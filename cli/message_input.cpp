@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 #include "cli/failure.h"
@@ -29,9 +28,7 @@ bool begins_as_der(Octets start) {
 
 RawInput::RawInput(const std::string &path)
     : descriptor_(path == "-" ? STDIN_FILENO : ::open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
-  if (descriptor_ < 0) {
-    throw Failure(kFile, std::string("cannot be opened: ") + std::strerror(errno));
-  }
+  if (descriptor_ < 0) throw system_failure("cannot be opened");
   struct stat status {};
   if (::fstat(descriptor_, &status) != 0 || !S_ISREG(status.st_mode)) return;
   base_ = std::max<std::int64_t>(::lseek(descriptor_, 0, SEEK_CUR), 0);
@@ -49,16 +46,14 @@ bool RawInput::read(std::vector<std::uint8_t> &to) {
   do {
     count = ::read(descriptor_, to.data() + before, kBlock);
   } while (count < 0 && errno == EINTR);
-  if (count < 0) throw Failure(kFile, std::string("cannot be read: ") + std::strerror(errno));
+  if (count < 0) throw system_failure("cannot be read");
   to.resize(before + static_cast<std::size_t>(count));
   return count > 0;
 }
 
 void RawInput::seek(std::uint64_t position) {
   const off_t target = base_ + static_cast<off_t>(position);
-  if (::lseek(descriptor_, target, SEEK_SET) != target) {
-    throw Failure(kFile, std::string("cannot be read: ") + std::strerror(errno));
-  }
+  if (::lseek(descriptor_, target, SEEK_SET) != target) throw system_failure("cannot be read");
 }
 
 MessageInput::MessageInput(const std::string &path, bool progress)
@@ -162,8 +157,7 @@ MessageInput::Held MessageInput::held() {
 void MessageInput::expect_end() {
   if (ahead().empty()) refill();
   if (!ahead().empty()) {
-    throw Failure(kBadInput, "offset " + std::to_string(position()) + " (" +
-                                 hex_number(position()) + "): octets follow the message");
+    throw Failure(kBadInput, offset_text(position()) + ": octets follow the message");
   }
   if (pem_ && pem_->find()) {
     throw Failure(kBadInput, "another message follows; one at a time can be shown");

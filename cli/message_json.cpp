@@ -49,9 +49,7 @@ std::string brief_json(const Node &node) {
 
 void MessageJson::show() {
   open("");
-  quarn_asn1_shape shape{};
-  static_cast<void>(quarn_asn1_type_shape(message_.type_id, &shape));
-  member("type", json_string(shape.name));
+  member("type", json_string(notation_of(message_.type_id)));
   if (!message_.content_type.empty()) member("contentType", oid_json(message_.content_type));
   member("form", message_.pem ? "\"pem\"" : "\"der\"");
   member("length", std::to_string(message_.length));

@@ -3,13 +3,13 @@
 #include <array>
 
 #include "cli/failure.h"
+#include "cli/input.h"
 #include "cli/message_input.h"
 
 namespace quarn::cli {
 
 namespace {
 
-constexpr std::string_view kBegin = "-----BEGIN ";
 constexpr std::string_view kEnd = "----END ";  // without the first dash, which ends the text
 constexpr std::string_view kDashes = "-----";
 constexpr std::array<std::string_view, 3> kLabels = {"CMS", "PKCS7", "PKCS #7 SIGNED DATA"};
@@ -18,24 +18,15 @@ constexpr std::size_t kPiece = std::size_t{1} << 16;  // characters that are dec
 
 constexpr std::size_t kGroup = 4;  // characters that stand for three octets
 
-bool blank(int c) {
-  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
-
-bool base64_character(int c) {
-  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '+' ||
-         c == '/' || c == '=';
-}
-
 // "CMS" of the line "-----BEGIN CMS-----"; empty for another line.
 std::string label_in(std::string_view line) {
-  while (!line.empty() && blank(line.back())) line.remove_suffix(1);
-  const bool whole = line.substr(0, kBegin.size()) == kBegin &&
-                     line.size() > kBegin.size() + kDashes.size() &&
-                     line.substr(line.size() - kDashes.size()) == kDashes;
+  while (!line.empty() && is_blank(line.back())) line.remove_suffix(1);
+  const bool whole = line.starts_with(kPemBegin) && line.ends_with(kDashes) &&
+                     line.size() > kPemBegin.size() + kDashes.size();
   if (!whole) return "";
-  line.remove_prefix(kBegin.size());
-  return std::string(line.substr(0, line.size() - kDashes.size()));
+  line.remove_prefix(kPemBegin.size());
+  line.remove_suffix(kDashes.size());
+  return std::string(line);
 }
 
 }  // namespace
@@ -90,7 +81,7 @@ void PemText::decode(std::vector<std::uint8_t> &to) {
 void PemText::end() {
   const std::string text = line();
   const std::string wanted = std::string(kEnd) + label_ + std::string(kDashes);
-  if (text.substr(0, wanted.size()) != wanted) broken("this is no END line of " + label_);
+  if (!text.starts_with(wanted)) broken("this is no END line of " + label_);
   inside_ = false;
 }
 
@@ -99,13 +90,13 @@ bool PemText::read(std::vector<std::uint8_t> &to) {
   while (inside_ &&
          (base64_.size() < kPiece || (base64_.back() == '=' && base64_.size() < kPiece + kGroup))) {
     const int c = next();
-    if (base64_character(c)) {
+    if (is_base64(c)) {
       base64_.push_back(static_cast<char>(c));
     } else if (c == '-') {
       end();
     } else if (c < 0) {
       broken("the END line is missing");
-    } else if (!blank(c)) {
+    } else if (!is_blank(c)) {
       at_--;
       broken("this is no character of base64");
     }

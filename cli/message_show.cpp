@@ -10,7 +10,7 @@ namespace {
 constexpr std::string_view kSubjectKeyIdentifier = "2.5.29.14";
 
 std::string key_of(const Node &node) {
-  const std::vector<std::uint8_t> octets = octets_of(node.type_id, node.value);
+  const std::vector<std::uint8_t> octets = octets_of(node);
   return std::string(as_text(octets));
 }
 
@@ -23,10 +23,8 @@ std::string key_of(const Node &issuer, const Node &serial) {
 
 CertificateIndex::CertificateIndex(const Message &message) {
   const Node set = part_of(node_of(message.type_id, message.value.get()), "certificates");
-  const std::int64_t count = quarn_asn1_component_count(set.type_id, set.value);
-  for (std::int64_t i = 0; i < count; i++) {
-    const quarn_asn1_component choice = component_of(set, i);
-    const Node certificate = node_of(choice.type_id, choice.value);
+  for (std::int64_t i = 0; i < count_of(set); i++) {
+    const Node certificate = part_of(set, i);
     if (certificate.type_id == QUARN_ASN1_X509PUBKEYCERT) add(certificate, i);
   }
 }
@@ -36,13 +34,10 @@ void CertificateIndex::add(const Node &certificate, std::int64_t number) {
   numbers_.emplace(key_of(part_of(signed_part, "issuer"), part_of(signed_part, "serialNumber")),
                    number);
   const Node extensions = part_of(signed_part, "extensions");
-  const std::int64_t count = quarn_asn1_component_count(extensions.type_id, extensions.value);
-  for (std::int64_t i = 0; i < count; i++) {
-    const quarn_asn1_component element = component_of(extensions, i);
-    const Node extension = node_of(element.type_id, element.value);
+  for (std::int64_t i = 0; i < count_of(extensions); i++) {
+    const Node extension = part_of(extensions, i);
     if (oid_text(part_of(extension, "extnID").value) != kSubjectKeyIdentifier) continue;
-    const Node value = part_of(extension, "extnValue");
-    const Decoded identifier(QUARN_ASN1_OCTETSTRING, octets_of(value.type_id, value.value));
+    const Decoded identifier(QUARN_ASN1_OCTETSTRING, octets_of(part_of(extension, "extnValue")));
     if (identifier.get() == nullptr) continue;
     numbers_.emplace("k" + key_of(node_of(QUARN_ASN1_OCTETSTRING, identifier.get())), number);
   }
@@ -78,8 +73,7 @@ std::vector<Brief> briefs_of(const Node &node) {
 }
 
 std::int64_t revoked_in(const Node &list) {
-  const Node entries = part_of(part_of(list, "tbsCertList"), "revokedCertificates");
-  return quarn_asn1_component_count(entries.type_id, entries.value);
+  return count_of(part_of(part_of(list, "tbsCertList"), "revokedCertificates"));
 }
 
 }  // namespace quarn::cli

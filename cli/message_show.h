@@ -71,7 +71,7 @@ class MessageText : public TextShow {
 
 class MessageJson : public JsonShow {
  public:
-  MessageJson(const Message &message, std::size_t indent)
+  MessageJson(const Message &message, int indent)
       : JsonShow(indent), message_(message), certificates_(message) {}
 
   void show();

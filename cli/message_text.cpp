@@ -29,9 +29,7 @@ std::string name_line(const Node &name, std::size_t width) {
 bool is_plain_algorithm(const Node &node) {
   if (node.type_id != QUARN_ASN1_X509ALGORITHMID) return false;
   const Node parameters = part_of(node, "parameters");
-  if (parameters.value == nullptr) return true;
-  const std::vector<std::uint8_t> octets = octets_of(parameters.type_id, parameters.value);
-  return octets.size() == 2 && octets[0] == 0x05;
+  return parameters.value == nullptr || is_null(parameters);
 }
 
 bool is_attribute(const Node &node) {

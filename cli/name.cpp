@@ -58,23 +58,22 @@ std::optional<std::string> value_string(Octets encoding) {
   return utf8_text(element.header.tag_number, walk.content());
 }
 
-std::string attribute_text(const quarn_asn1_component &attribute) {
-  const quarn_asn1_component type = component_of(attribute.type_id, attribute.value, 0);
-  const quarn_asn1_component value = component_of(attribute.type_id, attribute.value, 1);
+std::string attribute_text(const Node &attribute) {
+  const Node type = part_of(attribute, 0);
+  const Node value = part_of(attribute, 1);
   if (type.type_id != QUARN_ASN1_OID || value.value == nullptr) return "?";
   const std::string dotted = oid_text(type.value);
   const std::string name = short_name(dotted);
-  const std::vector<std::uint8_t> encoding = octets_of(value.type_id, value.value);
+  const std::vector<std::uint8_t> encoding = octets_of(value);
   const std::optional<std::string> text = value_string(encoding);
   if (name.empty() || !text) return (name.empty() ? dotted : name) + "=#" + plain_hex(encoding);
   return name + "=" + escaped_4514(*text);
 }
 
-std::string relative_name_text(const quarn_asn1_component &relative) {
+std::string relative_name_text(const Node &relative) {
   std::string text;
-  const std::int64_t count = quarn_asn1_component_count(relative.type_id, relative.value);
-  for (std::int64_t i = 0; i < count; i++) {
-    text += (i == 0 ? "" : "+") + attribute_text(component_of(relative.type_id, relative.value, i));
+  for (std::int64_t i = 0; i < count_of(relative); i++) {
+    text += (i == 0 ? "" : "+") + attribute_text(part_of(relative, i));
   }
   return text;
 }
@@ -83,8 +82,8 @@ std::string relative_name_text(const quarn_asn1_component &relative) {
 
 std::string name_text(const Node &name) {
   std::string text;
-  for (std::int64_t i = quarn_asn1_component_count(name.type_id, name.value); i-- > 0;) {
-    text += (text.empty() ? "" : ",") + relative_name_text(component_of(name, i));
+  for (std::int64_t i = count_of(name); i-- > 0;) {
+    text += (text.empty() ? "" : ",") + relative_name_text(part_of(name, i));
   }
   return text;
 }

@@ -6,6 +6,7 @@
 
 #include "cli/commands.h"
 #include "cli/failure.h"
+#include "cli/text.h"
 
 namespace quarn::cli {
 
@@ -72,9 +73,9 @@ std::vector<Command> encoding_commands() {
       {"der",
        "[FILE]",
        "Turn JSON documents back into encodings",
-       "Reads JSON documents in the form that `quarn json` writes, one or several, also as written "
-       "with --lines, and writes the octets that they describe. - or no FILE is the standard "
-       "input.",
+       "Reads JSON documents in the form that `quarn json` writes, one or several, also as "
+       "written with --lines, and writes the octets that they describe. - or no FILE is the "
+       "standard input.",
        {Opt::output, Opt::pem, Opt::hex},
        {{"quarn json a.der | quarn der | cmp - a.der", "there and back"},
         {"quarn der --pem CERTIFICATE -o new.pem edited.json", "a certificate edited as text"}},
@@ -85,12 +86,10 @@ std::vector<Command> encoding_commands() {
        "[FILE...]",
        "Show certificates, CRLs and other known types with the names of their parts",
        "Decodes each object as a value of its type and writes a line for each component: name, "
-       "type "
-       "and value. Components that are absent are left out; a default is shown and marked. "
-       "Extensions, attributes and other octets whose type an object identifier tells are shown as "
-       "values of that type. An encoding that is of no known type is shown as its elements, and "
-       "the "
-       "exit code is 1. With --json or --lines the same is written for programs.",
+       "type and value. Components that are absent are left out; a default is shown and marked. "
+       "Extensions, attributes and other octets whose type an object identifier tells are shown "
+       "as values of that type. An encoding that is of no known type is shown as its elements, "
+       "and the exit code is 1. With --json or --lines the same is written for programs.",
        {Opt::type, Opt::json, Opt::lines, Opt::compact, Opt::in_form, Opt::recursive, Opt::width},
        {{"quarn decode server.pem", "a certificate, or all of a file"},
         {"quarn decode --json server.pem | jq '.tbsCertificate.extensions[].extnID'",
@@ -125,9 +124,9 @@ std::vector<Command> message_commands() {
        "content: versions, algorithms, signers and recipients, attributes by their names, "
        "certificates and revocation lists in short, and at which octets content and signer infos "
        "stand. Nothing is verified and nothing decrypted: the content of an encrypted message is "
-       "what it was encrypted to. Memory does not grow with the content, from a pipe either. "
-       "FILE is DER or BER, or PEM with the label CMS or PKCS7, with one message; - or no FILE is "
-       "the standard input. Messages in the form of mail (S/MIME) are not read.",
+       "what it was encrypted to. Memory does not grow with the content, from a pipe either. FILE "
+       "is DER or BER, or PEM with the label CMS or PKCS7, with one message; - or no FILE is the "
+       "standard input. Messages in the form of mail (S/MIME) are not read.",
        {Opt::content, Opt::json, Opt::compact, Opt::width},
        {{"quarn cms signed.p7m", "who signed what, and with which algorithms"},
         {"quarn cms --content document.pdf signed.p7m", "the content of a signed document"},
@@ -149,11 +148,11 @@ std::vector<Command> form_commands() {
        "with the name of the rule. Nothing is written for DER. What only the type tells, such as "
        "DEFAULT values that are written and what stands under tags of its own, is judged too when "
        "the type is known: by --type, by the label of a PEM block, or when the octets leave no "
-       "doubt, as those of certificates, CRLs and requests do. "
-       "A SET of different tags may be ordered by its tags or by its encodings. Encodings inside "
-       "OCTET STRING and BIT STRING, such as the values of extensions, are judged too where they "
-       "make sense. With --json each line is a JSON object. The exit code is 1 when there is a "
-       "departure; a file that cannot be judged gives the codes of all commands.",
+       "doubt, as those of certificates, CRLs and requests do. A SET of different tags may be "
+       "ordered by its tags or by its encodings. Encodings inside OCTET STRING and BIT STRING, "
+       "such as the values of extensions, are judged too where they make sense. With --json each "
+       "line is a JSON object. The exit code is 1 when there is a departure; a file that cannot "
+       "be judged gives the codes of all commands.",
        {Opt::type, Opt::in_form, Opt::recursive, Opt::no_dig, Opt::json},
        {{"quarn check server.pem && echo DER", "whether a certificate is DER"},
         {"quarn check --json -r DIR | jq -r 'select(.finding).finding.rule' | sort | uniq -c",
@@ -166,11 +165,10 @@ std::vector<Command> form_commands() {
        "[FILE...]",
        "Write encodings as DER, PEM, base64 or hexadecimal text",
        "Writes the octets of each object, unchanged, in the form that --to names. A PEM block "
-       "keeps "
-       "its label; other objects get the label that their structure tells: certificates, CRLs, "
-       "requests, attribute certificates, CMS (as PKCS7) and keys. For anything else --label is "
-       "needed. Hexadecimal text has a line for each object, base64 is one text for all of them. "
-       "Octets are not written to a terminal unless -o - asks for it.",
+       "keeps its label; other objects get the label that their structure tells: certificates, "
+       "CRLs, requests, attribute certificates, CMS (as PKCS7) and keys. For anything else "
+       "--label is needed. Hexadecimal text has a line for each object, base64 is one text for "
+       "all of them. Octets are not written to a terminal unless -o - asks for it.",
        {Opt::to, Opt::label, Opt::output, Opt::in_form, Opt::recursive},
        {{"quarn convert --to der -o server.der server.pem", "PEM to DER"},
         {"quarn convert --to pem *.der > all.pem", "many files in one"}},
@@ -186,9 +184,9 @@ std::vector<Command> reference_commands() {
        "[NAME|PATTERN]",
        "List the ASN.1 types that the library names, or show what one is made of",
        "Lists id, name, tag and error codes of the types, or of those whose name contains PATTERN "
-       "or matches it when it has *, ? or [. Of a type whose id or whole name is given, the ASN.1, "
-       "the standard, the places where it stands and its functions are shown too. Upper and lower "
-       "case are the same.",
+       "or matches it when it has *, ? or [. Of a type whose id or whole name is given, the "
+       "ASN.1, the standard, the places where it stands and its functions are shown too. Upper "
+       "and lower case are the same.",
        {Opt::json},
        {{"quarn types time", "types with time in their name"},
         {"quarn types Certificate", "what a certificate is made of"},
@@ -209,25 +207,21 @@ std::vector<Command> reference_commands() {
       {"help", "[COMMAND]", "Show help", "Shows help for a command.", {}, {}, 0, 1, run_help}};
 }
 
-const std::vector<Command> &table() {
+}  // namespace
+
+const std::vector<Command> &commands() {
   static const std::vector<Command> all = [] {
-    std::vector<Command> list = encoding_commands();
-    for (Command &command : message_commands()) list.push_back(std::move(command));
-    for (Command &command : form_commands()) list.push_back(std::move(command));
-    for (Command &command : reference_commands()) list.push_back(std::move(command));
+    std::vector<Command> list;
+    for (auto *make : {encoding_commands, message_commands, form_commands, reference_commands}) {
+      for (Command &command : make()) list.push_back(std::move(command));
+    }
     return list;
   }();
   return all;
 }
 
-}  // namespace
-
-const std::vector<Command> &commands() {
-  return table();
-}
-
 const Command *find_command(std::string_view name) {
-  for (const Command &command : table()) {
+  for (const Command &command : commands()) {
     if (name == command.name) return &command;
   }
   return nullptr;
@@ -240,17 +234,13 @@ const Option &option(Opt id) {
   return kOptions[0];
 }
 
-const std::vector<Opt> &common_options() {
-  static const std::vector<Opt> common = {Opt::color, Opt::help};
-  return common;
-}
-
 std::vector<const Option *> options_of(const Command *command) {
   std::vector<const Option *> list;
   if (command != nullptr) {
     for (const Opt id : command->options) list.push_back(&option(id));
   }
-  for (const Opt id : common_options()) list.push_back(&option(id));
+  list.push_back(&option(Opt::color));
+  list.push_back(&option(Opt::help));
   if (command == nullptr) list.push_back(&option(Opt::version));
   return list;
 }
@@ -271,11 +261,7 @@ std::vector<std::string> split(std::string_view list) {
 
 std::string full_help(const Option &option) {
   if (option.choices == nullptr) return option.help;
-  std::string list;
-  for (const std::string &choice : split(option.choices)) {
-    list += (list.empty() ? "" : ", ") + choice;
-  }
-  return std::string(option.help) + " One of " + list + ".";
+  return std::string(option.help) + " One of " + joined(split(option.choices)) + ".";
 }
 
 const std::vector<ExitMeaning> &exit_meanings() {
@@ -306,6 +292,11 @@ std::uint64_t Arguments::number(Opt option, std::uint64_t fallback) const {
   const std::string &text = found->second;
   std::from_chars(text.data(), text.data() + text.size(), number);
   return number;
+}
+
+std::size_t Arguments::width() const {
+  constexpr std::size_t kDefaultWidth = 72;  // as the help says
+  return number(Opt::width, kDefaultWidth);
 }
 
 }  // namespace quarn::cli

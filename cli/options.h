@@ -47,6 +47,10 @@ class Arguments {
   // The option's value; fallback when it is not given.
   std::string value(Opt option, const std::string &fallback = "") const;
   std::uint64_t number(Opt option, std::uint64_t fallback) const;
+  // Characters after which values are cut; 0 for nowhere.
+  std::size_t width() const;
+  // Blanks by which JSON is indented; 0 for one line.
+  int json_indent() const { return has(Opt::compact) ? 0 : 2; }
 
   void set(Opt option, std::string value) { values_[option] = std::move(value); }
   std::vector<std::string> operands;
@@ -77,8 +81,6 @@ const Command *find_command(std::string_view name);
 const Option &option(Opt id);
 // What the commands that read encodings accept as FILE.
 const char *input_text();
-// Options that every command has.
-const std::vector<Opt> &common_options();
 // The options of the command and the common ones; those of `quarn` itself for null.
 std::vector<const Option *> options_of(const Command *command);
 

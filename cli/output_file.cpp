@@ -38,10 +38,22 @@ void remove_on_signals(const std::string &path) {
   }
 }
 
+// Opens a new file, whose name ends in XXXXXX until then; signals wait until they would remove it.
+int make_temporary(std::string &path) {
+  sigset_t all;
+  sigset_t before;
+  ::sigfillset(&all);
+  static_cast<void>(::sigprocmask(SIG_BLOCK, &all, &before));
+  const int descriptor = ::mkostemp(path.data(), O_CLOEXEC);
+  if (descriptor >= 0) remove_on_signals(path);
+  static_cast<void>(::sigprocmask(SIG_SETMASK, &before, nullptr));
+  return descriptor;
+}
+
 }  // namespace
 
 Failure OutputFile::failure(const char *what) const {
-  return {kFile, printable(path_) + ": " + what + ": " + std::strerror(errno)};
+  return system_failure(printable(path_) + ": " + what);
 }
 
 OutputFile::OutputFile(std::string path) : path_(std::move(path)) {
@@ -55,12 +67,15 @@ OutputFile::OutputFile(std::string path) : path_(std::move(path)) {
     if (real != nullptr) path_ = real;
     std::free(real);
     temporary_ = path_ + ".XXXXXX";
-    descriptor_ = ::mkostemp(temporary_.data(), O_CLOEXEC);
-    if (descriptor_ >= 0) remove_on_signals(temporary_);
+    descriptor_ = make_temporary(temporary_);
     const mode_t mask = ::umask(0);
     ::umask(mask);
     const mode_t mode = exists ? status.st_mode & 07777 : 0666 & ~mask;
-    if (descriptor_ >= 0 && ::fchmod(descriptor_, mode) != 0) throw failure("cannot be made");
+    if (descriptor_ >= 0 && ::fchmod(descriptor_, mode) != 0) {
+      const Failure refused = failure("cannot be made");
+      ::unlink(temporary_.c_str());
+      throw refused;
+    }
   }
   if (descriptor_ < 0) {
     temporary_.clear();

@@ -38,7 +38,7 @@ class TextShow : public TypedVisitor {
   std::string head(const Node &node) const;
   void line(const Node &node, const std::string &text) const;
   bool fold(const Node &node) const;
-  void pair(const Node &node, const quarn_asn1_component &attribute) const;
+  void pair(const Node &node, const Node &attribute) const;
   void unopened(const Node &node) const;
   void elements(Octets octets,
                 Walk::Top top,
@@ -53,7 +53,7 @@ class TextShow : public TypedVisitor {
 class JsonShow : public TypedVisitor {
  public:
   // indent: blanks a level; 0 for one line.
-  explicit JsonShow(std::size_t indent) : indent_(indent) {}
+  explicit JsonShow(int indent) : indent_(static_cast<std::size_t>(indent)) {}
 
   bool enter(const Node &node, std::int64_t count) override;
   void leave() override;
@@ -81,9 +81,6 @@ class JsonShow : public TypedVisitor {
   std::size_t indent_;
   std::vector<Level> levels_;
 };
-
-// Any encoding as a JSON value: the document that `quarn json` writes.
-std::string element_json(Octets octets);
 
 }  // namespace quarn::cli
 

@@ -14,6 +14,18 @@ namespace {
 
 constexpr std::size_t kMostIndent = 64;  // levels
 
+// Any encoding as a JSON value: the document that `quarn json` writes.
+std::string element_json(Octets octets) {
+  const Json document(quarn_asn1_tojson(octets.data(), static_cast<std::int64_t>(octets.size())));
+  char *text = nullptr;
+  std::size_t length = 0;
+  if (document == nullptr || quarn_json_print(document.get(), 0, &text, &length) != 1) {
+    return "{\"hex\":\"" + plain_hex(octets) + "\"}";
+  }
+  const OwnedText owned(text);
+  return JsonText().escaped({text, length});
+}
+
 std::string holder_json(const Node &node) {
   std::string text = "{";
   if (node.holder != QUARN_ASN1_ANY) text += "\"hex\":\"" + plain_hex(node.held) + "\",";
@@ -22,7 +34,7 @@ std::string holder_json(const Node &node) {
 
 // Octets that were to be opened and are not: in hexadecimal, with what they hold or the reason.
 std::string unopened_json(const Node &node) {
-  const std::vector<std::uint8_t> content = octets_of(node.type_id, node.value);
+  const std::vector<std::uint8_t> content = octets_of(node);
   const bool bits = node.shape.base == QUARN_ASN1_BITSTRING;
   Octets inside(content);
   std::string text = "{";
@@ -40,23 +52,12 @@ std::string unopened_json(const Node &node) {
 }
 
 std::string any_json(const Node &node) {
-  const std::vector<std::uint8_t> octets = octets_of(node.type_id, node.value);
+  const std::vector<std::uint8_t> octets = octets_of(node);
   if (node.trouble.empty()) return element_json(octets);
   return "{\"error\":" + json_string(node.trouble) + ",\"element\":" + element_json(octets) + "}";
 }
 
 }  // namespace
-
-std::string element_json(Octets octets) {
-  const Json document(quarn_asn1_tojson(octets.data(), static_cast<std::int64_t>(octets.size())));
-  char *text = nullptr;
-  std::size_t length = 0;
-  if (document == nullptr || quarn_json_print(document.get(), 0, &text, &length) != 1) {
-    return "{\"hex\":\"" + plain_hex(octets) + "\"}";
-  }
-  const OwnedText owned(text);
-  return JsonText().escaped({text, length});
-}
 
 void JsonShow::new_line() const {
   if (indent_ == 0) return;

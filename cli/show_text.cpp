@@ -27,9 +27,7 @@ std::string indented(std::size_t level) {
 
 // The name in ASN.1, with the one in use for object identifiers.
 std::string type_name(std::int64_t type_id) {
-  quarn_asn1_shape shape{};
-  static_cast<void>(quarn_asn1_type_shape(type_id, &shape));
-  return type_id == QUARN_ASN1_OID ? "OID" : shape.name;
+  return type_id == QUARN_ASN1_OID ? "OID" : notation_of(type_id);
 }
 
 // Why octets are not shown as what they should be.
@@ -75,13 +73,12 @@ bool is_attribute(std::int64_t type_id) {
 }
 
 // Whether an attribute is a type and a primitive value and nothing else.
-bool is_plain_pair(const quarn_asn1_component &attribute) {
-  const std::int64_t count = quarn_asn1_component_count(attribute.type_id, attribute.value);
-  for (std::int64_t i = 2; i < count; i++) {
-    const quarn_asn1_component more = component_of(attribute.type_id, attribute.value, i);
+bool is_plain_pair(const Node &attribute) {
+  for (std::int64_t i = 2; i < count_of(attribute); i++) {
+    const quarn_asn1_component more = component_of(attribute, i);
     if (more.value != nullptr && more.is_default == 0) return false;
   }
-  const quarn_asn1_component value = component_of(attribute.type_id, attribute.value, 1);
+  const Node value = part_of(attribute, 1);
   std::uint32_t primitive = 0;
   return value.type_id == QUARN_ASN1_ANY && value.value != nullptr &&
          quarn_asn1_any_isprimitive(static_cast<const quarn_asn1_any *>(value.value), &primitive) ==
@@ -107,22 +104,15 @@ void TextShow::summary(const Node &node, const std::string &text) const {
   line(node, type_text(node) + " " + text + remark(node));
 }
 
-void TextShow::pair(const Node &node, const quarn_asn1_component &attribute) const {
-  const quarn_asn1_component type = component_of(attribute.type_id, attribute.value, 0);
-  const quarn_asn1_component value = component_of(attribute.type_id, attribute.value, 1);
-  const std::vector<std::uint8_t> octets = octets_of(value.type_id, value.value);
-  elements(octets, Walk::Top::one, head(node) + oid_with_name(oid_text(type.value)) + ": ", "");
+void TextShow::pair(const Node &node, const Node &attribute) const {
+  const std::string type = oid_with_name(oid_text(part_of(attribute, 0).value));
+  elements(octets_of(part_of(attribute, 1)), Walk::Top::one, head(node) + type + ": ", "");
 }
 
 // Writes an attribute of a Name, or a set of one, on one line.
 bool TextShow::fold(const Node &node) const {
-  quarn_asn1_component attribute{};
-  attribute.value = const_cast<void *>(node.value);
-  attribute.type_id = node.type_id;
-  if (node.type_id == QUARN_ASN1_X500RDN &&
-      quarn_asn1_component_count(node.type_id, node.value) == 1) {
-    attribute = component_of(node, 0);
-  }
+  const bool set_of_one = node.type_id == QUARN_ASN1_X500RDN && count_of(node) == 1;
+  const Node attribute = set_of_one ? part_of(node, 0) : node;
   if (!is_attribute(attribute.type_id) || !is_plain_pair(attribute)) return false;
   pair(node, attribute);
   return true;
@@ -175,7 +165,7 @@ void TextShow::tree(Octets octets) const {
 
 // A string in which a type was to be found that is not known, or not there.
 void TextShow::unopened(const Node &node) const {
-  const std::vector<std::uint8_t> content = octets_of(node.type_id, node.value);
+  const std::vector<std::uint8_t> content = octets_of(node);
   const bool bits = node.shape.base == QUARN_ASN1_BITSTRING;
   const bool whole = !bits || (!content.empty() && content[0] == 0);
   const Octets inside = bits && whole ? Octets(content).subspan(1) : Octets(content);
@@ -188,7 +178,7 @@ void TextShow::unopened(const Node &node) const {
 
 void TextShow::leaf(const Node &node) {
   if (node.shape.base == QUARN_ASN1_ANY) {
-    const std::vector<std::uint8_t> octets = octets_of(node.type_id, node.value);
+    const std::vector<std::uint8_t> octets = octets_of(node);
     return elements(octets, Walk::Top::one, head(node) + alternatives_text(node),
                     trouble_text(node));
   }

@@ -266,6 +266,26 @@ std::string hex_number(std::uint64_t number) {
   return out;
 }
 
+std::string offset_text(std::uint64_t offset) {
+  return "offset " + std::to_string(offset) + " (" + hex_number(offset) + ")";
+}
+
+std::string code_text(int code) {
+  return hex_number(static_cast<std::uint64_t>(code));
+}
+
+std::string joined(const std::vector<std::string> &words) {
+  std::string text;
+  for (const std::string &word : words) text += (text.empty() ? "" : ", ") + word;
+  return text;
+}
+
+std::string json_list(const std::vector<std::string> &words) {
+  std::string text;
+  for (const std::string &word : words) text += (text.empty() ? "" : ",") + json_string(word);
+  return "[" + text + "]";
+}
+
 std::string counted(std::uint64_t count, const std::string &thing) {
   return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
 }

@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quarn::cli {
 
@@ -16,9 +17,6 @@ using Octets = std::span<const std::uint8_t>;
 
 inline std::string_view as_text(Octets octets) {
   return {reinterpret_cast<const char *>(octets.data()), octets.size()};
-}
-inline Octets as_octets(std::string_view text) {
-  return {reinterpret_cast<const std::uint8_t *>(text.data()), text.size()};
 }
 
 // UTF-8 with everything that is not plainly visible written as \n, \u{202E} or, for octets that are
@@ -58,6 +56,14 @@ std::string escaped_4514(std::string_view text);
 std::string hex_octets(Octets octets, std::size_t most = SIZE_MAX);
 // "0x88"
 std::string hex_number(std::uint64_t number);
+// "offset 136 (0x88)"
+std::string offset_text(std::uint64_t offset);
+// An error code: "0x10203".
+std::string code_text(int code);
+// "a, b, c"
+std::string joined(const std::vector<std::string> &words);
+// ["a","b","c"] of JSON.
+std::string json_list(const std::vector<std::string> &words);
 // "1 octet", "2 octets"
 std::string counted(std::uint64_t count, const std::string &thing);
 

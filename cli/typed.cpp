@@ -96,7 +96,7 @@ const Opening *opening_in(const Level &parent) {
 // has contents as they are.
 void Walker::unwrap(Level &level) {
   Node &node = level.node;
-  Decoded string(QUARN_ASN1_OCTETSTRING, octets_of(node.type_id, node.value));
+  Decoded string(QUARN_ASN1_OCTETSTRING, octets_of(node));
   if (string.get() == nullptr) return;
   level.string = std::move(string);
   node.type_id = QUARN_ASN1_OCTETSTRING;
@@ -130,7 +130,7 @@ void Walker::open(Level &level, const Level &parent) {
   if (opening != nullptr && !any && is_data(*opening, place)) return;
   node.place = true;
   if (opening == nullptr) return;
-  level.octets = octets_of(node.type_id, node.value);
+  level.octets = octets_of(node);
   Octets octets(level.octets);
   if (holder == QUARN_ASN1_BITSTRING) {
     if (octets.empty() || octets[0] != 0) return;
@@ -138,9 +138,7 @@ void Walker::open(Level &level, const Level &parent) {
   }
   Decoded decoded(opening->type_id, octets);
   if (decoded.get() == nullptr) {
-    quarn_asn1_shape shape{};
-    static_cast<void>(quarn_asn1_type_shape(opening->type_id, &shape));
-    node.trouble = std::string("no ") + shape.name + ": " + decoded.reason();
+    node.trouble = "no " + notation_of(opening->type_id) + ": " + decoded.reason();
     return;
   }
   level.opened = std::move(decoded);
@@ -190,7 +188,7 @@ void Walker::handle(Level level) {
   if (levels_.empty()) resolve(level.node);
   const Node &node = level.node;
   if (!node.composed()) return visitor_.leaf(node);
-  level.count = quarn_asn1_component_count(node.type_id, node.value);
+  level.count = count_of(node);
   if (visitor_.enter(node, level.count)) push(std::move(level));
 }
 
@@ -201,7 +199,7 @@ std::string identifier_of(const Node &node, std::int64_t count) {
     const quarn_asn1_component component = component_of(node, i);
     if (component.type_id == QUARN_ASN1_OID) return oid_text(component.value);
     if (component.type_id != QUARN_ASN1_X509ALGORITHMID) continue;
-    return oid_text(component_of(component.type_id, component.value, 0).value);
+    return oid_text(part_of(part_of(node, i), 0).value);
   }
   return "";
 }
@@ -224,6 +222,17 @@ void Walker::push(Level level) {
 
 }  // namespace
 
+quarn_asn1_type_description description_of(std::int64_t type_id) {
+  quarn_asn1_type_description type{};
+  static_cast<void>(quarn_asn1_type_describe(type_id, &type));
+  return type;
+}
+
+std::string notation_of(std::int64_t type_id) {
+  quarn_asn1_shape shape{};
+  return quarn_asn1_type_shape(type_id, &shape) == 1 ? shape.name : "?";
+}
+
 void walk_value(std::int64_t type_id, const void *value, TypedVisitor &visitor) {
   Walker(visitor).show(type_id, value);
 }
@@ -237,39 +246,49 @@ Node node_of(std::int64_t type_id, const void *value) {
 }
 
 Node part_of(const Node &node, std::string_view name) {
-  const std::int64_t count = quarn_asn1_component_count(node.type_id, node.value);
-  for (std::int64_t i = 0; i < count; i++) {
+  for (std::int64_t i = 0; i < count_of(node); i++) {
     const quarn_asn1_component component = component_of(node, i);
     if (component.name == name) return node_of(component.type_id, component.value);
   }
   return {};
 }
 
-quarn_asn1_component component_of(std::int64_t type_id, const void *value, std::int64_t index) {
-  quarn_asn1_component component{};
-  static_cast<void>(quarn_asn1_component_get(type_id, value, index, &component));
-  return component;
+Node part_of(const Node &node, std::int64_t index) {
+  const quarn_asn1_component component = component_of(node, index);
+  return node_of(component.type_id, component.value);
+}
+
+std::int64_t count_of(const Node &node) {
+  return node.value == nullptr ? 0 : quarn_asn1_component_count(node.type_id, node.value);
 }
 
 quarn_asn1_component component_of(const Node &node, std::int64_t index) {
-  return component_of(node.type_id, node.value, index);
+  quarn_asn1_component component{};
+  static_cast<void>(quarn_asn1_component_get(node.type_id, node.value, index, &component));
+  return component;
 }
 
-std::vector<std::uint8_t> octets_of(std::int64_t type_id, const void *value) {
+std::vector<std::uint8_t> octets_of(const Node &node) {
   const Stream stream(quarn_stream_new_mem(0, nullptr));
   if (stream == nullptr) throw std::bad_alloc();
   // Encoding may move reading positions inside a value, which nobody else looks at here.
-  void *subject = const_cast<void *>(value);
-  const int result =
-      type_id == QUARN_ASN1_ANY
-          ? quarn_asn1_encode(stream.get(), type_id, subject, nullptr, nullptr)
-          : quarn_asn1_encode_content(stream.get(), type_id, subject,
-                                      quarn_asn1_content_length(type_id, value), nullptr, nullptr);
+  void *subject = const_cast<void *>(node.value);
+  const int result = node.type_id == QUARN_ASN1_ANY
+                         ? quarn_asn1_encode(stream.get(), node.type_id, subject, nullptr, nullptr)
+                         : quarn_asn1_encode_content(
+                               stream.get(), node.type_id, subject,
+                               quarn_asn1_content_length(node.type_id, subject), nullptr, nullptr);
   if (result != 1) throw std::bad_alloc();
   const std::uint8_t *octets = nullptr;
   std::uint64_t count = 0;
   static_cast<void>(quarn_memstream_peek(stream.get(), &octets, &count));
   return {octets, octets + count};
+}
+
+bool is_null(const Node &any) {
+  constexpr std::uint8_t kNull = 0x05;  // identifier octet
+  return any.value != nullptr && octets_of(any).at(0) == kNull &&
+         quarn_asn1_any_getcontentlength(static_cast<const quarn_asn1_any *>(any.value)) == 0;
 }
 
 std::string oid_text(const void *value) {

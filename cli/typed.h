@@ -25,6 +25,11 @@
 
 namespace quarn::cli {
 
+// The registered name, tag and codes of a type; zeros for one that does not exist.
+quarn_asn1_type_description description_of(std::int64_t type_id);
+// Its name in ASN.1: "Certificate".
+std::string notation_of(std::int64_t type_id);
+
 // A context-specific tag [n], around an encoding or in place of its own tag.
 struct ContextTag {
   std::uint64_t number;
@@ -80,12 +85,17 @@ Node node_of(std::int64_t type_id, const void *value);
 // What its component of this name holds, or an empty node.
 Node part_of(const Node &node, std::string_view name);
 
+// How many components a record or a list has; none for an empty node.
+std::int64_t count_of(const Node &node);
 // Component number index; its value is null when it is absent.
 quarn_asn1_component component_of(const Node &node, std::int64_t index);
-quarn_asn1_component component_of(std::int64_t type_id, const void *value, std::int64_t index);
+// What that component holds, or an empty node.
+Node part_of(const Node &node, std::int64_t index);
 
 // Content octets of a primitive value, as they stand in its encoding; of an ANY the whole encoding.
-std::vector<std::uint8_t> octets_of(std::int64_t type_id, const void *value);
+std::vector<std::uint8_t> octets_of(const Node &node);
+// Whether an ANY is NULL, as the parameters of many algorithms are.
+bool is_null(const Node &any);
 // The dotted text of an OBJECT IDENTIFIER.
 std::string oid_text(const void *value);
 

@@ -13,8 +13,6 @@ namespace quarn::cli {
 
 namespace {
 
-constexpr std::uint32_t kContext = 0x80;
-
 struct Placed {
   Element element;
   std::uint64_t end;    // of its content
@@ -74,17 +72,11 @@ std::optional<Placed> Elements::at(std::uint64_t from, std::uint64_t end) const 
   return placed;
 }
 
-quarn_asn1_type_description describe(std::int64_t type_id) {
-  quarn_asn1_type_description type{};
-  static_cast<void>(quarn_asn1_type_describe(type_id, &type));
-  return type;
-}
-
 enum class Match { no, yes, any };
 
 // Whether an element can be a value of a type under its own tag; any: the type has none.
 Match match_own(const Element &element, std::int64_t type_id) {
-  const quarn_asn1_type_description type = describe(type_id);
+  const quarn_asn1_type_description type = description_of(type_id);
   if (type.tag_class == kUniversal && type.tag_number == 0) return Match::any;
   const quarn_asn1_header &header = element.header;
   const bool same = header.tag_class == type.tag_class && header.tag_number == type.tag_number;
@@ -105,9 +97,7 @@ Match match(const Element &element, const std::vector<ContextTag> &tags, std::in
 class TypedJudge : public TypedVisitor {
  public:
   TypedJudge(std::int64_t type_id, Octets octets, bool dig) : elements_(octets), dig_(dig) {
-    quarn_asn1_shape shape{};
-    static_cast<void>(quarn_asn1_type_shape(type_id, &shape));
-    path_ = shape.name;
+    path_ = notation_of(type_id);
     frames_.push_back({0, octets.size(), path_.size(), false, std::nullopt});
   }
 
@@ -232,7 +222,7 @@ bool TypedJudge::enter(const Node &node, std::int64_t /*count*/) {
   const std::optional<Placed> placed = place_of(node);
   if (!placed || !placed->element.constructed()) return false;
   const bool own_tag = placed->element.header.tag_class != kUniversal;
-  const bool is_set_of = own_tag && node.list() && describe(node.type_id).tag_number == 17;
+  const bool is_set_of = own_tag && node.list() && description_of(node.type_id).tag_number == 17;
   path_ = path_to(node);
   frames_.push_back({placed->start(), placed->end, path_.size(), is_set_of, std::nullopt});
   return true;
@@ -246,7 +236,7 @@ void TypedJudge::leave() {
 void TypedJudge::leaf(const Node &node) {
   const std::optional<Placed> placed = place_of(node);
   if (!placed) return;
-  const std::uint64_t number = describe(node.shape.base).tag_number;
+  const std::uint64_t number = description_of(node.shape.base).tag_number;
   if (placed->element.header.tag_class != kUniversal) check_content_of(*placed, node, number);
   if (number == 3 && node.names != nullptr) check_named_bits(*placed, node);
 }

@@ -13,6 +13,7 @@
 #include "cli/open.h"
 #include "cli/output.h"
 #include "cli/text.h"
+#include "cli/walk.h"
 #include "quarn_asn1/core.h"
 
 namespace quarn::cli {
@@ -25,12 +26,8 @@ std::string column(std::string text, std::size_t width) {
 }
 
 std::string tag_text(const quarn_asn1_type_description &type) {
-  if (type.tag_class == 0x40) return "APPLICATION " + std::to_string(type.tag_number);
+  if (type.tag_class == kApplication) return "APPLICATION " + std::to_string(type.tag_number);
   return type.tag_number == 0 ? "-" : std::to_string(type.tag_number);
-}
-
-std::string code_text(int code) {
-  return hex_number(static_cast<std::uint64_t>(code));
 }
 
 const char *form_text(const quarn_asn1_type_description &type) {
@@ -61,16 +58,10 @@ std::string table_line(std::int64_t id, const quarn_asn1_type_description &type)
 // The members of an object, without its braces.
 std::string json_line(std::int64_t id, const quarn_asn1_type_description &type) {
   return "\"id\":" + std::to_string(id) + ",\"name\":" + json_string(type.name) +
-         ",\"class\":" + (type.tag_class == 0x40 ? "\"APPLICATION\"" : "\"UNIVERSAL\"") +
+         ",\"class\":" + (type.tag_class == kApplication ? "\"APPLICATION\"" : "\"UNIVERSAL\"") +
          ",\"tag\":" + std::to_string(type.tag_number) + ",\"form\":\"" + form_text(type) +
          "\",\"encode_code\":\"" + code_text(type.error_code) + "\",\"decode_code\":\"" +
          code_text(type.error_code + 1) + "\"";
-}
-
-quarn_asn1_type_description description_of(std::int64_t id) {
-  quarn_asn1_type_description type{};
-  static_cast<void>(quarn_asn1_type_describe(id, &type));
-  return type;
 }
 
 // Words in lines of at most 100 columns, behind a title unless that is empty.
@@ -130,12 +121,6 @@ std::string description_text(std::int64_t id) {
   text += uses_text(id);
   text += wrapped("header", {definition->header});
   return text + wrapped("functions", words_of(definition->functions));
-}
-
-std::string json_list(const std::vector<std::string> &words) {
-  std::string text;
-  for (const std::string &word : words) text += (text.empty() ? "" : ",") + json_string(word);
-  return "[" + text + "]";
 }
 
 std::string json_components(const Definition &definition) {

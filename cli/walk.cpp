@@ -73,9 +73,9 @@ int small_tag_header(Octets octets, quarn_asn1_header &header) {
 std::string tag_name(const quarn_asn1_header &header) {
   const std::string number = std::to_string(header.tag_number);
   switch (header.tag_class) {
-    case 0x40:
+    case kApplication:
       return "[APPLICATION " + number + "]";
-    case 0x80:
+    case kContext:
       return "[" + number + "]";
     case 0xC0:
       return "[PRIVATE " + number + "]";

@@ -19,7 +19,10 @@
 
 namespace quarn::cli {
 
+// Classes of tags, as in identifier octets.
 constexpr std::uint32_t kUniversal = 0x00;
+constexpr std::uint32_t kApplication = 0x40;
+constexpr std::uint32_t kContext = 0x80;
 
 struct Element {
   std::uint64_t offset = 0;  // of its first identifier octet

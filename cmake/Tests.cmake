@@ -38,14 +38,11 @@ if(TARGET quarn_cli AND Python3_FOUND)
   add_test(NAME cli COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_quarn.py)
   set_tests_properties(cli PROPERTIES ENVIRONMENT
     "QUARN=$<TARGET_FILE:quarn_cli>;QUARN_COMPLETION=${QUARN_COMPLETION_bash};QUARN_MAN=${QUARN_MAN_PAGE}")
-  add_test(NAME decode COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_decode.py)
-  set_tests_properties(decode PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
-  add_test(NAME files COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_files.py)
-  add_test(NAME check COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_check.py)
-  add_test(NAME cms COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_cms.py)
+  foreach(name decode files check cms)
+    add_test(NAME ${name} COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tests/cli/test_${name}.py)
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
+  endforeach()
   add_test(NAME decoding COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/decoding.py $<TARGET_FILE:quarn_cli> --check)
-  set_tests_properties(cms PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
-  set_tests_properties(check PROPERTIES ENVIRONMENT "QUARN=$<TARGET_FILE:quarn_cli>")
 endif()
 
 # Real files, made once for each build directory: for the program of that name and for the command.

@@ -2,6 +2,7 @@
 #ifndef QUARN_FUZZ_FUZZ_H
 #define QUARN_FUZZ_FUZZ_H
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -38,6 +39,22 @@ class Exact {
   std::unique_ptr<std::uint8_t[]> octets_;
   std::size_t size_;
 };
+
+struct Octets {
+  const std::uint8_t *data = nullptr;
+  std::uint64_t count = 0;
+};
+
+// Lent by a memory stream.
+inline Octets held_by(const Stream &stream) {
+  Octets held;
+  must(quarn_memstream_peek(stream.get(), &held.data, &held.count) == 1);
+  return held;
+}
+
+inline bool same(const Octets &a, const Octets &b) {
+  return a.count == b.count && std::equal(a.data, a.data + a.count, b.data);
+}
 
 inline bool equal(const quarn_data_blob &blob, const std::uint8_t *octets, std::int64_t count) {
   return blob.length == count &&

@@ -27,9 +27,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
   must(quarn_asn1_encode_identifier(out.get(), tag_class, form, signed_number, nullptr, nullptr) ==
        1);
   must(quarn_asn1_encode_length(out.get(), length, nullptr, nullptr) == 1);
-  const std::uint8_t *octets = nullptr;
-  std::uint64_t count = 0;
-  must(quarn_memstream_peek(out.get(), &octets, &count) == 1);
+  const auto [octets, count] = held_by(out);
   must(static_cast<std::int64_t>(count) ==
        quarn_asn1_identifier_length(signed_number) + quarn_asn1_length_length(length));
   must(count <= header.header_length);

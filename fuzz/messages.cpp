@@ -66,21 +66,6 @@ std::int64_t value_type(std::int64_t type) {
   return type == 0 ? QUARN_ASN1_PKCS7SIGNEDDATA : type;
 }
 
-struct Octets {
-  const std::uint8_t *data = nullptr;
-  std::uint64_t count = 0;
-};
-
-Octets held_by(const Stream &stream) {
-  Octets held;
-  must(quarn_memstream_peek(stream.get(), &held.data, &held.count) == 1);
-  return held;
-}
-
-bool same(const Octets &a, const Octets &b) {
-  return a.count == b.count && std::equal(a.data, a.data + a.count, b.data);
-}
-
 bool same_places(const quarn_pkcs7signeddata *a, const quarn_pkcs7signeddata *b) {
   return quarn_pkcs7signeddata_gettype(a) == quarn_pkcs7signeddata_gettype(b) &&
          quarn_pkcs7signeddata_getcontentinfooffset(a) ==

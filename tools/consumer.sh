@@ -67,6 +67,10 @@ for form in "" -stream; do
     exit 1
   fi
 done
+if "$work/signed/verify" -x sha256 "$work/signed.der" >/dev/null 2>&1; then
+  echo "an option that does not exist was passed over" >&2
+  exit 1
+fi
 unset LD_LIBRARY_PATH
 echo "signed messages: good"
 

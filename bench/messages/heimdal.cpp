@@ -10,10 +10,7 @@ namespace bench {
 namespace {
 
 template <typename T>
-using Decode = int(const unsigned char *, size_t, T *, size_t *);
-
-template <typename T>
-std::unique_ptr<T> decode_in_content_info(const Octets &der, Decode<T> *decode) {
+std::unique_ptr<T> decode_in_content_info(const Octets &der, DecodeHeimdal<T> *decode) {
   ContentInfo outer;
   std::size_t size = 0;
   require(decode_ContentInfo(der.data(), der.size(), &outer, &size) == 0 && outer.content,
@@ -31,12 +28,7 @@ std::uint64_t signed_message(const Octets &der) {
   const std::uint64_t size = value->encapContentInfo.eContent->length;
   for (unsigned i = 0; i < value->certificates->len; i++) {
     const heim_any &octets = value->certificates->val[i];
-    Certificate certificate;
-    std::size_t taken = 0;
-    require(decode_Certificate(static_cast<const unsigned char *>(octets.data), octets.length,
-                               &certificate, &taken) == 0,
-            "decode a certificate with Heimdal");
-    free_Certificate(&certificate);
+    require(decode_certificate(octets.data, octets.length), "decode a certificate with Heimdal");
   }
   free_SignedData(value.get());
   return size;

@@ -111,15 +111,7 @@ const Signer &signer(Key key) {
 
 const Octets &content_of(std::size_t size) {
   static std::map<std::size_t, Octets> all;
-  return kept(all, size, [=] {
-    Octets octets(size);
-    std::uint64_t state = size;
-    for (std::uint8_t &octet : octets) {
-      state = state * 6364136223846793005U + 1442695040888963407U;
-      octet = static_cast<std::uint8_t>(state >> 56);
-    }
-    return octets;
-  });
+  return kept(all, size, [=] { return random_octets(size, size); });
 }
 
 const Octets &signed_message(std::size_t size, Lengths lengths, Key key) {

@@ -2,8 +2,7 @@
 // decoding.
 #include "bench/messages/messages.h"
 
-#include <algorithm>
-#include <cstring>
+#include "bench/libraries.h"
 
 namespace bench {
 
@@ -19,11 +18,8 @@ struct Size {
 };
 constexpr Size kSizes[] = {{kSmall, ", 1 KiB"}, {kMiddle, ", 1 MiB"}, {kLarge, ", 100 MiB"}};
 
-// In the order of their lines, the reference first.
-constexpr const char *kLibraries[] = {"OpenSSL", "quarn", "libksba", "Heimdal", "GnuTLS"};
-
-std::vector<MessageLibrary> &registered() {
-  static std::vector<MessageLibrary> all;
+Libraries<MessageLibrary> &registered() {
+  static Libraries<MessageLibrary> all({"OpenSSL", "quarn", "libksba", "Heimdal", "GnuTLS"});
   return all;
 }
 
@@ -31,22 +27,15 @@ std::vector<MessageLibrary> &registered() {
 template <typename Function>
 std::vector<MessageLibrary> who_can(Function MessageLibrary::*function, Question &question) {
   std::vector<MessageLibrary> able;
-  for (const char *name : kLibraries) {
-    const auto at = std::find_if(registered().begin(), registered().end(),
-                                 [name](const MessageLibrary &l) { return !strcmp(l.name, name); });
-    if (at == registered().end()) {
-      question.notes.push_back(std::string(name) + ": left out, it is not installed");
-    } else if ((*at).*function == nullptr) {
-      question.notes.push_back(std::string(name) + ": cannot");
+  for (const char *name : registered().names()) {
+    const MessageLibrary *library = registered().find(name);
+    if (library == nullptr || library->*function == nullptr) {
+      question.notes.push_back(registered().absence(name));
     } else {
-      able.push_back(*at);
+      able.push_back(*library);
     }
   }
   return able;
-}
-
-double limit_of(const MessageLibrary &library, double ours) {
-  return strcmp(library.name, "quarn") == 0 ? ours : 0;
 }
 
 // Input is made when the work is first done, which is not while the clock runs.
@@ -69,7 +58,7 @@ Question from_memory(const std::string &title,
   Question question{title, "message", 1, {}};
   for (const MessageLibrary &library : who_can(&MessageLibrary::signed_message, question)) {
     question.cases.push_back(decoding(library.name, library.signed_message,
-                                      limit_of(library, at_most), size, lengths, key));
+                                      of_ours(library, at_most), size, lengths, key));
   }
   return question;
 }
@@ -99,20 +88,14 @@ void demand_heap(Question &question, double at_most) {
   }
 }
 
-const DecodeMessage &openssl() {
-  return std::find_if(
-             registered().begin(), registered().end(),
-             [](const MessageLibrary &library) { return !strcmp(library.name, "OpenSSL"); })
-      ->signed_message;
-}
-
 Question large_message_apart() {
-  Question question{"8c. Signed message of 100 MiB, content not kept",
-                    "message",
-                    1,
-                    {decoding("OpenSSL, content kept", openssl(), 0, kLarge),
-                     decoding("quarn, content left in the source", decode_apart, 0.15, kLarge),
-                     decoding("quarn, content to a stream", decode_content_aside, 0.15, kLarge)}};
+  Question question{
+      "8c. Signed message of 100 MiB, content not kept",
+      "message",
+      1,
+      {decoding("OpenSSL, content kept", registered().find("OpenSSL")->signed_message, 0, kLarge),
+       decoding("quarn, content left in the source", decode_apart, 0.15, kLarge),
+       decoding("quarn, content to a stream", decode_content_aside, 0.15, kLarge)}};
   demand_heap(question, kHeapOfReading);
   return question;
 }
@@ -138,22 +121,14 @@ Case writing(const std::string &name,
              const std::string &reference,
              double at_most) {
   return {.name = name,
-          .work =
-              [=] {
-                write_signed(content_of(kLarge), piece, digest);
-                return std::uint64_t{0};
-              },
+          .work = uncounted([=] { write_signed(content_of(kLarge), piece, digest); }),
           .at_most = at_most,
           .reference = reference};
 }
 
 Case writing_openssl(const std::string &name, bool digest) {
   return {.name = name,
-          .work =
-              [=] {
-                write_openssl(content_of(kLarge), digest);
-                return std::uint64_t{0};
-              },
+          .work = uncounted([=] { write_openssl(content_of(kLarge), digest); }),
           .reference = name};
 }
 
@@ -177,12 +152,10 @@ Case decoding_file(const std::string &name,
                    const Size &size,
                    const std::string &reference) {
   return {.name = name + size.suffix,
-          .work =
-              [=, octets = size.octets] {
-                const std::uint64_t found = decode(signed_file(octets));
-                require(found == 0 || found == octets, "find all content");
-                return std::uint64_t{0};
-              },
+          .work = uncounted([=, octets = size.octets] {
+            const std::uint64_t found = decode(signed_file(octets));
+            require(found == 0 || found == octets, "find all content");
+          }),
           .reference = reference + size.suffix};
 }
 
@@ -219,11 +192,7 @@ Question from_files() {
 
 Case decoding_enveloped(const std::string &name, DecodeMessage decode, const Size &size) {
   return {.name = name + size.suffix,
-          .work =
-              [=, octets = size.octets] {
-                decode(enveloped_message(octets));
-                return std::uint64_t{0};
-              },
+          .work = uncounted([=, octets = size.octets] { decode(enveloped_message(octets)); }),
           .reference = std::string("OpenSSL") + size.suffix};
 }
 
@@ -248,13 +217,12 @@ Question enveloped_encoded() {
   for (const Size &size : {kSizes[0], kSizes[1]}) {
     for (const MessageLibrary &library : able) {
       void *message = library.load_enveloped(enveloped_message(size.octets));
-      question.cases.push_back({.name = std::string(library.name) + size.suffix,
-                                .work =
-                                    [message, encode = library.encode_enveloped, size] {
-                                      require(encode(message) > size.octets, "encode a message");
-                                      return std::uint64_t{0};
-                                    },
-                                .reference = std::string("OpenSSL") + size.suffix});
+      question.cases.push_back(
+          {.name = std::string(library.name) + size.suffix,
+           .work = uncounted([message, encode = library.encode_enveloped, size] {
+             require(encode(message) > size.octets, "encode a message");
+           }),
+           .reference = std::string("OpenSSL") + size.suffix});
     }
   }
   return question;
@@ -263,8 +231,7 @@ Question enveloped_encoded() {
 }  // namespace
 
 bool known_messages(const MessageLibrary &library) {
-  registered().push_back(library);
-  return true;
+  return registered().add(library);
 }
 
 std::vector<Question> messages() {

@@ -1,7 +1,6 @@
 // What the questions on messages ask of each library.
 //
-// Each library has a source of its own, which makes it known by known_messages(). One that is not
-// installed is not built; one that cannot do what a question asks has a null function.
+// Each library makes itself known by known_messages(); see bench/libraries.h.
 #ifndef QUARN_BENCH_MESSAGES_MESSAGES_H
 #define QUARN_BENCH_MESSAGES_MESSAGES_H
 
@@ -23,7 +22,6 @@ struct MessageLibrary {
   std::size_t (*encode_enveloped)(void *message) = nullptr;
 };
 
-// Returns true, so that a constant can be made of it.
 bool known_messages(const MessageLibrary &library);
 
 // This library's other ways with signed messages.

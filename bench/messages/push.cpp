@@ -52,9 +52,8 @@ void push_string(const Octets &input, std::size_t slice) {
 
 // A string in segments of 4096 octets, as streamed messages have them.
 Octets segments(std::size_t size) {
-  const Octets segment = element(0x04, Octets(4096, 0x5A));
-  Octets all{0x24, 0x80};
-  while (all.size() < size) all.insert(all.end(), segment.begin(), segment.end());
+  Octets all = repeated(element(0x04, Octets(4096, 0x5A)), size);
+  all.insert(all.begin(), {0x24, 0x80});
   all.insert(all.end(), {0x00, 0x00});
   return all;
 }
@@ -62,9 +61,7 @@ Octets segments(std::size_t size) {
 // Small elements, as in a list of revoked certificates.
 Octets sequences(std::size_t size) {
   const Octets one = {0x30, 0x0A, 0x02, 0x03, 0x01, 0x02, 0x03, 0x04, 0x03, 0x41, 0x42, 0x43};
-  Octets content;
-  while (content.size() < size) content.insert(content.end(), one.begin(), one.end());
-  return element(0x30, content);
+  return element(0x30, repeated(one, size));
 }
 
 struct Way {
@@ -98,11 +95,7 @@ void add_slices(Question &question,
     const auto &input = inputs[size.octets == kHalf.octets];
     question.cases.push_back(
         {.name = name + size.suffix,
-         .work =
-             [run = way.run, input, count = slice.octets] {
-               run(*input, count);
-               return std::uint64_t{0};
-             },
+         .work = uncounted([run = way.run, input, count = slice.octets] { run(*input, count); }),
          .reference = way.name + std::string(kSlices[0].suffix) + kWhole.suffix,
          .operations = input->size() >> 10});
   }

@@ -72,7 +72,7 @@ const bool kKnown = known_library({.name = "GnuTLS",
                                    .certificate = certificate,
                                    .request = request,
                                    .list = list,
-                                   // The square of the entries, when they have extensions: minutes.
+                                   // The time grows with the square of their number.
                                    .most_entries = 10000,
                                    .load = load,
                                    .release = release,

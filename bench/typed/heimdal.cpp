@@ -10,18 +10,6 @@ namespace bench {
 
 namespace {
 
-template <typename T>
-using Decode = int(const unsigned char *, size_t, T *, size_t *);
-
-template <typename T, Decode<T> decode, void release(T *)>
-bool decode_and_free(const void *octets, std::size_t count) {
-  T value;
-  std::size_t size = 0;
-  if (decode(static_cast<const unsigned char *>(octets), count, &value, &size) != 0) return false;
-  release(&value);
-  return true;
-}
-
 // Of the subject's information access, which its headers have no constant for.
 unsigned kSubjectAccess[] = {1, 3, 6, 1, 5, 5, 7, 1, 11};
 const heim_oid kSubjectAccessType = {std::size(kSubjectAccess), kSubjectAccess};
@@ -69,7 +57,7 @@ bool decode_extension(const Extension &extension) {
 }
 
 bool certificate(const Octets &der) {
-  return decode_and_free<Certificate, decode_Certificate, free_Certificate>(der.data(), der.size());
+  return decode_certificate(der.data(), der.size());
 }
 
 bool certificate_and_extensions(const Octets &der) {

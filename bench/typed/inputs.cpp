@@ -29,15 +29,9 @@ Octets extension(const Octets &type, const Octets &value) {
   return element(0x30, joined({element(0x06, type), element(0x04, value)}));
 }
 
-// 15 octets, the first of which keep the number positive and without leading zeros.
+// 15 octets, the first of which keeps the number positive and without leading zeros.
 Octets serial_number(std::size_t index) {
-  Octets content{0x5A};
-  std::uint64_t state = index;
-  while (content.size() < 15) {
-    state = state * 6364136223846793005U + 1442695040888963407U;
-    content.push_back(static_cast<std::uint8_t>(state >> 56));
-  }
-  return element(0x02, content);
+  return element(0x02, joined({{0x5A}, random_octets(14, index)}));
 }
 
 Octets revoked(std::size_t index, bool extensions) {

@@ -2,33 +2,22 @@
 #include "bench/typed/typed.h"
 
 #include <algorithm>
-#include <cstring>
 #include <deque>
 #include <memory>
+
+#include "bench/libraries.h"
 
 namespace bench {
 
 namespace {
 
-// In the order of their lines, the reference first.
-constexpr const char *kLibraries[] = {"OpenSSL", "quarn", "Heimdal", "GnuTLS", "Botan", "mbedTLS"};
-
-std::vector<Library> &registered() {
-  static std::vector<Library> all;
+Libraries<Library> &registered() {
+  static Libraries<Library> all({"OpenSSL", "quarn", "Heimdal", "GnuTLS", "Botan", "mbedTLS"});
   return all;
 }
 
-// Those that were built, in their order.
 const std::vector<Library> &libraries() {
-  static const std::vector<Library> kAll = [] {
-    std::vector<Library> all;
-    for (const char *name : kLibraries) {
-      const auto at = std::find_if(registered().begin(), registered().end(),
-                                   [name](const Library &l) { return !strcmp(l.name, name); });
-      if (at != registered().end()) all.push_back(*at);
-    }
-    return all;
-  }();
+  static const std::vector<Library> kAll = registered().built();
   return kAll;
 }
 
@@ -67,11 +56,9 @@ class Cases {
            std::to_string(inputs.size()) + ": its figures are too good");
     }
     cases_.push_back({.name = library.name + suffix,
-                      .work =
-                          [function, &inputs] {
-                            for (const Octets &der : inputs) function(der);
-                            return std::uint64_t{0};
-                          },
+                      .work = uncounted([function, &inputs] {
+                        for (const Octets &der : inputs) function(der);
+                      }),
                       .at_most = at_most,
                       .reference = reference,
                       .operations = operations});
@@ -102,10 +89,9 @@ class Cases {
   Question question(const std::string &operation,
                     std::size_t operations,
                     std::vector<Comparison> comparisons = {}) {
-    for (const char *name : kLibraries) {
+    for (const char *name : registered().names()) {
       const auto is_its = [name](const Case &one) { return one.name.starts_with(name); };
-      if (std::none_of(cases_.begin(), cases_.end(), is_its))
-        note(std::string(name) + absence(name));
+      if (std::none_of(cases_.begin(), cases_.end(), is_its)) note(registered().absence(name));
     }
     return {title_,           operation, operations, std::move(cases_), std::move(comparisons),
             std::move(notes_)};
@@ -131,20 +117,10 @@ class Cases {
     void (*release)(void *);
   };
 
-  static const char *absence(const char *name) {
-    const auto is_it = [name](const Library &library) { return !strcmp(library.name, name); };
-    const bool built = std::any_of(libraries().begin(), libraries().end(), is_it);
-    return built ? ": cannot" : ": left out, it is not installed";
-  }
-
   std::string title_;
   std::vector<Case> cases_;
   std::vector<std::string> notes_;
 };
-
-bool is_ours(const Library &library) {
-  return strcmp(library.name, "quarn") == 0;
-}
 
 Question decoded() {
   Cases cases("6a. Certificate to typed values, freed");
@@ -153,7 +129,7 @@ Question decoded() {
     cases.add(library, ", from a memory stream", library.certificate_from_stream,
               all_certificates());
     cases.add(library, ", with extensions", library.certificate_and_extensions, all_certificates(),
-              is_ours(library) ? 0.05 : 0);
+              of_ours(library, 0.05));
   }
   const std::string ours = "quarn, with extensions";
   return cases.question("certificate", all_certificates().size(),
@@ -164,7 +140,7 @@ Question decoded() {
 Question encoded_anew() {
   Cases cases("6b. Certificate encoded from its values");
   for (const Library &library : libraries()) {
-    cases.add_kept(library, library.encode_anew, library.change, is_ours(library) ? 0.45 : 0);
+    cases.add_kept(library, library.encode_anew, library.change, of_ours(library, 0.45));
   }
   return cases.question("certificate", all_certificates().size(),
                         {{.of = "quarn", .reference = "Heimdal", .at_most = 0.9}});
@@ -173,7 +149,7 @@ Question encoded_anew() {
 Question encoded_untouched() {
   Cases cases("6c. Certificate encoded as it came");
   for (const Library &library : libraries()) {
-    cases.add_kept(library, library.encode, nullptr, is_ours(library) ? 1.5 : 0);
+    cases.add_kept(library, library.encode, nullptr, of_ours(library, 1.5));
   }
   return cases.question("certificate", all_certificates().size());
 }
@@ -187,7 +163,7 @@ Question copied() {
 Question requests_decoded() {
   Cases cases("6e. Certification request to typed values, freed");
   for (const Library &library : libraries()) {
-    cases.add(library, "", library.request, requests(), is_ours(library) ? 0.07 : 0);
+    cases.add(library, "", library.request, requests(), of_ours(library, 0.07));
   }
   return cases.question("request", requests().size());
 }
@@ -206,12 +182,12 @@ Question lists_decoded(const std::string &title, bool extensions) {
   for (const auto &[entries, suffix] : kLengths) {
     const std::vector<Octets> &inputs = kept.emplace_back(1, revocation_list(entries, extensions));
     for (const Library &library : libraries()) {
-      if (library.most_entries != 0 && entries > library.most_entries) {
+      if (extensions && library.most_entries != 0 && entries > library.most_entries) {
         cases.note(std::string(library.name) + suffix + ": left out, takes minutes");
         continue;
       }
-      const double at_most = is_ours(library) && entries == kLengths[0].entries ? 0.6 : 0;
-      cases.add(library, suffix, library.list, inputs, at_most, entries,
+      const double at_most = entries == kLengths[0].entries ? 0.6 : 0;
+      cases.add(library, suffix, library.list, inputs, of_ours(library, at_most), entries,
                 std::string("OpenSSL") + suffix);
     }
   }
@@ -242,8 +218,7 @@ Question names_sorted() {
 }  // namespace
 
 bool known_library(const Library &library) {
-  registered().push_back(library);
-  return true;
+  return registered().add(library);
 }
 
 std::vector<Question> typed_values() {

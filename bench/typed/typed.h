@@ -1,8 +1,6 @@
 // What the questions on typed values ask of each library.
 //
-// Each library has a source of its own, which makes it known by known_library(). One that is not
-// installed is not built; one that cannot do what a question asks has a null function. The output
-// says who is missing.
+// Each library makes itself known by known_library(); see bench/libraries.h.
 #ifndef QUARN_BENCH_TYPED_TYPED_H
 #define QUARN_BENCH_TYPED_TYPED_H
 
@@ -20,7 +18,7 @@ struct Library {
       nullptr;  // each extension that it has a type for
   bool (*request)(const Octets &der) = nullptr;
   bool (*list)(const Octets &der) = nullptr;  // of revoked certificates
-  std::size_t most_entries = 0;               // of a list, where more take too long; 0: any number
+  std::size_t most_entries = 0;  // of a list with extensions, where more take minutes; 0: any
   bool (*sorted_name)(const Octets &der) = nullptr;
 
   // A certificate that is kept.
@@ -35,7 +33,6 @@ struct Library {
   bool (*same_names)(void *certificate) = nullptr;  // whether issuer and subject are the same
 };
 
-// Returns true, so that a constant can be made of it.
 bool known_library(const Library &library);
 
 // A CRL of so many entries, every second of which has a reason and every fourth an invalidity date

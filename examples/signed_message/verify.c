@@ -264,12 +264,18 @@ static int verify(const char *path,
 int main(int argc, char **argv) {
   struct digest digest = {EVP_sha256(), {0}, 0};
   const char *certificate = NULL;
+  int known = 1;
   int i = 1;
   for (; i + 1 < argc && argv[i][0] == '-' && argv[i][1] != '\0'; i += 2) {
-    if (strcmp(argv[i], "-d") == 0) digest.algorithm = EVP_get_digestbyname(argv[i + 1]);
-    if (strcmp(argv[i], "-c") == 0) certificate = argv[i + 1];
+    if (strcmp(argv[i], "-d") == 0) {
+      digest.algorithm = EVP_get_digestbyname(argv[i + 1]);
+    } else if (strcmp(argv[i], "-c") == 0) {
+      certificate = argv[i + 1];
+    } else {
+      known = 0;
+    }
   }
-  if (i >= argc || argc > i + 2 || digest.algorithm == NULL) {
+  if (!known || i >= argc || argc > i + 2 || digest.algorithm == NULL) {
     fprintf(stderr, "usage: %s [-d DIGEST] [-c CERTIFICATE] MESSAGE [CONTENT]\n", argv[0]);
     return 2;
   }

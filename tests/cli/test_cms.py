@@ -170,6 +170,7 @@ class Messages(Case):
                 (b"\x30\x03" + signed[4:], "found the end of the SignedData", "expected  it at 5"),
                 (message("060b2a864886f70d0109100109", b""), "type 1.2.840.113549.1.9.16.1.9 compressedData"),
                 (message("060b2a864886f70d0109100104", b"\x30\0"), "1.9.16.1.4 tstInfo, which"),
+                (message("06022a86", b""), "found OID", "complete"), (message("06802a03", b""), "of indefinite length"),
                 (text[:-40], "PEM block is broken", "END line"), (text.replace(b"\nA", b"\n*", 1), "no character of base64"),
                 (signed.replace(b"\x02\x01\x01", b"\x02\x88\x7f" + b"\xff" * 7, 1), "found INTEGER with 9223372036854775807")]:
             self.check(Run("cms", data=octets), 1, "quarn cms: standard input: ", *said)
