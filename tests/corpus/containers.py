@@ -15,9 +15,8 @@ KEYS = {
     "explicit": "-algorithm EC -pkeyopt ec_paramgen_curve:P-384 -pkeyopt ec_param_enc:explicit",
 }
 CURVES = "secp256r1 sect163k1 brainpoolP256r1 SM2"
-CIPHERS = ["-v2 aes-256-cbc", "-v2 aes-128-cbc -v2prf hmacWithSHA1", "-v2 des3 -v2prf hmacWithSHA512", "-scrypt",
-           "-v1 PBE-SHA1-3DES", "-v1 PBE-MD5-DES -provider legacy -provider default",
-           "-v2 rc2-cbc -provider legacy -provider default"]
+CIPHERS = ["-v2 aes-256-cbc", "-v2 aes-128-cbc -v2prf hmacWithSHA1", "-scrypt", "-v1 PBE-SHA1-3DES",
+           "-v1 PBE-MD5-DES -provider legacy -provider default", "-v2 rc2-cbc -provider legacy -provider default"]
 FILES = ["", "-nomac", "-keypbe NONE -certpbe NONE", "-keypbe PBE-SHA1-3DES -certpbe PBE-SHA1-3DES -macalg sha1",
          "-certfile ca_rsa.pem -name one -caname two -CSP three -keyex", "-maciter -iter 1", "-nokeys", "-nocerts"]
 QUERIES = ["", "-cert", "-cert -no_nonce -sha512", "-tspolicy 1.2.3", "-sha1"]
@@ -106,11 +105,9 @@ HOLDERS = (0x04, 0x31, 0xA0)  # an OCTET STRING, a SET of one value, an explicit
 
 def elements(octets):
     """The elements that some octets are, or none when they are something else."""
-    try:
-        found = der.Element(der.wrap(0x30, octets)).parts()
-        return found if sum(len(each.octets) for each in found) == len(octets) else []
-    except IndexError:
-        return []
+    with contextlib.suppress(IndexError):
+        return der.elements(octets)
+    return []
 
 
 def inside(element):

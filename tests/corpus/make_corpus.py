@@ -33,7 +33,7 @@ TYPES = ("x509pubkeycert", "x509crl", "pkcs10certreq", "attributecertificate", m
 COMMANDS = {"ca": "openssl ca", "certtool": "certtool --outder --outfile {0}",
             "gpgsm": "gpgsm --batch --yes --disable-dirmngr --disable-crl-checks --pinentry-mode loopback"
                      " --passphrase-fd 0 --homedir keyring --output {0}"}
-LEAST = (300, 25, 25, 20, 150)  # of each; other versions of openssl may lack a few kinds
+LEAST = (300, 25, 25, 10, 150)  # of each; other versions of openssl may lack a few kinds
 
 # Name, arguments of `openssl genpkey`.
 KEYS = [

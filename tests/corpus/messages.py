@@ -211,9 +211,7 @@ FORMS = ["1.2.840.113549.1.7.2", None, "1.2.156.10197.6.1.4.2.2"]  # by the numb
 def framed(message, form, indefinite):
     """A message in one of the forms; a bit of `indefinite` for each level says how its length is written."""
     def level(number, identifier, *parts):
-        if indefinite >> number & 1:
-            return bytes([identifier, 0x80]) + b"".join(parts) + b"\0\0"
-        return der.wrap(identifier, *parts)
+        return der.wrap(identifier, *parts, indefinite=indefinite >> number & 1)
     version, digests, info, *others, signers = der.Element(message).parts()[1].parts()[0].parts()
     kind, *tagged = info.parts()
     if tagged:
