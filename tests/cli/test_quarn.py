@@ -12,8 +12,13 @@ import pathlib
 import pty
 import shutil
 import subprocess
+import sys
 import tempfile
 import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "corpus"))
+
+import der  # noqa: E402
 
 QUARN = os.environ.get("QUARN", "quarn")
 ENVIRONMENT = {"PATH": os.environ["PATH"], "LC_ALL": "C", "TERM": "xterm"}
@@ -21,14 +26,14 @@ SEQUENCE = bytes.fromhex("3003020105")
 NULL = bytes.fromhex("0500")
 # SEQUENCE { OID commonName, UTF8String with every kind of hidden character }
 HOSTILE_TEXT = "a\x1b[31m\u202eb\u2028c\x7f\x85\ufeffd\r\ne".encode() + b"\xff\xc0\x80"
-HOSTILE = b"\x0c" + bytes([len(HOSTILE_TEXT)]) + HOSTILE_TEXT
+HOSTILE = der.wrap(0x0C, HOSTILE_TEXT)
 
 
 class Run:
     """One run of the command."""
 
     def __init__(self, *arguments, data=b"", **variables):
-        done = subprocess.run([QUARN, *arguments], input=data, capture_output=True, timeout=120,
+        done = subprocess.run([QUARN, *arguments], input=data, capture_output=True, timeout=300,
                               env={**ENVIRONMENT, **variables}, check=False)
         self.code, self.raw = done.returncode, done.stdout
         self.out = done.stdout.decode("utf-8", "replace")
@@ -42,6 +47,18 @@ class Run:
 def on_small_stack(command, octets):
     return subprocess.run(["sh", "-c", 'ulimit -s 256; exec "$0" "$@"', QUARN, *command], input=octets,
                           capture_output=True, timeout=300, env=ENVIRONMENT, check=False)
+
+
+def on_terminal(command, octets, term="xterm"):
+    """What came of a run, and the first octets that its terminal got."""
+    master, slave = pty.openpty()
+    done = subprocess.run([QUARN, *command], input=octets, stdout=slave, stderr=subprocess.PIPE,
+                          env={**ENVIRONMENT, "TERM": term}, check=False)
+    os.write(slave, b"\n")
+    found = os.read(master, 4096)
+    os.close(master)
+    os.close(slave)
+    return done, found
 
 
 class Case(unittest.TestCase):
@@ -66,32 +83,20 @@ class Case(unittest.TestCase):
 
 class CommandLine(Case):
     def test_help_and_version_go_to_standard_output(self):
-        run = Run("--version")
-        self.check(run, 0)
-        self.assertRegex(run.lines[0], r"^quarn \d+\.\d+\.\d+$")
-        self.assertRegex(run.lines[2], r"^libquarn_util \d")
+        self.assertRegex(Run("--version").out, r"^quarn \d+\.\d+\.\d+\n.*\nlibquarn_util \d")
         self.assertEqual(Run("json", "--help").out, Run("help", "json").out)
         for command in ("json", "der", "decode", "cms", "dump", "check", "convert", "types", "error", "help"):
             self.assertIn(f"  {command} ", Run("--help").out)
-            self.check(Run(command, "-h"), 0)
 
     def test_usage_errors_are_one_line_with_a_hint(self):
         for arguments, text in [
-                (["jsno"], "did you mean 'json'?"),
-                (["json", "--compat"], "did you mean '--compact'?"),
-                (["dump", "--deph=3"], "did you mean '--depth'?"),
+                (["jsno"], "did you mean 'json'?"), (["dump", "--deph=3"], "did you mean '--depth'?"),
                 (["json", "--in-form", "foo"], "one of auto, der, pem, base64, hex"),
-                (["json", "--compact=3"], "--compact takes no value"),
-                (["dump", "--depth", "-1"], "number from 0 up"),
-                (["dump", "--width", "99999999999999999999"], "number from 0 up"),
-                (["der", "-o"], "needs a value"),
-                (["der", "--pem", "A", "--hex"], "exclude each other"),
-                (["der", "--pem", "A\nB"], "cannot be the label"),
-                (["types", "a", "b"], "unexpected operand 'b'"),
-                (["error"], "CODE"),
-                (["error", "0x102zz"], "no code"),
-                (["help", "dmup"], "did you mean 'dump'?"),
-                (["\x1b[2J"], r"unknown command '\u{1B}[2J'")]:
+                (["json", "--compact=3"], "--compact takes no value"), (["dump", "--depth", "-1"], "number from 0 up"),
+                (["dump", "--width", "99999999999999999999"], "number from 0 up"), (["der", "-o"], "needs a value"),
+                (["der", "--pem", "A", "--hex"], "exclude each other"), (["der", "--pem", "A\nB"], "cannot be the label"),
+                (["types", "a", "b"], "unexpected operand 'b'"), (["error"], "CODE"), (["error", "0x102zz"], "no code"),
+                (["help", "dmup"], "did you mean 'dump'?"), (["\x1b[2J"], r"unknown command '\u{1B}[2J'")]:
             with self.subTest(arguments):
                 run = Run(*arguments)
                 self.check(run, 2, text, "--help")
@@ -108,12 +113,10 @@ class CommandLine(Case):
             script = (f"source {os.environ['QUARN_COMPLETION']}; COMP_WORDS=({' '.join(words)} '');"
                       f"COMP_WORDS[{len(words) - 1}]={words[-1]}; COMP_CWORD={len(words) - 1};"
                       "_quarn; echo ${COMPREPLY[*]}")
-            return subprocess.run(["bash", "-c", script], capture_output=True, check=True,
-                                  text=True).stdout.split()
-        self.assertEqual(complete("quarn", "d"), ["der", "decode", "dump"])
-        self.assertEqual(complete("quarn", "json", "--co"), ["--compact", "--color"])
-        self.assertEqual(complete("quarn", "json", "--in-form", "d"), ["der"])
-        self.assertEqual(complete("quarn", "convert", "--to", "h"), ["hex"])
+            return der.run("bash", "-c", script).decode().split()
+        for *words, found in [("d", "der decode dump"), ("json", "--co", "--compact --color"),
+                              ("json", "--in-form", "d", "der"), ("convert", "--to", "h", "hex")]:
+            self.assertEqual(complete("quarn", *words), found.split())
 
     @unittest.skipUnless("QUARN_MAN" in os.environ and shutil.which("man"), "no man page to test")
     def test_man_page_has_no_warnings_and_every_option(self):
@@ -137,13 +140,10 @@ class Input(Case):
                     self.assertEqual(json.loads(run.out)["value"], [{"type": "INTEGER", "value": 5}])
 
     def test_text_that_happens_to_be_well_formed_is_text(self):
-        for text in (base64.b64encode(b"\x04\x59" + b"c" * 89), b"0432" + b"A0" * 50):
+        pem = der.octet_string(b"\n-----BEGIN X-----\nMAMCAQU=\n-----END X-----\n")  # this one is not
+        for text in (base64.b64encode(b"\x04\x59" + b"c" * 89), b"0432" + b"A0" * 50, pem):
             self.assertEqual(Run("dump", "--in-form=der", data=text).code, 0, text)
             self.assertEqual(json.loads(Run("json", data=text).out)["type"], "OCTETSTRING")
-
-    def test_der_that_holds_a_pem_block_is_der(self):
-        text = b"\n-----BEGIN X-----\nMAMCAQU=\n-----END X-----\n"
-        self.assertEqual(Run("json", data=b"\x04" + bytes([len(text)]) + text).out.count("OCTETSTRING"), 1)
 
     def test_several_objects_have_indexes_and_offsets(self):
         pem = self.file("two.pem", "-----BEGIN A-----\nBQA=\n-----END A-----\ntext\n"
@@ -151,11 +151,10 @@ class Input(Case):
                                    "-----BEGIN C-----\nMAMCAQU=\n-----END C-----\n")
         found = Run("json", "--lines", pem)
         self.check(found, 5)
-        records = found.records()
-        self.assertEqual([(r["index"], r["offset"], "error" in r) for r in (records[0], records[2])],
-                         [(0, 0, False), (2, pathlib.Path(pem).read_text().index("-----BEGIN C"), False)])
-        self.assertEqual(records[2]["label"], "C")
-        self.assertEqual(records[1]["error"]["exit"], 1)
+        first, bad, last = found.records()
+        start = pathlib.Path(pem).read_text().index("-----BEGIN C")
+        self.assertEqual([first["index"], first["offset"], last["index"], last["offset"]], [0, 0, 2, start])
+        self.assertEqual((first["label"], bad["error"]["exit"], last["label"]), ("A", 1, "C"))
         records = Run("json", "--lines", data=NULL + SEQUENCE + b"\x30\x80\x05\0\0\0" + b"\n").records()
         self.assertEqual([(r["offset"], r["length"]) for r in records], [(0, 2), (2, 5), (7, 6), (13, 1)])
         self.assertIn("error", records[3])
@@ -188,12 +187,6 @@ class Input(Case):
 
 
 class Json(Case):
-    def test_documents_turn_back_into_the_same_octets(self):
-        for octets in [SEQUENCE, NULL + SEQUENCE, bytes.fromhex("30800101ff24800401410000a1800000"
-                                                                "0c01ff020200050000")]:
-            for arguments in ([], ["--compact"], ["--lines"]):
-                self.assertEqual(Run("der", data=Run("json", *arguments, data=octets).raw).raw, octets)
-
     def test_errors_in_documents_are_shown_with_their_place(self):
         for text, *message in [
                 ('{"type":"SEQUENCE",\n "value":[,]}', "line 2, column 11, offset 30", "          ^"),
@@ -287,12 +280,7 @@ class Dump(Case):
             run = Run("dump", *arguments, data=NULL, **variables)
             self.assertEqual("\x1b[" in run.out, colored, (arguments, variables))
         for term, colored in (("xterm", True), ("dumb", False)):
-            master, slave = pty.openpty()
-            subprocess.run([QUARN, "dump"], input=NULL, stdout=slave, check=True,
-                           env={**ENVIRONMENT, "TERM": term})
-            self.assertEqual(b"\x1b[" in os.read(master, 4096), colored, term)
-            os.close(master)
-            os.close(slave)
+            self.assertEqual(b"\x1b[" in on_terminal(["dump"], NULL, term)[1], colored, term)
 
 
 class Errors(Case):
@@ -324,10 +312,7 @@ class Errors(Case):
         depth = 50000
         definite = b""
         for _ in range(depth):
-            size = len(definite)
-            count = (size.bit_length() + 7) // 8
-            length = bytes([size]) if size < 128 else bytes([0x80 | count]) + size.to_bytes(count, "big")
-            definite = b"\x30" + length + definite
+            definite = der.sequence(definite)
         text = on_small_stack(["json", "--compact"], definite).stdout
         self.assertEqual(on_small_stack(["der"], text).stdout, definite)
         indefinite = b"\x30\x80" * depth + b"\0\0" * depth
@@ -341,26 +326,19 @@ class Errors(Case):
     def test_a_broken_standard_output_ends_the_run(self):
         with open("/dev/full", "wb") as full:
             for arguments in (["types"], ["json"], ["--help"]):
-                done = subprocess.run([QUARN, *arguments], input=SEQUENCE, stdout=full,
-                                      stderr=subprocess.PIPE, env=ENVIRONMENT, check=False)
+                done = subprocess.run([QUARN, *arguments], input=SEQUENCE, stdout=full, stderr=subprocess.PIPE,
+                                      env=ENVIRONMENT, check=False)
                 self.assertEqual(done.returncode, 3)
                 self.assertIn(b"cannot write to the standard output: No space left", done.stderr)
-        process = subprocess.Popen([QUARN, "dump"], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                                   stderr=subprocess.PIPE)
-        process.stdout.close()  # before there is anything to write
-        process.stdin.write(SEQUENCE)
-        process.stdin.close()
-        self.assertEqual(process.stderr.read(), b"")
-        process.stderr.close()
-        self.assertEqual(process.wait(), -13)
+        script = 'set -o pipefail; (sleep 0.1; printf "\\5\\0") | "$0" dump | true'
+        done = subprocess.run(["bash", "-c", script, QUARN], capture_output=True, env=ENVIRONMENT, check=False)
+        self.assertEqual((done.returncode, done.stderr), (128 + 13, b""))
 
 
 class Tables(Case):
     def test_types_are_found_by_part_of_the_name_and_by_pattern(self):
         run = Run("types")
         self.assertEqual(len(run.lines), 421)
-        self.assertEqual(Run("types", "BOOL").lines[1].split()[:6],
-                         ["1", "boolean", "1", "primitive", "0x1020d", "0x1020e"])
         validity = Run("types", "validity").out
         for text in ("    Validity ::= SEQUENCE {\n", "stands in   TBSCertificate.validity", "quarn_x509validity_new"):
             self.assertIn(text, validity)
