@@ -9,7 +9,7 @@ import unittest
 from concurrent.futures import ThreadPoolExecutor
 
 from der import openssl
-from test_corpus import CORPUS, integer, json, quarn
+from test_corpus import CORPUS, Run, integer
 
 # What openssl calls otherwise, and the names that it gives to parts without a name of their own.
 NAMES = {"eContentType": "contentType", "eContent": "content", "data": "content", "object": "type",
@@ -64,9 +64,9 @@ class Messages(unittest.TestCase):
         # openssl takes the digest algorithm of authenticated data to be mandatory and not to be tagged.
         paths = [path for path in sorted((CORPUS / "pkcs7contentinfo").glob("*.der"))
                  if not path.name.startswith(("other", "made", "authenticated"))]
-        code, out, err = quarn("decode", "--lines", "--type", "ContentInfo", *paths)
-        self.assertEqual((code, err), (0, ""))
-        records = [json.loads(line)["value"] for line in out.splitlines()]
+        run = Run("decode", "--lines", "--type", "ContentInfo", *map(str, paths))
+        self.assertEqual((run.code, run.err), (0, ""))
+        records = [record["value"] for record in run.records()]
         fields = 0
         with ThreadPoolExecutor(4) as pool:
             for path, value, expected in zip(paths, records, pool.map(printed, paths), strict=True):
