@@ -1,7 +1,6 @@
 """Messages that openssl, GnuPG and GnuTLS make, CMS and PKCS #7, whole and what their ContentInfo holds."""
 
 import contextlib
-import hmac
 import itertools
 import pathlib
 import tempfile
@@ -17,9 +16,7 @@ HELD = {"1.2.840.113549.1.7.2": "pkcs7signeddata", "1.2.840.113549.1.7.3": "cmse
         "1.2.840.113549.1.9.16.1.2": "cmsauthdata"}
 FOLDERS = ("pkcs7contentinfo", *HELD.values())
 PASSPHRASE = b"a\n"
-KEY = "000102030405060708090a0b0c0d0e0f"
-
-SECRET = f"-secretkey {KEY}"
+SECRET = "-secretkey 000102030405060708090a0b0c0d0e0f"
 SIGNER = "-signer ca_{0}.pem -inkey {0}.key"
 SIGNERS = ["rsa", "ec", "dsa", "pss", "rsa3"]
 WAYS = ["", "-nodetach", "-nodetach -noattr", "-nodetach -nocerts -keyid", "-nodetach -cades", "-nodetach -nosmimecap",
@@ -70,8 +67,7 @@ def recipes():
         yield command, f"cms -{command} -in text -binary"
     yield "smime_detached", f"smime -sign -in text {SIGNER.format('rsa')}"
     yield "smime_stream", f"smime -sign -in text -nodetach -stream -indef {SIGNER.format('rsa')}"
-    yield "smime_for_rsa", "smime -encrypt -in text -des3 ca_rsa.pem"
-    yield "smime_for_two", "smime -encrypt -in text -aes256 ca_rsa.pem ca_rsa3.pem"
+    yield "smime_for_two", "smime -encrypt -in text -des3 ca_rsa.pem ca_rsa3.pem"
     for (name, way), key in itertools.product(CERTTOOL.items(), ("rsa", "ec")):
         yield f"certtool_{key}_{name}", (f"certtool --p7-{way} --load-certificate ca_{key}.pem"
                                          f" --load-privkey {key}.key --infile text")
@@ -119,16 +115,8 @@ def content_info(kind, content):
     return sequence(oid(kind), context(0, content))
 
 
-def algorithm(kind):
-    return sequence(oid(kind))
-
-
 def attribute(kind, value):
     return sequence(oid(kind), set_of(value))
-
-
-def retagged(number, element):
-    return context(number, der.Element(element).content)
 
 
 def parts_of(path):
@@ -147,26 +135,10 @@ def countersigned(signer, work, times):
     digest = der.openssl("dgst", "-sha256", "-binary", data=signature)
     attributes = set_of(attribute("1.2.840.113549.1.9.4", octet_string(digest)))
     signed = der.openssl("dgst", "-sha256", "-sign", "ec.key", cwd=work, data=attributes)
-    own = sequence(integer(1), parts[1].octets, algorithm(sha256), retagged(0, attributes),
-                   algorithm("1.2.840.10045.4.3.2"), octet_string(signed))
+    own = sequence(integer(1), parts[1].octets, sequence(oid(sha256)), context(0, der.Element(attributes).content),
+                   sequence(oid("1.2.840.10045.4.3.2")), octet_string(signed))
     own = countersigned(own, work, times - 1)
     return sequence(*[part.octets for part in parts], context(1, attribute("1.2.840.113549.1.9.6", own)))
-
-
-def authenticated(work, *attributes):
-    """By a key that openssl wraps (RFC 3394) in the one that is known to the recipient."""
-    secret = bytes(range(40, 56))
-    wrapped = der.openssl("enc", "-aes128-wrap", "-K", KEY, "-iv", "A6" * 8, data=secret)
-    recipient = context(2, integer(4), sequence(octet_string(b"\x0a")), algorithm("2.16.840.1.101.3.4.1.5"),
-                        octet_string(wrapped))
-    content = (work / "text").read_bytes()
-    covered = set_of(*attributes) if attributes else content
-    tail = [retagged(2, covered)] if attributes else []
-    return content_info("1.2.840.113549.1.9.16.1.2", sequence(
-        integer(0), set_of(recipient), algorithm("1.2.840.113549.2.9"),
-        *[retagged(1, algorithm("2.16.840.1.101.3.4.2.1"))] * len(tail),
-        sequence(oid("1.2.840.113549.1.7.1"), context(0, octet_string(content))), *tail,
-        octet_string(hmac.digest(secret, covered, "sha256"))))
 
 
 def built(folder, work):
@@ -178,13 +150,8 @@ def built(folder, work):
             *head, set_of(countersigned(signer, work, times))))
     lists = [path.read_bytes() for path in sorted((folder / "x509crl").glob("[er]*.der"))]
     yield "signed_with_lists", content_info("1.2.840.113549.1.7.2", sequence(*head, context(1, *lists), signers))
-    digest = der.openssl("dgst", "-sha256", "-binary", data=(work / "text").read_bytes())
-    yield "authenticated", authenticated(work)
-    yield "authenticated_attributes", authenticated(
-        work, attribute("1.2.840.113549.1.9.3", oid("1.2.840.113549.1.7.1")),
-        attribute("1.2.840.113549.1.9.4", octet_string(digest)))
     yield "compressed", content_info("1.2.840.113549.1.9.16.1.9", sequence(
-        integer(0), algorithm("1.2.840.113549.1.9.16.3.8"), sequence(
+        integer(0), sequence(oid("1.2.840.113549.1.9.16.3.8")), sequence(
             oid("1.2.840.113549.1.7.1"),
             context(0, octet_string(zlib.compress((work / "text").read_bytes()))))))
 
