@@ -234,7 +234,8 @@ class Dump(Case):
                 ("0209008000000000000000", "INTEGER (9 octets) 00 80 00 00 00 00 00 00 00"),
                 ("0200", "INTEGER (no INTEGER)"), ("03020520", "BIT STRING (3 bits) '001'B"),
                 ("03020920", "BIT STRING (no BIT STRING) 09 20"), ("0500", "NULL"),
-                ("0603550403", "OID 2.5.4.3 commonName"), ("060388370a", "OID 2.999.10"),
+                ("060388370a", "OID 2.999.10"), ("06082b06010505070201", "OID 1.3.6.1.5.5.7.2.1 cps (policy qualifier: "
+                 "certification practice statement)"),
                 ("06028001", "OID (no OID that can be shown) 80 01"), ("0d0187", "RELATIVE-OID (no RELATIVE-OID that can be shown) 87"),
                 ("170d3439313233313233353935395a", "UTCTime 2049-12-31 23:59:59 UTC"),
                 ("170d3530303130313030303030305a", "UTCTime 1950-01-01 00:00:00 UTC"),
