@@ -1,17 +1,17 @@
 """What LDAP clients and a server say to each other, cut into messages.
 
-A server with an empty database runs in a temporary folder, behind a socket that writes down what passes. No port is
-used, and nothing outside the folder is read but the server's modules and schemas.
+A server with an empty database runs in a temporary folder, behind a socket there; what the clients read and write is
+in what they print for debugging. No port is used, and nothing outside the folder is read but the server's modules and
+schemas.
 """
 
+import contextlib
 import pathlib
-import select
+import re
 import shutil
 import socket
-import socketserver
 import subprocess
 import tempfile
-import threading
 import time
 import urllib.parse
 
@@ -103,24 +103,18 @@ FOLDER = "ldapmessage"
 OPERATIONS = {*range(17), 19, 23, 24, 25}
 
 
-class Recorder(socketserver.BaseRequestHandler):
-    """Passes on what is said at one socket to another, and keeps what each side of each connection said."""
+PRINTED = re.compile(r"^ldap_(read|write): |^  [0-9a-f]{4}:  ((?:[0-9a-f]{2}  ?)+)", re.M)
 
-    def handle(self):
-        with socket.socket(socket.AF_UNIX) as server:
-            server.connect(self.server.there)
-            said = {self.request: bytearray(), server: bytearray()}
-            self.server.said += said.values()
-            while True:
-                for speaker in select.select(list(said), [], [])[0]:
-                    try:
-                        octets = speaker.recv(65536)
-                        said[speaker] += octets
-                        (server if speaker is self.request else self.request).sendall(octets)
-                    except ConnectionError:  # one side went away without reading all
-                        octets = b""
-                    if not octets:
-                        return
+
+def messages(printed):
+    """What a client says that it wrote and read."""
+    said, way = {"read": b"", "write": b""}, ""
+    for match in PRINTED.finditer(printed):
+        way = match[1] or way
+        said[way] += bytes.fromhex(match[2] or "")
+    with contextlib.suppress(IndexError):  # it ended before it had read all
+        yield from elements(said["write"])
+        yield from elements(said["read"])
 
 
 def wait_for(path):
@@ -134,21 +128,18 @@ def wait_for(path):
 
 def run(work):
     (work / "slapd.conf").write_text(CONFIGURATION.format(work))
-    there, here = str(work / "server"), str(work / "recorder")
-    with open(work / "log", "wb") as log:
-        server = subprocess.Popen(["/usr/sbin/slapd", "-d", "0", "-f", work / "slapd.conf", "-h",
-                                   "ldapi://" + urllib.parse.quote(there, "")], stdout=log, stderr=log)
+    path, heard = str(work / "server"), []
+    address = "ldapi://" + urllib.parse.quote(path, "")
+    server = subprocess.Popen(["/usr/sbin/slapd", "-d", "0", "-f", work / "slapd.conf", "-h", address],
+                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     try:
-        wait_for(there)
-        with socketserver.ThreadingUnixStreamServer(here, Recorder) as recorder:
-            recorder.there, recorder.said = there, []
-            threading.Thread(target=recorder.serve_forever, args=(0.05,), daemon=True).start()
-            for command, entered in COMMANDS:
-                tool, *arguments = [word.strip("'") for word in command.split(" ") if word]
-                subprocess.run([tool, "-H", "ldapi://" + urllib.parse.quote(here, ""), *arguments],
-                               input=entered.encode(), capture_output=True, timeout=30, check=False)
-            recorder.shutdown()
-        return [message for said in recorder.said for message in elements(said)]
+        wait_for(path)
+        for command, entered in COMMANDS:
+            tool, *arguments = [word.strip("'") for word in command.split(" ") if word]
+            done = subprocess.run([tool, "-d", "2", "-H", address, *arguments], input=entered.encode(),
+                                  capture_output=True, timeout=30, check=False)
+            heard += messages(done.stderr.decode("utf-8", "replace"))
+        return heard
     finally:
         server.terminate()
         server.wait(10)
