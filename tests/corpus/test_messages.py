@@ -66,15 +66,12 @@ class Messages(unittest.TestCase):
         run = Run("decode", "--lines", "--type", "ContentInfo", *map(str, paths))
         self.assertEqual((run.code, run.err), (0, ""))
         records = [record["value"] for record in run.records()]
-        fields = 0
         with ThreadPoolExecutor(4) as pool:
             for path, value, expected in zip(paths, records, pool.map(printed, paths), strict=True):
                 with self.subTest(path.name):
                     kind = value["contentType"]["oid"]
                     self.assertEqual([expected[0][1]] if kind in UNKNOWN else list(named(value)),
                                      [kind] if kind in UNKNOWN else expected)
-                    fields += len(expected)
-        print(f"messages: {fields} fields of {len(paths)} are what openssl says")
         self.assertGreaterEqual(len(paths), 150)
 
 
