@@ -3,8 +3,6 @@ lies inside any object and an OBJECT IDENTIFIER tells the type of: extensions, a
 
 import base64
 import contextlib
-import itertools
-import re
 import socket
 import struct
 from concurrent.futures import ThreadPoolExecutor
@@ -30,7 +28,7 @@ ess_cert_id_alg = {}
 INDEX = "V\t300101000000Z\t\t01\tunknown\t/CN=x\nR\t300101000000Z\t240101120000Z,keyCompromise\t02\tunknown\t/CN=y\n"
 
 
-# Type and command that writes its encoding to standard output; {a|b} stands for one line with each.
+# Type and command that writes its encoding to standard output; {a|b} stands for either.
 RECIPES = """
 pkcs8privatekeyinfo pkcs8 -topk8 -nocrypt -in {three|explicit|rsa|psslimited|ec|ed25519|x448|dsa|dh}.key -outform DER
 pkcs1rsaprivkey rsa -in {rsa|three}.key -traditional -outform DER
@@ -58,12 +56,6 @@ tsp_timestampresp ts -reply -queryfile query -config tsa{0|1|2|3|4} -section tsa
 tsp_timestampresp ts -reply -queryfile refused -config tsa0 -section tsa -signer tsa.pem -inkey ec.key
 pkcs7contentinfo cms -sign -in text -outform DER -signer ca_rsa.pem -inkey rsa.key -cades -keyopt rsa_padding_mode:pss
 """
-
-
-def recipes():
-    for line in RECIPES.strip().split("\n"):
-        for parts in itertools.product(*[part.split("|") for part in re.split("[{}]", line)]):
-            yield "".join(parts).split()
 
 
 # The types of what stands behind these OBJECT IDENTIFIERs (RFC 5280, 3739, 5755, 8551, 5035 and others).
@@ -184,9 +176,9 @@ def prepare(work):
 def made(work, refused):
     """Type and octets of all that openssl makes here, with the keys and authorities in the folder."""
     prepare(work)
-    for kind, *command in recipes():
+    for kind, _, command in der.recipes(RECIPES):
         try:
-            octets = der.openssl(*command, cwd=work)
+            octets = der.openssl(*command.split(), cwd=work)
         except RuntimeError as error:
             refused.append(str(error).splitlines()[0])
             continue

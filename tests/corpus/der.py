@@ -1,5 +1,7 @@
 """A small builder and reader of DER, so that the corpus needs no word of the library it tests."""
 
+import itertools
+import re
 import subprocess
 
 
@@ -120,3 +122,11 @@ def run(*command, cwd=None, data=b""):
 
 def openssl(*arguments, **options):
     return run("openssl", *arguments, **options)
+
+
+def recipes(lines):
+    """First word, number and rest of each line, once for each choice out of every {a|b} in it."""
+    for line in lines.strip().split("\n"):
+        name, _, command = line.partition(" ")
+        for number, parts in enumerate(itertools.product(*[part.split("|") for part in re.split("[{}]", command)])):
+            yield name, number, "".join(parts)

@@ -205,9 +205,9 @@ class Maker:
             (self.work / f"{name}.number").write_text("0A\n" if name != "large" else "7F" + "FF" * 19 + "\n")
             self.job("x509crl", name, f"ca -gencrl -config corpus.cnf -name crl_of_{name} -out {name}.crl {more}")
 
-    def messages(self, recipes):
+    def messages(self, lines):
         (self.work / "text").write_text("some text\n" * 100)
-        for name, command in recipes:
+        for name, command in messages.recipes(lines):
             self.job(messages.FOLDERS[0], name, command)
 
     def prepare(self, pool):
@@ -261,14 +261,14 @@ class Maker:
     def make(self, source):
         for recipes in (self.extensions, self.keys, self.signatures, self.names, self.requests, self.crls):
             recipes()
-        self.messages(messages.recipes())
+        self.messages(messages.RECIPES)
         with ThreadPoolExecutor(4) as pool:
             self.prepare(pool)
-            with messages.keyring(self.work) as home:
-                self.messages(messages.of_gpgsm(home))
+            with messages.keyring(self.work) as user:
+                self.messages(messages.GPGSM.replace("USER", user))
                 list(pool.map(self.run, self.jobs))
             self.jobs = []
-            self.messages(messages.of_others())
+            self.messages(messages.OTHERS)
             list(pool.map(self.run, self.jobs))
             for path in self.work.glob("*.crl"):  # openssl writes them in PEM only
                 (self.folder / "x509crl" / f"{path.stem}.der").write_bytes(from_pem(path))
