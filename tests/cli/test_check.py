@@ -189,7 +189,8 @@ class RealFiles(Case):
                 "cms -sign -in data -signer cert.pem -inkey key.pem -outform PEM -out cms.pem -nodetach -binary",
                 "req -new -key key.pem -subj /CN=r -out req.pem", "crl2pkcs7 -nocrl -certfile cert.pem -out p7.pem",
                 "pkcs8 -topk8 -in key.pem -passout pass:x -out encrypted.pem",
-                "pkey -in key.pem -pubout -out public.pem", "rsa -in key.pem -traditional -out rsa.pem", "x509 -in cert.pem -trustout -addtrust serverAuth -out trusted.pem"]:
+                "pkey -in key.pem -pubout -out public.pem", "ecparam -name prime256v1 -genkey -noout -out ec.pem",
+                "x509 -in cert.pem -trustout -addtrust serverAuth -out trusted.pem"]:
             der.openssl(*command.split(), cwd=self.path)
         for path in self.path.glob("*.pem"):
             text = path.read_text().replace("BEGIN CMS", "BEGIN PKCS7").replace("END CMS", "END PKCS7")

