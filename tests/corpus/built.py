@@ -70,7 +70,8 @@ def crls():
     indirect = extension("2.5.29.28", sequence(context(4, b"\xff", primitive=True)), critical=True)
     yield "no_next_update_v1", crl(sequence(entry(5)), version=0, after=b"")
     yield "empty_list", crl(sequence(), number)
-    yield "other_issuers", crl(sequence(entry(1, other, reason), entry(-2, other, when=END), entry(3)), number + indirect)
+    entries = sequence(entry(1, other, reason), entry(-2, other, when=END), entry(3))
+    yield "other_issuers", crl(entries, number + indirect)
 
 
 # ---- Attribute certificates

@@ -41,7 +41,7 @@ ecprivatekey ec -in {ec|explicit|sm2}.key -outform DER
 ecpkparameters ecparam -name {sect163k1|SM2} -param_enc {named_curve|explicit} -outform DER
 dssparams dsaparam -in dsa.params -outform DER
 pkcs3dhpraram dhparam -outform DER {-in dh.params|-dsaparam 512}
-pkcs12pfx pkcs12 -export -in ca_ec.pem -inkey ec.key -passout pass:a {|-nomac|-keypbe NONE -certpbe NONE|-iter 1|-nokeys\
+pkcs12pfx pkcs12 -export -in ca_ec.pem -inkey ec.key -passout pass:a {|-nomac|-keypbe NONE -certpbe NONE|-nokeys\
 |-certfile ca_rsa.pem -name one -caname two -CSP three -keyex|-keypbe PBE-SHA1-3DES -certpbe PBE-SHA1-3DES -macalg sha1}
 ecdsasigvalue dgst -sha256 -sign ec.key text
 ecdsasigvalue pkeyutl -sign -rawin -digest sm3 -inkey sm2.key -in text

@@ -23,7 +23,8 @@ signed cms -sign -in text -binary {%rsa|%ec|%dsa|%pss|%rsa3} {|-nodetach|-nodeta
 |-nodetach -certfile ca_ed448.pem\
 |-nodetach -receipt_request_all -receipt_request_to a@example.com -receipt_request_from b@example.com}
 hashed cms -sign -in text -nodetach -md {sha1|sha224|sha384|sha512} {%rsa|%ec}
-several cms -sign -in text {-nodetach|-nodetach -stream -indef|-keyid} {%rsa %ec|%ec %dsa %rsa|%rsa %rsa3 %rsaodd %ec %dsa}
+several cms -sign -in text {-nodetach|-nodetach -stream -indef|-keyid} {%rsa %ec\
+|%ec %dsa %rsa|%rsa %rsa3 %rsaodd %ec %dsa}
 enveloped cms -encrypt -in text -binary {-aes128|-des3|-camellia128|-aes256 -stream -indef} {-recip ca_rsa.pem\
 |-keyid -recip ca_rsa.pem|-recip ca_rsa.pem -keyopt rsa_padding_mode:oaep|-recip ca_rsa3.pem -keyopt \
 rsa_padding_mode:oaep -keyopt rsa_oaep_md:sha256 -keyopt rsa_oaep_label:0A0B|-recip ca_ec.pem|-keyid -recip ca_ec.pem\
