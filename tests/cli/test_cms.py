@@ -20,7 +20,6 @@ MESSAGES = [  # name, command, type, names of the parts
     ("signed", f"{SIGN} -nodetach", "SignedData", SIGNED),
     ("pieces", f"{SIGN} -nodetach -stream -indef", "SignedData", SIGNED),
     ("keyid", f"{SIGN} -nodetach -keyid -cades -nocerts", "SignedData", SIGNED.replace(" certificates", "")),
-    ("pkcs7", "smime -sign -binary -nodetach -in content -signer a.pem -inkey a.key", "SignedData", SIGNED),
     ("detached", SIGN, "SignedData", SIGNED),
     ("enveloped", f"cms -encrypt -binary -in content -aes256 {KEY} -secretkeyid 0102 -pwri_password x -recip a.pem",
      "EnvelopedData", "version recipientInfos encryptedContentInfo"),
@@ -29,7 +28,7 @@ MESSAGES = [  # name, command, type, names of the parts
     ("digested", "cms -digest_create -binary -in content", "DigestedData",
      "version digestAlgorithm contentInfo digest"),
     ("data", "cms -data_create -binary -in content", "ContentInfo", "contentType")]
-CLEAR = ("signed", "pieces", "keyid", "pkcs7", "digested", "data")
+CLEAR = ("signed", "pieces", "keyid", "digested", "data")
 CONTENT = bytes(range(256)) * 700
 SIGNED_LINES = r"""[0]  AlgorithmIdentifier 2.16.840.1.101.3.4.2.1 sha256
 contentInfo       ContentInfo at 44 to 179270, content of 179200 octets in the element at 65 to 179270

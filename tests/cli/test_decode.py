@@ -132,13 +132,6 @@ class Types(Case):
                 self.check(run, 0, *[f"--type could also be {other}\n"] * bool(other))
                 self.assertEqual((run.lines[0], bool(run.err)), (name, bool(other)))
 
-    def test_labels_tell_the_type(self):
-        pem = self.file("a.pem", "-----BEGIN PUBLIC KEY-----\nMAA=\n-----END PUBLIC KEY-----\n"
-                                 "-----BEGIN X-----\nMAwxCjAIBgEqDANhYmM=\n-----END X-----\n")
-        records = Run("decode", "--lines", pem).records()
-        self.assertEqual(len(records[0]["error"]["tried"]), 1)
-        self.assertEqual((records[1]["type"], records[1]["value"]["rfc4514"]), ("Name", "1.2=#0c03616263"))
-
     @unittest.skipUnless(shutil.which("openssl"), "no openssl to make certificates with")
     def test_certificates_of_openssl(self):
         command = "req -x509 -newkey rsa:1024 -nodes -keyout key -out cert -set_serial 0x123456789abcdef012 -utf8"

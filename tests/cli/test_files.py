@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Real files through the command: what certification authorities published and what openssl makes.
+"""Real files through the command.
 
 Environment: QUARN is the command, QUARN_CORPUS the folder that tests/corpus/make_corpus.py made. Files
 are handed to the command by the folder, so that a few runs cover hundreds of files.
@@ -22,7 +22,6 @@ import der  # noqa: E402
 CORPUS = pathlib.Path(os.environ.get("QUARN_CORPUS", "/nonexistent"))
 # An error, or a constructed element of a universal type without a name, which is shown only.
 NO_DOCUMENT = re.compile(r', "error": |"UNKNOWN", "user defined": \{"identifier": "\w+"\}')
-PUBLISHED = pathlib.Path("/usr/share/ca-certificates/mozilla")
 # Types, tags and times that real files do not have: from openssl asn1parse -genconf.
 STRANGE = bytes.fromhex(
     "307a1e060061006200631c0c000000640000006500000066180f32303530303130313030303030305a020a80000000000000"
@@ -104,13 +103,10 @@ class Files(Case):
         self.assertEqual(Run("der", data=documents.raw).raw, b"".join(files[name] for name in sorted(files)))
         return records
 
-    def test_real_files_come_back_octet_for_octet_from_der_and_from_pem(self):
+    def test_real_files_come_back_octet_for_octet(self):
         self.assertGreater(len(self.made), 50)
         records = self.check_same(self.made)
         self.assertEqual([name for name, found in records.items() if len(found) > 1], ["two"])
-        if PUBLISHED.is_dir():
-            labels = {record["label"] for found in self.records(str(PUBLISHED)).values() for record in found}
-            self.assertEqual(labels, {"CERTIFICATE"})
 
     def test_every_ber_form_of_a_file_comes_back_as_it_was(self):
         in_der = [name for name in self.made if b"\x30\x80" not in self.made[name]]

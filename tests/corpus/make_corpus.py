@@ -62,8 +62,8 @@ WORDS = ["O'Neil (a) +,-./:=?", "Größe", "e\u0301\u00ff", "漢字", "\U0001f51
 # What each way of writing strings can hold, at most.
 MASKS = {"utf8only": 0x10FFFF, "MASK:0x0800": 0xFFFF, "MASK:0x0004": 0xFF, "default": 0x10FFFF, "pkix": 0x7E}
 ATTRIBUTES = """C=DE ST=state L=place O=org OU=unit CN=common SN=surname GN=given initials=I title=T name=N
-serialNumber=7 dnQualifier=q pseudonym=p generationQualifier=Jr street=s postalCode=12345 telephoneNumber=+49-1 businessCategory=b
-description=d DC=example UID=u emailAddress=a@example.com unstructuredName=u unstructuredAddress=a
+serialNumber=7 dnQualifier=q pseudonym=p generationQualifier=Jr street=s postalCode=12345
+telephoneNumber=+49-1 businessCategory=b description=d DC=example UID=u emailAddress=a@example.com unstructuredName=u unstructuredAddress=a
 organizationIdentifier=o jurisdictionC=DE jurisdictionST=s jurisdictionL=l favouriteDrink=d rfc822Mailbox=m 1.2.3.4=x
 2.999.65535=x postOfficeBox=7 registeredAddress=r""".split()
 REASONS = ["unspecified", "keyCompromise", "CACompromise", "affiliationChanged", "superseded", "cessationOfOperation",
