@@ -48,14 +48,12 @@ objectClass: inetOrgPerson
 cn: x
 sn: y
 userPassword: secret
-employeeNumber: 7
 
 dn: ou=elsewhere,o=a
 objectClass: referral
 objectClass: extensibleObject
 ou: elsewhere
 ref: ldap://example.com/o=b
-ref: ldap://example.org/o=b
 """
 CHANGES = """
 dn: cn=x,o=a
@@ -63,9 +61,6 @@ changetype: modify
 add: description
 description: one
 description: two
--
-replace: sn
-sn: z
 -
 delete: description
 

@@ -89,12 +89,6 @@ def attribute(kind, value):
     return sequence(oid(kind), set_of(value))
 
 
-def parts_of(path):
-    """Type and components of what a ContentInfo holds, each as octets."""
-    kind, content = der.Element(path.read_bytes()).parts()
-    return kind, [part.octets for part in content.parts()[0].parts()]
-
-
 def countersigned(signer, work, times):
     """A SignerInfo with one more unsigned attribute, by the key called ec, that is countersigned itself."""
     if times == 0:
@@ -113,7 +107,8 @@ def countersigned(signer, work, times):
 
 def built(folder, work):
     """Name and octets."""
-    kind, (*head, signers) = parts_of(folder / FOLDERS[0] / "signed12.der")
+    message = der.Element((folder / FOLDERS[0] / "signed12.der").read_bytes())
+    *head, signers = [part.octets for part in message.parts()[1].parts()[0].parts()]
     signer = der.Element(signers).content
     for times in (1, 3):
         yield f"countersigned{times}", content_info("1.2.840.113549.1.7.2", sequence(

@@ -98,12 +98,10 @@ VERSIONED = {"validity", "requestList", "responderID"}  # what stands beside a v
 FLAGS = ("critical", "criticality", "dnAttributes", "cA", "certReq", "ordering", "onlyContainsUserCerts",
          "onlyContainsCACerts", "indirectCRL", "onlyContainsAttributeCerts")
 DEFAULTS = dict.fromkeys(FLAGS, False) | {
-            "primaryDistinguished": True, "minimum": 0, "iterations": 1, "saltLength": 20, "trailerField": 1,
-            "hashAlgorithm": SHA1, "prf": algorithm("1.2.840.113549.2.7", "hmacWithSHA1", NULL),
-            "maskGenAlgorithm": algorithm("1.2.840.113549.1.1.8", "mgf1",
-                                           {"type": "AlgorithmIdentifier", "value": SHA1}),
-            "pSourceAlgorithm": algorithm("1.2.840.113549.1.1.9", "pSpecified",
-                                           {"type": "OCTET STRING", "value": ""})}
+    "primaryDistinguished": True, "minimum": 0, "iterations": 1, "saltLength": 20, "trailerField": 1,
+    "hashAlgorithm": SHA1, "prf": algorithm("1.2.840.113549.2.7", "hmacWithSHA1", NULL),
+    "maskGenAlgorithm": algorithm("1.2.840.113549.1.1.8", "mgf1", {"type": "AlgorithmIdentifier", "value": SHA1}),
+    "pSourceAlgorithm": algorithm("1.2.840.113549.1.1.9", "pSpecified", {"type": "OCTET STRING", "value": ""})}
 
 
 def shown(value):
