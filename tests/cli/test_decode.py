@@ -105,6 +105,8 @@ class Types(Case):
         self.assertEqual(Run("decode", "--json", data=data).out, "")
         error = Run("decode", "--lines", data=data).records()[0]["error"]
         self.assertIn({"offset": 7}, [{"offset": each["offset"]} for each in error["tried"]])
+        wrong = b"-----BEGIN PUBLIC KEY-----\nMAA=\n-----END PUBLIC KEY-----\n"  # the label names the only type tried
+        self.assertEqual(len(Run("decode", "--lines", data=wrong).records()[0]["error"]["tried"]), 1)
         run = Run("decode", "-t", "Extension", data=data)
         self.check(run, 1, "offset 2 (0x2): found INTEGER", "path      extnID",
                    "expected  OBJECT IDENTIFIER, in a value of Extension", "0x1020a")

@@ -181,8 +181,7 @@ class Input(Case):
         names = [os.path.relpath(r["source"], self.path) for r in run.records()]
         self.assertEqual(names, ["a/bad\x1b\u202e", "a/z", "b"])
         self.assertNotIn("\x1b", run.out)
-        run = Run("dump", "-r", self.folder.name)
-        self.check(run, 5, r"a/bad\u{1B}\u{202E}")
+        self.check(Run("dump", "-r", self.folder.name), 5, r"a/bad\u{1B}\u{202E}")
 
 
 class Json(Case):
@@ -335,8 +334,7 @@ class Errors(Case):
 
 class Tables(Case):
     def test_types_are_found_by_part_of_the_name_and_by_pattern(self):
-        run = Run("types")
-        self.assertEqual(len(run.lines), 421)
+        self.assertEqual(len(Run("types").lines), 421)
         validity = Run("types", "validity").out
         for text in ("    Validity ::= SEQUENCE {\n", "stands in   TBSCertificate.validity", "quarn_x509validity_new"):
             self.assertIn(text, validity)
