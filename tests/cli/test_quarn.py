@@ -159,8 +159,8 @@ class Input(Case):
     def test_bad_text_is_refused_with_its_offset(self):
         for form, text, message in [("hex", b"30 0g", "offset 4: 'g' is no hexadecimal digit"),
                                     ("hex", b"300", "odd number"), ("base64", b"MAM*", "offset 3"),
-                                    ("pem", b"none", "holds no PEM block"),
-                                    ("auto", b"This is a letter.\n", "is text, but neither PEM")]:
+                                    ("pem", b"none", "holds no PEM block"), ("auto", b"A letter.\n", "is text, but"),
+                                    ("auto", b"!" * 511 + "ä".encode(), "is text, but neither PEM")]:
             with self.subTest(text):
                 self.check(Run("json", "--in-form", form, data=text), 1, message)
 
