@@ -160,7 +160,7 @@ class Input(Case):
         for form, text, message in [("hex", b"30 0g", "offset 4: 'g' is no hexadecimal digit"),
                                     ("hex", b"300", "odd number"), ("base64", b"MAM*", "offset 3"),
                                     ("pem", b"none", "holds no PEM block"), ("auto", b"A letter.\n", "is text, but"),
-                                    ("auto", b"!" * 511 + "ä".encode(), "is text, but neither PEM")]:
+                                    ("auto", b"!" * 510 + "€".encode(), "is text, but neither PEM")]:
             with self.subTest(text):
                 self.check(Run("json", "--in-form", form, data=text), 1, message)
 
