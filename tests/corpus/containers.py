@@ -14,13 +14,6 @@ KEYS = {
     "three": "-algorithm RSA -pkeyopt rsa_keygen_bits:2048 -pkeyopt rsa_keygen_primes:3",
     "explicit": "-algorithm EC -pkeyopt ec_paramgen_curve:P-384 -pkeyopt ec_param_enc:explicit",
 }
-CURVES = "secp256r1 sect163k1 brainpoolP256r1 SM2"
-CIPHERS = ["-v2 aes-256-cbc", "-v2 aes-128-cbc -v2prf hmacWithSHA1", "-v2 des3 -v2prf hmacWithSHA512", "-scrypt",
-           "-v1 PBE-SHA1-3DES", "-v1 PBE-MD5-DES -provider legacy -provider default",
-           "-v2 rc2-cbc -provider legacy -provider default"]
-FILES = ["", "-nomac", "-keypbe NONE -certpbe NONE", "-keypbe PBE-SHA1-3DES -certpbe PBE-SHA1-3DES -macalg sha1",
-         "-certfile ca_rsa.pem -name one -caname two -CSP three -keyex", "-maciter -iter 1", "-nokeys", "-nocerts"]
-QUERIES = ["", "-cert", "-cert -no_nonce -sha512", "-tspolicy 1.2.3", "-sha1"]
 REPLIES = ["sha256 ess_cert_id_chain = yes", "sha1 accuracy = secs:1, millisecs:500, microsecs:100",
            "sha512 ordering = yes", "sha256 clock_precision_digits = 3", "sha384 tsa_name = yes"]
 TSA = """[tsa]
@@ -35,43 +28,34 @@ ess_cert_id_alg = {}
 INDEX = "V\t300101000000Z\t\t01\tunknown\t/CN=x\nR\t300101000000Z\t240101120000Z,keyCompromise\t02\tunknown\t/CN=y\n"
 
 
-def recipes():
-    """Type and command that writes its encoding to standard output."""
-    for key in (*KEYS, "rsa", "psslimited", "ec", "sm2", "ed25519", "x448", "dsa", "dh"):
-        yield "pkcs8privatekeyinfo", f"pkcs8 -topk8 -nocrypt -in {key}.key -outform DER"
-    for key in ("rsa", "three"):
-        yield "pkcs1rsaprivkey", f"rsa -in {key}.key -traditional -outform DER"
-        yield "pkcs1rsapubkey", f"rsa -in {key}.key -RSAPublicKey_out -outform DER"
-    for cipher in CIPHERS:
-        yield "pkcs8encprivatekeyinfo", f"pkcs8 -topk8 -in ec.key -passout pass:a -outform DER {cipher}"
-    for key in ("ec", "explicit", "sm2"):
-        yield "ecprivatekey", f"ec -in {key}.key -outform DER"
-    for curve in CURVES.split():
-        for way in ("named_curve", "explicit"):
-            yield "ecpkparameters", f"ecparam -name {curve} -param_enc {way} -outform DER"
-    yield "dssparams", "dsaparam -in dsa.params -outform DER"
-    yield "pkcs3dhpraram", "dhparam -in dh.params -outform DER"
-    yield "pkcs3dhpraram", "dhparam -dsaparam -outform DER 512"
-    for way in FILES:
-        yield "pkcs12pfx", f"pkcs12 -export -in ca_ec.pem -inkey ec.key -passout pass:a {way}"
-    for key, kind in (("ec", "ecdsasigvalue"), ("dsa", "dsssigvalue")):
-        yield kind, f"dgst -sha256 -sign {key}.key text"
-    yield "ecdsasigvalue", "pkeyutl -sign -rawin -digest sm3 -inkey sm2.key -in text"
-    yield "sm2cipher", "pkeyutl -encrypt -inkey sm2.key -in text"
-    for way in ("", "-no_nonce", "-signer ca_rsa.pem -signkey rsa.key", "-signer ca_ec.pem -signkey ec.key -no_certs"):
-        yield "ocsp_ocsprequest", f"ocsp -issuer ca_ec.pem -serial 1 -serial 2 -serial 3 -reqout /dev/stdout {way}"
-    for way in ("", "-resp_key_id", "-resp_no_certs", "-ndays 1", "-badsig"):
-        yield "ocsp_ocspresponse", ("ocsp -index index -CA ca_ec.pem -rsigner ca_rsa.pem -rkey rsa.key -reqin request"
-                                    f" -respout /dev/stdout {way}")
-    for way in QUERIES:
-        yield "tsp_timestampreq", f"ts -query -data text {way}"
-    for number in range(len(REPLIES)):
-        yield "tsp_timestampresp", f"ts -reply -queryfile query -config tsa{number} -section tsa -signer tsa.pem -inkey ec.key"
-    yield "tsp_timestampresp", "ts -reply -queryfile refused -config tsa0 -section tsa -signer tsa.pem -inkey ec.key"
-    yield "pkcs7contentinfo", ("cms -sign -in text -outform DER -signer ca_rsa.pem -inkey rsa.key -cades"
-                               " -keyopt rsa_padding_mode:pss")
-    yield "pkcs7contentinfo", ("cms -encrypt -in text -outform DER -recip ca_rsa.pem -keyopt rsa_padding_mode:oaep"
-                               " -keyopt rsa_oaep_md:sha256 -keyopt rsa_oaep_label:0A0B -aes256")
+# Type and command that writes its encoding to standard output; {a|b} stands for either.
+RECIPES = """
+pkcs8privatekeyinfo pkcs8 -topk8 -nocrypt -in {three|explicit|rsa|psslimited|ec|ed25519|x448|dsa|dh}.key -outform DER
+pkcs1rsaprivkey rsa -in {rsa|three}.key -traditional -outform DER
+pkcs1rsapubkey rsa -in {rsa|three}.key -RSAPublicKey_out -outform DER
+pkcs8encprivatekeyinfo pkcs8 -topk8 -in ec.key -passout pass:a -outform DER {-scrypt|-v2 aes-256-cbc|-v1 PBE-SHA1-3DES\
+|-v2 aes-128-cbc -v2prf hmacWithSHA1}
+pkcs8encprivatekeyinfo pkcs8 -topk8 -in ec.key -passout pass:a -outform DER -provider legacy -provider default \
+{-v1 PBE-MD5-DES|-v2 rc2-cbc}
+ecprivatekey ec -in {ec|explicit|sm2}.key -outform DER
+ecpkparameters ecparam -name {sect163k1|SM2} -param_enc {named_curve|explicit} -outform DER
+dssparams dsaparam -in dsa.params -outform DER
+pkcs3dhpraram dhparam -outform DER {-in dh.params|-dsaparam 512}
+pkcs12pfx pkcs12 -export -in ca_ec.pem -inkey ec.key -passout pass:a {|-nomac|-keypbe NONE -certpbe NONE|-nokeys\
+|-certfile ca_rsa.pem -name one -caname two -CSP three -keyex|-keypbe PBE-SHA1-3DES -certpbe PBE-SHA1-3DES -macalg sha1}
+ecdsasigvalue dgst -sha256 -sign ec.key text
+ecdsasigvalue pkeyutl -sign -rawin -digest sm3 -inkey sm2.key -in text
+dsssigvalue dgst -sha256 -sign dsa.key text
+sm2cipher pkeyutl -encrypt -inkey sm2.key -in text
+ocsp_ocsprequest ocsp -issuer ca_ec.pem -serial 1 -serial 2 -reqout /dev/stdout {|-no_nonce\
+|-signer ca_rsa.pem -signkey rsa.key|-signer ca_ec.pem -signkey ec.key -no_certs}
+ocsp_ocspresponse ocsp -index index -CA ca_ec.pem -rsigner ca_rsa.pem -rkey rsa.key -reqin request -respout \
+/dev/stdout {|-resp_key_id|-resp_no_certs|-ndays 1}
+tsp_timestampreq ts -query -data text {|-cert|-cert -no_nonce -sha512|-tspolicy 1.2.3}
+tsp_timestampresp ts -reply -queryfile query -config tsa{0|1|2|3|4} -section tsa -signer tsa.pem -inkey ec.key
+tsp_timestampresp ts -reply -queryfile refused -config tsa0 -section tsa -signer tsa.pem -inkey ec.key
+pkcs7contentinfo cms -sign -in text -outform DER -signer ca_rsa.pem -inkey rsa.key -cades -keyopt rsa_padding_mode:pss
+"""
 
 
 # The types of what stands behind these OBJECT IDENTIFIERs (RFC 5280, 3739, 5755, 8551, 5035 and others).
@@ -106,11 +90,9 @@ HOLDERS = (0x04, 0x31, 0xA0)  # an OCTET STRING, a SET of one value, an explicit
 
 def elements(octets):
     """The elements that some octets are, or none when they are something else."""
-    try:
-        found = der.Element(der.wrap(0x30, octets)).parts()
-        return found if sum(len(each.octets) for each in found) == len(octets) else []
-    except IndexError:
-        return []
+    with contextlib.suppress(IndexError):
+        return der.elements(octets)
+    return []
 
 
 def inside(element):
@@ -179,15 +161,13 @@ def prepare(work):
         der.openssl(*command.split(), cwd=work)
     (work / "serial").write_text("0A")
     (work / "index").write_text(INDEX)
-    (work / "config").write_text("[req]\ndistinguished_name = person\n[person]\n"
-                                 "[stamps]\nextendedKeyUsage = critical, timeStamping\n")
     for number, words in enumerate(REPLIES):
         digest, _, line = words.partition(" ")
         (work / f"tsa{number}").write_text(TSA.format(digest, line))
     openssl("genpkey -genparam -algorithm DH -pkeyopt group:ffdhe2048 -out dh.params")
     for key, arguments in KEYS.items():
         openssl(f"genpkey {arguments} -out {key}.key")
-    openssl("req -x509 -new -key ec.key -config config -extensions stamps -subj /CN=tsa -out tsa.pem")
+    openssl("req -x509 -new -key ec.key -config corpus.cnf -extensions stamps -subj /CN=tsa -out tsa.pem")
     openssl("ocsp -issuer ca_ec.pem -serial 1 -serial 2 -serial 3 -reqout request")
     openssl("ts -query -data text -cert -out query")
     openssl("ts -query -data text -tspolicy 1.2.3.5 -out refused")
@@ -196,7 +176,7 @@ def prepare(work):
 def made(work, refused):
     """Type and octets of all that openssl makes here, with the keys and authorities in the folder."""
     prepare(work)
-    for kind, command in recipes():
+    for kind, _, command in der.recipes(RECIPES):
         try:
             octets = der.openssl(*command.split(), cwd=work)
         except RuntimeError as error:

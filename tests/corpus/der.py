@@ -1,15 +1,19 @@
 """A small builder and reader of DER, so that the corpus needs no word of the library it tests."""
 
+import itertools
+import re
 import subprocess
 
 
-def wrap(identifier, *parts):
+def wrap(identifier, *parts, indefinite=False):
     """One element: identifier octet (or octets), then the parts as its content."""
     content = b"".join(parts)
+    head = bytes([identifier]) if isinstance(identifier, int) else identifier
+    if indefinite:
+        return head + b"\x80" + content + b"\0\0"
     size = len(content)
     long = size.to_bytes((size.bit_length() + 7) // 8, "big")
-    length = bytes([size]) if size < 128 else bytes([0x80 | len(long)]) + long
-    return (bytes([identifier]) if isinstance(identifier, int) else identifier) + length + content
+    return head + (bytes([size]) if size < 128 else bytes([0x80 | len(long)]) + long) + content
 
 
 def sequence(*parts):
@@ -75,22 +79,33 @@ def extension(kind, value, critical=False):
 
 
 class Element:
-    """One element that is read: identifier octet, content, all octets of it."""
+    """One element of definite length that is read: first identifier octet, all of them, content, all octets of it."""
 
     def __init__(self, octets, at=0):
-        self.identifier = octets[at]
-        size, start = octets[at + 1], at + 2
+        self.identifier, start = octets[at], at + 1
+        if self.identifier & 0x1F == 0x1F:
+            while octets[start] & 0x80:
+                start += 1
+            start += 1
+        self.tag, size, start = octets[at:start], octets[start], start + 1
         if size & 0x80:
             start += size & 0x7F
-            size = int.from_bytes(octets[at + 2:start], "big")
+            size = int.from_bytes(octets[start - (size & 0x7F):start], "big")
+        if start + size > len(octets):
+            raise IndexError("an element is longer than what it is in")
         self.content, self.octets = octets[start:start + size], octets[at:start + size]
 
     def parts(self):
-        at, found = 0, []
-        while at < len(self.content):
-            found.append(Element(self.content, at))
-            at += len(found[-1].octets)
-        return found
+        return elements(self.content)
+
+
+def elements(octets):
+    """The elements that follow one another."""
+    at, found = 0, []
+    while at < len(octets):
+        found.append(Element(octets, at))
+        at += len(found[-1].octets)
+    return found
 
 
 def run(*command, cwd=None, data=b""):
@@ -107,3 +122,11 @@ def run(*command, cwd=None, data=b""):
 
 def openssl(*arguments, **options):
     return run("openssl", *arguments, **options)
+
+
+def recipes(lines):
+    """First word, number and rest of each line, once for each choice out of every {a|b} in it."""
+    for line in lines.strip().split("\n"):
+        name, _, command = line.partition(" ")
+        for number, parts in enumerate(itertools.product(*[part.split("|") for part in re.split("[{}]", command)])):
+            yield name, number, "".join(parts)

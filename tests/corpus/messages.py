@@ -1,9 +1,8 @@
 """Messages that openssl, GnuPG and GnuTLS make, CMS and PKCS #7, whole and what their ContentInfo holds."""
 
 import contextlib
-import hmac
-import itertools
 import pathlib
+import re
 import tempfile
 import zlib
 
@@ -17,80 +16,47 @@ HELD = {"1.2.840.113549.1.7.2": "pkcs7signeddata", "1.2.840.113549.1.7.3": "cmse
         "1.2.840.113549.1.9.16.1.2": "cmsauthdata"}
 FOLDERS = ("pkcs7contentinfo", *HELD.values())
 PASSPHRASE = b"a\n"
-KEY = "000102030405060708090a0b0c0d0e0f"
-
-SECRET = f"-secretkey {KEY}"
-SIGNER = "-signer ca_{0}.pem -inkey {0}.key"
-SIGNERS = ["rsa", "ec", "dsa", "pss", "rsa3"]
-WAYS = ["", "-nodetach", "-nodetach -noattr", "-nodetach -nocerts -keyid", "-nodetach -cades", "-nodetach -nosmimecap",
-        "-nodetach -econtent_type 1.2.3", "-nodetach -stream -indef", "-noattr -stream -indef",
-        "-nodetach -certfile ca_ed448.pem",
-        "-nodetach -receipt_request_all -receipt_request_to a@example.com -receipt_request_from b@example.com"]
-DIGESTS = ["sha1", "sha224", "sha384", "sha512", "sha3-256", "md5"]
-SEVERAL = ["rsa ec", "ec dsa rsa", "rsa rsa3 rsaodd ec dsa"]
-CIPHERS = ["aes128", "aes256", "des3", "camellia128", "aes-256-gcm"]
-RECIPIENTS = {
-    "rsa": "-recip ca_rsa.pem", "keyid": "-keyid -recip ca_rsa.pem",
-    "oaep": "-recip ca_rsa.pem -keyopt rsa_padding_mode:oaep",
-    "oaep256": "-recip ca_rsa3.pem -keyopt rsa_padding_mode:oaep -keyopt rsa_oaep_md:sha256"
-               " -keyopt rsa_oaep_label:0A0B",
-    "agreed": "-recip ca_ec.pem", "agreedkeyid": "-keyid -recip ca_ec.pem",
-    "agreed256": "-recip ca_ec.pem -keyopt ecdh_kdf_md:sha256 -wrap aes128-wrap",
-    "cofactor": "-recip ca_ec.pem -keyopt ecdh_cofactor_mode:1",
-    "kek": f"{SECRET} -secretkeyid 0A0B", "password": "-pwri_password a",
-    "several": f"-pwri_password a {SECRET} -secretkeyid 01 -recip ca_rsa.pem -recip ca_ec.pem -recip ca_rsaodd.pem",
-}
-CERTTOOL = {"sign": "sign", "time": "sign --p7-time", "include": "sign --p7-include-cert --hash SHA512",
-            "detached": "detached-sign"}
-GPGSM = {"sign": "--sign", "detached": "--detach-sign", "nocerts": "--sign --include-certs 0",
-         "sha512": "--sign --digest-algo SHA512", "encrypt": "--encrypt -r {0}",
-         "des3": "--encrypt --cipher-algo 3DES -r {0}"}
-
-
-def recipes():
-    """Name and command, which writes the file that follows -out."""
-    for (number, way), key in itertools.product(enumerate(WAYS), SIGNERS):
-        yield f"signed_{key}_{number}", f"cms -sign -in text -binary {SIGNER.format(key)} {way}"
-    for digest, key in itertools.product(DIGESTS, ("rsa", "ec")):
-        yield f"signed_{key}_{digest}", f"cms -sign -in text -nodetach -md {digest} {SIGNER.format(key)}"
-    for number, keys in enumerate(SEVERAL):
-        signers = " ".join(SIGNER.format(key) for key in keys.split())
-        for way in ("-nodetach", "-nodetach -stream -indef", "-keyid"):
-            yield f"several{number}{way[-6:]}", f"cms -sign -in text {way} {signers}"
-    for cipher, (name, recipient) in itertools.product(CIPHERS, RECIPIENTS.items()):
-        yield f"for_{name}_{cipher}", f"cms -encrypt -in text -binary -{cipher} {recipient}"
-    for name, recipient in RECIPIENTS.items():
-        yield f"stream_for_{name}", f"cms -encrypt -in text -binary -stream -indef -aes256 {recipient}"
-    for cipher, octets in (("aes128", 16), ("aes256", 32), ("des3", 24), ("camellia192", 24)):
-        yield f"encrypted_{cipher}", f"cms -EncryptedData_encrypt -in text -{cipher} -secretkey {'0A' * octets}"
-    for digest in DIGESTS:
-        yield f"digest_{digest}", f"cms -digest_create -in text -binary -md {digest}"
-    for command in ("digest_create", "data_create"):
-        yield f"stream_{command}", f"cms -{command} -in text -binary -stream -indef"
-        yield command, f"cms -{command} -in text -binary"
-    yield "smime_detached", f"smime -sign -in text {SIGNER.format('rsa')}"
-    yield "smime_stream", f"smime -sign -in text -nodetach -stream -indef {SIGNER.format('rsa')}"
-    yield "smime_for_rsa", "smime -encrypt -in text -des3 ca_rsa.pem"
-    yield "smime_for_two", "smime -encrypt -in text -aes256 ca_rsa.pem ca_rsa3.pem"
-    for (name, way), key in itertools.product(CERTTOOL.items(), ("rsa", "ec")):
-        yield f"certtool_{key}_{name}", (f"certtool --p7-{way} --load-certificate ca_{key}.pem"
-                                         f" --load-privkey {key}.key --infile text")
-    yield "certtool_certificate", "certtool --p7-generate --load-certificate ca_ec.pem"
+# Name and command, which writes the file that follows -out; {a|b} stands for either, %key for a signer.
+RECIPES = """
+signed cms -sign -in text -binary {%rsa|%ec|%dsa|%pss|%rsa3} {|-nodetach|-nodetach -noattr|-nodetach -nocerts -keyid\
+|-nodetach -cades|-nodetach -nosmimecap|-nodetach -econtent_type 1.2.3|-nodetach -stream -indef|-noattr -stream -indef\
+|-nodetach -certfile ca_ed448.pem\
+|-nodetach -receipt_request_all -receipt_request_to a@example.com -receipt_request_from b@example.com}
+hashed cms -sign -in text -nodetach -md {sha1|sha224|sha384|sha512} {%rsa|%ec}
+several cms -sign -in text {-nodetach|-nodetach -stream -indef|-keyid} {%rsa %ec\
+|%ec %dsa %rsa|%rsa %rsa3 %rsaodd %ec %dsa}
+enveloped cms -encrypt -in text -binary {-aes128|-des3|-camellia128|-aes256 -stream -indef} {-recip ca_rsa.pem\
+|-keyid -recip ca_rsa.pem|-recip ca_rsa.pem -keyopt rsa_padding_mode:oaep|-recip ca_rsa3.pem -keyopt \
+rsa_padding_mode:oaep -keyopt rsa_oaep_md:sha256 -keyopt rsa_oaep_label:0A0B|-recip ca_ec.pem|-keyid -recip ca_ec.pem\
+|-recip ca_ec.pem -keyopt ecdh_kdf_md:sha256 -wrap aes128-wrap|-recip ca_ec.pem -keyopt ecdh_cofactor_mode:1\
+|-secretkey 000102030405060708090a0b0c0d0e0f -secretkeyid 0A0B|-pwri_password a|-pwri_password a -secretkey \
+000102030405060708090a0b0c0d0e0f -secretkeyid 01 -recip ca_rsa.pem -recip ca_ec.pem -recip ca_rsaodd.pem}
+authenticated cms -encrypt -in text -binary -aes-256-gcm {|-keyid} {-recip ca_rsa.pem|-recip ca_ec.pem}
+encrypted cms -EncryptedData_encrypt -in text {-aes128|-camellia128} -secretkey 000102030405060708090a0b0c0d0e0f
+digest cms -digest_create -in text -binary {-md sha1|-md sha512|-md md5|-md sha3-256|-stream -indef}
+data cms -data_create -in text -binary {|-stream -indef}
+smime smime {-sign -in text|-sign -in text -nodetach -stream -indef} %rsa
+smime_for smime -encrypt -in text -des3 ca_rsa.pem ca_rsa3.pem
+certtool certtool --infile text --p7-{sign|sign --p7-time|sign --p7-include-cert --hash SHA512|detached-sign} \
+{--load-certificate ca_rsa.pem --load-privkey rsa.key|--load-certificate ca_ec.pem --load-privkey ec.key}
+certtool_certificate certtool --p7-generate --load-certificate ca_ec.pem
+"""
+GPGSM = """
+gpgsm gpgsm -u USER {--sign|--detach-sign|--sign --include-certs 0|--sign --digest-algo SHA512|--encrypt -r USER\
+|--encrypt --cipher-algo 3DES -r USER} text
+"""
+# Those made of other messages and lists.
+OTHERS = """
+resigned cms -resign -inform DER -in ../pkcs7contentinfo/{signed1|signed7}.der {%ec|%dsa}
+receipt cms -sign_receipt -inform DER -in ../pkcs7contentinfo/signed10.der -noverify %ec
+certificates crl2pkcs7 -nocrl -certfile ca_rsa.pem -certfile ca_ec.pem
+lists crl2pkcs7 -in all.crl -certfile ca_ec.pem
+"""
 
 
-def of_gpgsm(user):
-    for name, way in GPGSM.items():
-        yield f"gpgsm_{name}", f"gpgsm -u {user} {way.format(user)} text"
-
-
-def of_others():
-    """Those made of other messages and lists."""
-    message = f"../{FOLDERS[0]}/signed_rsa_"
-    yield "resigned", f"cms -resign -inform DER -in {message}1.der {SIGNER.format('ec')}"
-    yield "resigned_stream", f"cms -resign -inform DER -in {message}7.der {SIGNER.format('dsa')}"
-    yield "receipt", f"cms -sign_receipt -inform DER -in {message}10.der -noverify {SIGNER.format('ec')}"
-    yield "certificates", "crl2pkcs7 -nocrl -certfile ca_rsa.pem -certfile ca_ec.pem"
-    yield "lists", "crl2pkcs7 -in all.crl -certfile ca_ec.pem"
+def recipes(lines):
+    for name, number, command in der.recipes(lines):
+        yield f"{name}{number}", re.sub(r"%(\w+)", r"-signer ca_\1.pem -inkey \1.key", command)
 
 
 @contextlib.contextmanager
@@ -119,22 +85,8 @@ def content_info(kind, content):
     return sequence(oid(kind), context(0, content))
 
 
-def algorithm(kind):
-    return sequence(oid(kind))
-
-
 def attribute(kind, value):
     return sequence(oid(kind), set_of(value))
-
-
-def retagged(number, element):
-    return context(number, der.Element(element).content)
-
-
-def parts_of(path):
-    """Type and components of what a ContentInfo holds, each as octets."""
-    kind, content = der.Element(path.read_bytes()).parts()
-    return kind, [part.octets for part in content.parts()[0].parts()]
 
 
 def countersigned(signer, work, times):
@@ -147,44 +99,24 @@ def countersigned(signer, work, times):
     digest = der.openssl("dgst", "-sha256", "-binary", data=signature)
     attributes = set_of(attribute("1.2.840.113549.1.9.4", octet_string(digest)))
     signed = der.openssl("dgst", "-sha256", "-sign", "ec.key", cwd=work, data=attributes)
-    own = sequence(integer(1), parts[1].octets, algorithm(sha256), retagged(0, attributes),
-                   algorithm("1.2.840.10045.4.3.2"), octet_string(signed))
+    own = sequence(integer(1), parts[1].octets, sequence(oid(sha256)), context(0, der.Element(attributes).content),
+                   sequence(oid("1.2.840.10045.4.3.2")), octet_string(signed))
     own = countersigned(own, work, times - 1)
     return sequence(*[part.octets for part in parts], context(1, attribute("1.2.840.113549.1.9.6", own)))
 
 
-def authenticated(work, *attributes):
-    """By a key that openssl wraps (RFC 3394) in the one that is known to the recipient."""
-    secret = bytes(range(40, 56))
-    wrapped = der.openssl("enc", "-aes128-wrap", "-K", KEY, "-iv", "A6" * 8, data=secret)
-    recipient = context(2, integer(4), sequence(octet_string(b"\x0a")), algorithm("2.16.840.1.101.3.4.1.5"),
-                        octet_string(wrapped))
-    content = (work / "text").read_bytes()
-    covered = set_of(*attributes) if attributes else content
-    tail = [retagged(2, covered)] if attributes else []
-    return content_info("1.2.840.113549.1.9.16.1.2", sequence(
-        integer(0), set_of(recipient), algorithm("1.2.840.113549.2.9"),
-        *[retagged(1, algorithm("2.16.840.1.101.3.4.2.1"))] * len(tail),
-        sequence(oid("1.2.840.113549.1.7.1"), context(0, octet_string(content))), *tail,
-        octet_string(hmac.digest(secret, covered, "sha256"))))
-
-
 def built(folder, work):
     """Name and octets."""
-    kind, (*head, signers) = parts_of(folder / FOLDERS[0] / "signed_ec_1.der")
+    message = der.Element((folder / FOLDERS[0] / "signed12.der").read_bytes())
+    *head, signers = [part.octets for part in message.parts()[1].parts()[0].parts()]
     signer = der.Element(signers).content
     for times in (1, 3):
         yield f"countersigned{times}", content_info("1.2.840.113549.1.7.2", sequence(
             *head, set_of(countersigned(signer, work, times))))
     lists = [path.read_bytes() for path in sorted((folder / "x509crl").glob("[er]*.der"))]
     yield "signed_with_lists", content_info("1.2.840.113549.1.7.2", sequence(*head, context(1, *lists), signers))
-    digest = der.openssl("dgst", "-sha256", "-binary", data=(work / "text").read_bytes())
-    yield "authenticated", authenticated(work)
-    yield "authenticated_attributes", authenticated(
-        work, attribute("1.2.840.113549.1.9.3", oid("1.2.840.113549.1.7.1")),
-        attribute("1.2.840.113549.1.9.4", octet_string(digest)))
     yield "compressed", content_info("1.2.840.113549.1.9.16.1.9", sequence(
-        integer(0), algorithm("1.2.840.113549.1.9.16.3.8"), sequence(
+        integer(0), sequence(oid("1.2.840.113549.1.9.16.3.8")), sequence(
             oid("1.2.840.113549.1.7.1"),
             context(0, octet_string(zlib.compress((work / "text").read_bytes()))))))
 
@@ -211,9 +143,7 @@ FORMS = ["1.2.840.113549.1.7.2", None, "1.2.156.10197.6.1.4.2.2"]  # by the numb
 def framed(message, form, indefinite):
     """A message in one of the forms; a bit of `indefinite` for each level says how its length is written."""
     def level(number, identifier, *parts):
-        if indefinite >> number & 1:
-            return bytes([identifier, 0x80]) + b"".join(parts) + b"\0\0"
-        return der.wrap(identifier, *parts)
+        return der.wrap(identifier, *parts, indefinite=indefinite >> number & 1)
     version, digests, info, *others, signers = der.Element(message).parts()[1].parts()[0].parts()
     kind, *tagged = info.parts()
     if tagged:
@@ -242,7 +172,7 @@ def variants(folder):
         if octets[1] == 0x80:
             continue
         for form in range(3):
-            whole = path.stem in ("signed_ec_3", "signed_with_lists")
+            whole = path.stem in ("signed14", "signed_with_lists")
             for indefinite in range(1 << (6 if form == 1 else 8)) if whole else [0]:
                 yield f"{path.stem}.{form}.{indefinite}", framed(octets, form, indefinite)
 
