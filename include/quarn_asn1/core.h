@@ -31,8 +31,8 @@ enum quarn_asn1_result {
 /**
  * Encodes one value.
  *
- * Values that were put into one another's lists deeper than quarn_get_recursive_level() end with the
- * result QUARN_ERROR_RECURSION, which is not recorded; they have no length.
+ * Values that were put into one another's lists deeper than quarn_get_recursive_level() end with
+ * the result QUARN_ERROR_RECURSION, which is not recorded; they have no length.
  *
  * @param s        where to write; what was written before a failure stays there
  * @param type_id  a type id of quarn_asn1/ids.h
