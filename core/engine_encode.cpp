@@ -337,11 +337,7 @@ class Encoder {
                            (!wraps && (type.form == -1 ? length != kIndefinite : type.form != 0));
     const std::uint32_t tag_class = own ? type.tag_class : kContext;
     const std::uint64_t number = own && field.tag == 0 ? type.tag_number : field.tag;
-    if (write_short_header(out_, tag_class, primitive, number, length)) return Status::success();
-    Status status = write_identifier(out_, tag_class, primitive, static_cast<std::int64_t>(number));
-    if (!status) return note(schema, status, QUARN_ASN1_ERROR_WRITE_IDENTIFIER);
-    status = write_length(out_, length);
-    return note(schema, status, QUARN_ASN1_ERROR_WRITE_LENGTH);
+    return write_header(out_, schema.unit, tag_class, primitive, number, length);
   }
 
   // What follows identifier and length of a field. code is that of a failure inside it.
