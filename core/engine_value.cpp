@@ -240,29 +240,26 @@ void *alternative(const Type &type, const void *value, std::uint64_t number) {
 
 const Codec kRecordCodec = record_codec();
 
-constexpr Codec list_codec() {
+const Codec kListCodec = [] {
   Codec codec = record_codec();
   codec.decode_content = decode_list_value;
   return codec;
-}
-const Codec kListCodec = list_codec();
+}();
 
-constexpr Codec element_codec() {
-  Codec codec = list_codec();
+const Codec kElementCodec = [] {
+  Codec codec = record_codec();
   codec.decode_content = cannot_decode_content;
   codec.decode = decode_one_element;
   return codec;
-}
-const Codec kElementCodec = element_codec();
+}();
 
-constexpr Codec choice_codec() {
+const Codec kChoiceCodec = [] {
   Codec codec = record_codec();
   codec.decode_content = cannot_decode_content;
   codec.decode = decode_choice;
   codec.matches = choice_matches;
   codec.decode_rest = decode_choice_rest;
   return codec;
-}
-const Codec kChoiceCodec = choice_codec();
+}();
 
 }  // namespace quarn::asn1
