@@ -21,7 +21,7 @@ class SchemaCheck {
     if (!keeps_what_it_can(schema)) return false;
     switch (schema.kind) {
       case Kind::record:
-        return decidable(schema.fields);
+        return decidable(schema.fields) && content_is_one(schema);
       case Kind::open_tail:
         return ends_open(schema.fields);
       case Kind::list:
@@ -153,6 +153,26 @@ class SchemaCheck {
     return !fields.empty();
   }
 
+  // A message, whose content is in one of its components or is one, has no other content in it,
+  // however deep: decoding apart takes the first that comes.
+  constexpr bool content_is_one(const Schema &schema) const {
+    return contents(schema, 1, 0) == 0 || contents(schema, kManyLevels, 2) == 1;
+  }
+
+  // How many components are content; beyond: as how many count types that are deeper than levels.
+  constexpr int contents(const Schema &schema, int levels, int beyond) const {
+    int count = 0;
+    for (const Field &field : schema.fields) {
+      const Schema *inner = row(field).schema;
+      if (field.presence == Presence::content) {
+        count++;
+      } else if (inner != nullptr) {
+        count += levels == 0 ? beyond : contents(*inner, levels - 1, beyond);
+      }
+    }
+    return count;
+  }
+
   static constexpr bool ends_open(std::span<const Field> fields) {
     return fields.size() == 2 && fields[0].mandatory() && is_any(fields[1]) &&
            fields[0].tagging == Tagging::plain && fields[1].tagging == Tagging::plain &&
@@ -183,6 +203,8 @@ class SchemaCheck {
     }
     return !alternatives.empty();
   }
+
+  static constexpr int kManyLevels = 20;
 
   const Type *rows_;
 };
