@@ -3,6 +3,7 @@
 #include "quarn_asn1/types.h"
 #include "types/boolean.h"
 #include "types/codecs.h"
+#include "types/integer.h"
 #include "types/list.h"
 #include "types/string.h"
 #include "util/memory.h"
@@ -203,9 +204,7 @@ bool left_out(const Field &field, void *component) {
     return quarn_asn1_boolean_istrue(value) == field.default_value;
   }
   if (field.presence == Presence::default_integer) {
-    std::int64_t number = 0;
-    const auto *value = static_cast<const quarn_asn1_integer *>(component);
-    return quarn_asn1_integer_getlong(value, &number) == 1 && number == field.default_value;
+    return number_in(component) == field.default_value;
   }
   return encodes_to(type_of(field.type()), component, field.default_octets, field.default_value);
 }
