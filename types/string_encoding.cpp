@@ -36,8 +36,8 @@ Status read_unused_bits(const SegmentRules &rules,
 // quarn_get_recursive_level(); nothing large may stand in its frames.
 class Segments {
  public:
-  Segments(const SegmentRules &rules, Reader &in, Sink &sink)
-      : rules_(rules), in_(in), sink_(sink) {}
+  Segments(const SegmentRules &rules, Reader &in, Sink &sink, bool in_open_type = false)
+      : rules_(rules), in_(in), sink_(sink), in_open_type_(in_open_type) {}
 
   Status content(int level, bool primitive, std::int64_t length) {
     unused_bits_ = 0;
@@ -66,11 +66,14 @@ class Segments {
 
   Status indefinite(int level) {
     if (at_limit(level)) return note(rules_, Status::too_deep(), in_, rules_.indefinite_code);
+    // An open type has nothing in its innermost level; see pass_content().
+    const bool may_hold_segments = !in_open_type_ || !at_limit(level + 1);
     for (;;) {
       const std::uint32_t unused_before = unused_bits_;
       Segment segment{};
       Status status = read_segment(rules_, in_, segment);
       if (status && segment.is_end) return status;
+      if (status && !may_hold_segments) status = Status::too_deep();
       if (status) status = content(level + 1, segment.primitive, segment.length);
       if (status && unused_before != 0) status = fail(QUARN_ASN1_ERROR_UNUSED_BITS);
       if (!status) return note(rules_, status, in_, rules_.indefinite_code);
@@ -95,6 +98,7 @@ class Segments {
   const SegmentRules &rules_;
   Reader &in_;
   Sink &sink_;
+  bool in_open_type_;
   std::uint32_t unused_bits_ = 0;
 };
 
@@ -199,12 +203,13 @@ Status decode_string_content_into(const SegmentRules &rules,
 
 Status pass_octetstring_content(Reader &in,
                                 Writer *copy,
-                                int level,
+                                bool in_open_type,
                                 bool primitive,
                                 std::int64_t length,
                                 std::uint64_t &count) {
   Sink sink(copy);
-  const Status status = Segments(kOctetRules, in, sink).content(level, primitive, length);
+  Segments segments(kOctetRules, in, sink, in_open_type);
+  const Status status = segments.content(0, primitive, length);
   count = sink.count();
   return status;
 }

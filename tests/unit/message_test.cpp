@@ -243,10 +243,13 @@ TEST(Message, what_is_wrong_is_told_as_by_the_plain_decoder) {
   for (const Shape *shape : {&kShapes[0], &kShapes[4]}) {
     const int limit = quarn_get_recursive_level();
     for (int levels = limit - 4; levels <= limit + 1; levels++) {
-      const Octets octets = message(*shape, true, nested(0x24, levels, hex("04 01 41")));
-      const Held whole(shape->type, octets);
-      const Held rest(shape->type, apart(memory_stream(octets).get(), shape->type, nullptr).value);
-      EXPECT_EQ(rest.get() != nullptr, whole.get() != nullptr) << levels;
+      for (const Octets &innermost : {Octets{}, hex("04 01 41")}) {
+        const Octets octets = message(*shape, true, nested(0x24, levels, innermost));
+        const Held whole(shape->type, octets);
+        const Held rest(shape->type,
+                        apart(memory_stream(octets).get(), shape->type, nullptr).value);
+        EXPECT_EQ(rest.get() != nullptr, whole.get() != nullptr) << levels;
+      }
     }
   }
   // This one alone is refused that the plain decoder takes: no content can be made of it.
