@@ -114,7 +114,8 @@ inline Status write_header(Writer &out,
                            bool primitive,
                            std::uint64_t number,
                            std::int64_t length) {
-  if (write_short_header(out, tag_class, primitive, number, length)) return Status::success();
+  if (write_short_header(out, tag_class, primitive, number, length)) [[likely]]
+    return Status::success();
   return write_long_header(out, unit, tag_class, primitive, number, length);
 }
 

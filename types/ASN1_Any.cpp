@@ -35,6 +35,21 @@ Status copy_end_of_contents(Writer *copy) {
   return copy == nullptr ? Status::success() : copy->octets(kMarker, sizeof kMarker);
 }
 
+// Moves over one element inside so many open ones of indefinite length. One more of these counts as
+// open from its header on, until its end-of-contents comes.
+Status pass_element(Reader &in, Sink &sink, Writer *copy, int limit, int &open) {
+  Element element{};
+  const Status status = pass_header(in, element, copy);
+  if (!status) return status;
+  if (element.end_of_contents) return --open > 0 ? copy_end_of_contents(copy) : status;
+  if (open >= limit) return Status::too_deep();
+  if (element.content_length == kIndefinite) {
+    open++;
+    return status;
+  }
+  return sink.take(in, static_cast<std::uint64_t>(element.content_length), kUnit);
+}
+
 }  // namespace
 
 // An element counts as one level deeper than what it stands in, whatever its own form, so that the
@@ -43,24 +58,9 @@ Status pass_content(Reader &in, std::int64_t length, Writer *copy) {
   Sink sink(copy);
   if (length != kIndefinite) return sink.take(in, static_cast<std::uint64_t>(length), kUnit);
   const int limit = quarn_get_recursive_level();
-  for (int open = 1; open > 0;) {
-    Element element{};
-    Status status = pass_header(in, element, copy);
-    if (!status) return status;
-    if (element.end_of_contents) {
-      if (--open > 0) status = copy_end_of_contents(copy);
-      if (!status) return status;
-      continue;
-    }
-    if (open >= limit) return Status::too_deep();
-    if (element.content_length == kIndefinite) {
-      open++;
-      continue;
-    }
-    status = sink.take(in, static_cast<std::uint64_t>(element.content_length), kUnit);
-    if (!status) return status;
-  }
-  return Status::success();
+  Status status = Status::success();
+  for (int open = 1; status && open > 0;) status = pass_element(in, sink, copy, limit, open);
+  return status;
 }
 
 namespace {

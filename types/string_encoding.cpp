@@ -66,18 +66,21 @@ class Segments {
 
   Status indefinite(int level) {
     if (at_limit(level)) return note(rules_, Status::too_deep(), in_, rules_.indefinite_code);
-    // An open type has nothing in its innermost level; see pass_content().
-    const bool may_hold_segments = !in_open_type_ || !at_limit(level + 1);
     for (;;) {
       const std::uint32_t unused_before = unused_bits_;
       Segment segment{};
       Status status = read_segment(rules_, in_, segment);
       if (status && segment.is_end) return status;
-      if (status && !may_hold_segments) status = Status::too_deep();
-      if (status) status = content(level + 1, segment.primitive, segment.length);
+      if (status) status = inside_indefinite(level, segment);
       if (status && unused_before != 0) status = fail(QUARN_ASN1_ERROR_UNUSED_BITS);
       if (!status) return note(rules_, status, in_, rules_.indefinite_code);
     }
+  }
+
+  // An open type has nothing in its innermost level; see pass_content().
+  Status inside_indefinite(int level, const Segment &segment) {
+    if (in_open_type_ && at_limit(level + 1)) return Status::too_deep();
+    return content(level + 1, segment.primitive, segment.length);
   }
 
   Status definite(int level, std::uint64_t length) {
