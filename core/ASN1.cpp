@@ -53,15 +53,7 @@ Status write_header(const Type &type, Writer &out, std::int64_t length) {
     return kUnit.fail(out.ctx(), QUARN_ASN1_ERROR_ITEM_LENGTH, out.offset());
   }
   const bool primitive = type.form == -1 ? length != kIndefinite : type.form != 0;
-  if (write_short_header(out, type.tag_class, primitive, type.tag_number, length)) {
-    return Status::success();
-  }
-  Status status =
-      write_identifier(out, type.tag_class, primitive, static_cast<std::int64_t>(type.tag_number));
-  if (!status) return kUnit.pass_on(status, out.ctx(), QUARN_ASN1_ERROR_WRITE_IDENTIFIER);
-  status = write_length(out, length);
-  if (status) return status;
-  return kUnit.pass_on(status, out.ctx(), QUARN_ASN1_ERROR_WRITE_LENGTH);
+  return write_header(out, kUnit, type.tag_class, primitive, type.tag_number, length);
 }
 
 Status encode(const Type &type, Writer &out, void *value) {

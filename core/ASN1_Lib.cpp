@@ -137,6 +137,21 @@ Status write_length(Writer &out, std::int64_t length) {
   return out.octets(octets, static_cast<std::uint64_t>(count) + 1);
 }
 
+Status write_long_header(Writer &out,
+                         const Unit &unit,
+                         std::uint32_t tag_class,
+                         bool primitive,
+                         std::uint64_t number,
+                         std::int64_t length) {
+  Status status = write_identifier(out, tag_class, primitive, static_cast<std::int64_t>(number));
+  if (!status) {
+    return unit.pass_on(status, out.ctx(), QUARN_ASN1_ERROR_WRITE_IDENTIFIER, out.offset());
+  }
+  status = write_length(out, length);
+  if (status) return status;
+  return unit.pass_on(status, out.ctx(), QUARN_ASN1_ERROR_WRITE_LENGTH, out.offset());
+}
+
 Status write_end_of_contents(Writer &out) {
   if (out.is_null()) return kUnit.fail(out.ctx(), QUARN_ERROR_ARGUMENT);
   return out.octets(kEndOfContents, sizeof kEndOfContents);

@@ -108,7 +108,7 @@ inline bool is_one_element(const Type &type) {
 
 // ---- Inside the engine
 
-void free_record(const Type &type, void *value);
+void free_structured(const Type &type, void *value);
 
 // Whether a value's encoding is kept.
 inline bool is_kept(const Schema &schema, const void *value) {
@@ -171,7 +171,7 @@ Status encode_structured_content(const Type &type, Writer &out, void *value, std
 
 // The codec of records, for those that differ from it in a step or two.
 constexpr Codec record_codec() {
-  return {.free = free_record,
+  return {.free = free_structured,
           .content_length = structured_content_length,
           .length = structured_length,
           .encode_content = encode_structured_content,

@@ -10,6 +10,7 @@
 #include "core/engine.h"
 #include "types/any.h"
 #include "types/diversion.h"
+#include "types/integer.h"
 #include "types/list.h"
 #include "util/memory.h"
 
@@ -297,11 +298,8 @@ class RecordDecoder {
     if (!allowed(schema_, components_)) return refuse(schema_, in_.ctx(), in_.offset());
     const Field *selector = &field;
     while (selector->presence == Presence::selected) selector--;
-    const void *number = component[selector - &field];
-    std::int64_t selected = 0;
-    if (quarn_asn1_integer_getlong(static_cast<const quarn_asn1_integer *>(number), &selected) != 1)
-      return Status::success();
-    return selected == field.default_value ? take_named(field, *component) : Status::success();
+    const bool selected = number_in(component[selector - &field]) == field.default_value;
+    return selected ? take_named(field, *component) : Status::success();
   }
 
   // Says in which component a failure lies.

@@ -7,6 +7,8 @@
 //
 // Octets that a value keeps are noted and written as they are. A value that is to keep its octets
 // and does not is written into a block of exactly the measured size, which those inside it share.
+#include <climits>
+
 #include "core/engine.h"
 #include "core/lengths.h"
 #include "types/list.h"
@@ -47,19 +49,33 @@ class Sum {
 };
 
 // Walks a whole value, also when an early part has no definite length: each note has its place.
+// Values inside values are counted as by a decoder, so that no more is encoded than can be decoded:
+// callers can put lists into one another as deep as they like.
 class Measure {
  public:
-  explicit Measure(Lengths *lengths) : lengths_(lengths) {}
+  explicit Measure(Lengths *lengths)
+      : lengths_(lengths), levels_left_(quarn_get_recursive_level()) {}
+
+  // Whether what was measured can be written.
+  Status status(const Writer &out) const {
+    if (levels_left_ < 0) return Status::too_deep();
+    if (!lengths_->out_of_memory()) return Status::success();
+    return kUnit.fail(out.ctx(), QUARN_ERROR_NO_MEMORY, out.offset());
+  }
 
   std::int64_t content(const Type &type, void *value) {
+    if (at_depth_limit()) return kNoLength;
     if (type.schema == nullptr) return content_length_of(type, value);
     const std::size_t place = lengths_ == nullptr ? 0 : lengths_->reserve();
+    levels_left_--;
     const std::int64_t length = value == nullptr ? kNoLength : structured(*type.schema, value);
+    levels_left_++;
     if (lengths_ != nullptr) lengths_->set(place, length);
     return length;
   }
 
   std::int64_t element(const Type &type, void *value) {
+    if (at_depth_limit()) return kNoLength;
     if (type.schema == nullptr) return length_of(type, value);
     if (is_kept(*type.schema, value)) return as_kept(*kept_by(*type.schema, value));
     if (is_one_element(type)) return content(type, value);
@@ -67,6 +83,14 @@ class Measure {
   }
 
  private:
+  // Once it has been passed, nothing is looked into any more.
+  bool at_depth_limit() {
+    if (levels_left_ > 0) [[likely]]
+      return false;
+    levels_left_ = kPassed;
+    return true;
+  }
+
   std::int64_t as_kept(const Kept &kept) {
     if (lengths_ != nullptr) lengths_->add(kAsKept);
     return static_cast<std::int64_t>(kept.count);
@@ -116,7 +140,11 @@ class Measure {
     return field.tagging == Tagging::explicitly ? element(type, value) : content(type, value);
   }
 
+  // Stays negative on the way up.
+  static constexpr int kPassed = INT_MIN;
+
   Lengths *lengths_;
+  int levels_left_;
 };
 
 class Encoder {
@@ -309,11 +337,7 @@ class Encoder {
                            (!wraps && (type.form == -1 ? length != kIndefinite : type.form != 0));
     const std::uint32_t tag_class = own ? type.tag_class : kContext;
     const std::uint64_t number = own && field.tag == 0 ? type.tag_number : field.tag;
-    if (write_short_header(out_, tag_class, primitive, number, length)) return Status::success();
-    Status status = write_identifier(out_, tag_class, primitive, static_cast<std::int64_t>(number));
-    if (!status) return note(schema, status, QUARN_ASN1_ERROR_WRITE_IDENTIFIER);
-    status = write_length(out_, length);
-    return note(schema, status, QUARN_ASN1_ERROR_WRITE_LENGTH);
+    return write_header(out_, schema.unit, tag_class, primitive, number, length);
   }
 
   // What follows identifier and length of a field. code is that of a failure inside it.
@@ -335,10 +359,6 @@ class Encoder {
   SharedOctets *block_;
 };
 
-Status short_of_memory(const Writer &out) {
-  return kUnit.fail(out.ctx(), QUARN_ERROR_NO_MEMORY, out.offset());
-}
-
 }  // namespace
 
 std::int64_t structured_content_length(const Type &type, const void *value) {
@@ -356,17 +376,19 @@ Status encode_structured(const Type &type, Writer &out, void *value) {
     return out.octets(kept.octets, kept.count);
   }
   Lengths lengths;
-  Measure(&lengths).element(type, value);
-  if (lengths.out_of_memory()) return short_of_memory(out);
-  return Encoder(out, lengths).element(type, value);
+  Measure measure(&lengths);
+  measure.element(type, value);
+  const Status status = measure.status(out);
+  return status ? Encoder(out, lengths).element(type, value) : status;
 }
 
 Status encode_structured_content(const Type &type, Writer &out, void *value, std::int64_t length) {
   if (out.is_null() || value == nullptr) return kUnit.fail(out.ctx(), QUARN_ERROR_ARGUMENT);
   if (length < kIndefinite) return kUnit.fail(out.ctx(), QUARN_ERROR_RANGE, out.offset());
   Lengths lengths;
-  Measure(&lengths).content(type, value);
-  if (lengths.out_of_memory()) return short_of_memory(out);
+  Measure measure(&lengths);
+  measure.content(type, value);
+  if (const Status status = measure.status(out); !status) return status;
   static_cast<void>(lengths.next());  // the caller's stands in its place
   return Encoder(out, lengths).structured(type, value, length);
 }
@@ -377,9 +399,10 @@ const Kept *body_of(const Type &type, void *value) {
   const Type &body_type = type_of(type.schema->fields[0].type());
   void *first = component(value, 0);
   Lengths lengths;
-  Measure(&lengths).element(body_type, first);
-  if (lengths.out_of_memory()) return nullptr;
+  Measure measure(&lengths);
+  measure.element(body_type, first);
   Writer nowhere(std::span<std::uint8_t>{});
+  if (!measure.status(nowhere)) return nullptr;
   Encoder encoder(nowhere, lengths);
   return encoder.keeping(body_type, first, lengths.next(), body) ? &body : nullptr;
 }

@@ -3,6 +3,7 @@
 #include "quarn_asn1/types.h"
 #include "types/boolean.h"
 #include "types/codecs.h"
+#include "types/integer.h"
 #include "types/list.h"
 #include "types/string.h"
 #include "util/memory.h"
@@ -15,19 +16,52 @@ void drop_body(const Schema &schema, void *value) {
   if (schema.keeps_body()) kept_by(schema, value)[1].drop();
 }
 
-void free_list_value(const Type &type, void *value) {
-  const Schema &schema = *type.schema;
-  free_list(list_in(schema, value), type_of(schema.element()));
-  if (!schema.wraps_list()) return;
-  if (schema.layout != nullptr) free_value(*schema.layout, laid_out(value));
-  drop_encoding(schema, value);
-  quarn_free(value);
-}
+// Frees a value and what is in it. Lists wait until what they are in is gone: the stack grows with
+// components alone, which are copies and have a limit, and not with lists, which callers can put
+// into one another as deep as they like.
+class Freeing {
+ public:
+  void all(const Type &type, void *value) {
+    one(type, value);
+    while (!lists_.is_empty()) {
+      lists_.free_next([this](const Type &element, void *each) { one(element, each); });
+    }
+  }
 
-void free_choice(const Type &type, void *value) {
-  free_value(type_of(chosen(*type.schema, value).type()), static_cast<Choice *>(value)->value);
-  quarn_free(value);
-}
+ private:
+  void one(const Type &type, void *value) {
+    if (value == nullptr) return;
+    if (type.schema == nullptr) {
+      type.codec->free(type, value);
+    } else if (type.schema->is_list()) {
+      list(*type.schema, value);
+    } else if (type.schema->is_choice()) {
+      one(type_of(chosen(*type.schema, value).type()), static_cast<Choice *>(value)->value);
+      quarn_free(value);
+    } else {
+      record(*type.schema, value);
+    }
+  }
+
+  void list(const Schema &schema, void *value) {
+    quarn_asn1_list *list = list_in(schema, value);
+    if (list != nullptr) lists_.add(*list, type_of(schema.element()));
+    if (!schema.wraps_list()) return;
+    if (schema.layout != nullptr) one(*schema.layout, laid_out(value));
+    drop_encoding(schema, value);
+    quarn_free(value);
+  }
+
+  void record(const Schema &schema, void *value) {
+    drop_encoding(schema, value);
+    drop_body(schema, value);
+    void **component = components(value);
+    for (const Field &field : schema.fields) one(type_of(field.type()), *component++);
+    quarn_free(value);
+  }
+
+  WaitingLists lists_;
+};
 
 // Octets behind the components.
 std::size_t size_kept(const Schema &schema) {
@@ -54,13 +88,8 @@ std::uint64_t number_of(const Schema &schema, std::uint32_t index) {
 
 }  // namespace
 
-void free_record(const Type &type, void *value) {
-  const Schema &schema = *type.schema;
-  drop_encoding(schema, value);
-  drop_body(schema, value);
-  void **component = components(value);
-  for (const Field &field : schema.fields) free_value(type_of(field.type()), *component++);
-  quarn_free(value);
+void free_structured(const Type &type, void *value) {
+  Freeing().all(type, value);
 }
 
 void *new_record(const Schema &schema) {
@@ -111,21 +140,34 @@ void drop_encoding(const Schema &schema, void *value) {
   if (schema.keeps_octets()) kept_by(schema, value)->drop();
 }
 
-void drop_kept(const Type &type, void *value) {
-  if (value == nullptr || type.schema == nullptr) return;
+namespace {
+
+// Down to the limit of nesting. What lies deeper is never encoded, whatever it keeps.
+void drop_kept_to(int levels, const Type &type, void *value) {
+  if (levels == 0 || value == nullptr || type.schema == nullptr) return;
   const Schema &schema = *type.schema;
   drop_encoding(schema, value);
   drop_body(schema, value);
   if (schema.is_choice()) {
-    drop_kept(type_of(chosen(schema, value).type()), static_cast<Choice *>(value)->value);
+    const Type &inner = type_of(chosen(schema, value).type());
+    drop_kept_to(levels - 1, inner, static_cast<Choice *>(value)->value);
   } else if (schema.is_list()) {
+    const Type &inner = type_of(schema.element());
     const quarn_asn1_list *list = list_in(schema, value);
     const std::int32_t count = list == nullptr ? 0 : list->count;
-    for (std::int32_t i = 0; i < count; i++) drop_kept(type_of(schema.element()), list->items[i]);
+    for (std::int32_t i = 0; i < count; i++) drop_kept_to(levels - 1, inner, list->items[i]);
   } else {
     void **component = components(value);
-    for (const Field &field : schema.fields) drop_kept(type_of(field.type()), *component++);
+    for (const Field &field : schema.fields) {
+      drop_kept_to(levels - 1, type_of(field.type()), *component++);
+    }
   }
+}
+
+}  // namespace
+
+void drop_kept(const Type &type, void *value) {
+  drop_kept_to(quarn_get_recursive_level(), type, value);
 }
 
 bool take_default(const Field &field, void **component) {
@@ -162,9 +204,7 @@ bool left_out(const Field &field, void *component) {
     return quarn_asn1_boolean_istrue(value) == field.default_value;
   }
   if (field.presence == Presence::default_integer) {
-    std::int64_t number = 0;
-    const auto *value = static_cast<const quarn_asn1_integer *>(component);
-    return quarn_asn1_integer_getlong(value, &number) == 1 && number == field.default_value;
+    return number_in(component) == field.default_value;
   }
   return encodes_to(type_of(field.type()), component, field.default_octets, field.default_value);
 }
@@ -199,31 +239,26 @@ void *alternative(const Type &type, const void *value, std::uint64_t number) {
 
 const Codec kRecordCodec = record_codec();
 
-constexpr Codec list_codec() {
+const Codec kListCodec = [] {
   Codec codec = record_codec();
-  codec.free = free_list_value;
   codec.decode_content = decode_list_value;
   return codec;
-}
-const Codec kListCodec = list_codec();
+}();
 
-constexpr Codec element_codec() {
-  Codec codec = list_codec();
+const Codec kElementCodec = [] {
+  Codec codec = record_codec();
   codec.decode_content = cannot_decode_content;
   codec.decode = decode_one_element;
   return codec;
-}
-const Codec kElementCodec = element_codec();
+}();
 
-constexpr Codec choice_codec() {
+const Codec kChoiceCodec = [] {
   Codec codec = record_codec();
-  codec.free = free_choice;
   codec.decode_content = cannot_decode_content;
   codec.decode = decode_choice;
   codec.matches = choice_matches;
   codec.decode_rest = decode_choice_rest;
   return codec;
-}
-const Codec kChoiceCodec = choice_codec();
+}();
 
 }  // namespace quarn::asn1

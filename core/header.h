@@ -101,6 +101,24 @@ inline bool write_short_header(Writer &out,
   return true;
 }
 
+// Identifier and length. The unit records which of the two could not be written.
+Status write_long_header(Writer &out,
+                         const Unit &unit,
+                         std::uint32_t tag_class,
+                         bool primitive,
+                         std::uint64_t number,
+                         std::int64_t length);
+inline Status write_header(Writer &out,
+                           const Unit &unit,
+                           std::uint32_t tag_class,
+                           bool primitive,
+                           std::uint64_t number,
+                           std::int64_t length) {
+  if (write_short_header(out, tag_class, primitive, number, length)) [[likely]]
+    return Status::success();
+  return write_long_header(out, unit, tag_class, primitive, number, length);
+}
+
 }  // namespace quarn::asn1
 
 #endif

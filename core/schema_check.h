@@ -21,7 +21,7 @@ class SchemaCheck {
     if (!keeps_what_it_can(schema)) return false;
     switch (schema.kind) {
       case Kind::record:
-        return decidable(schema.fields);
+        return decidable(schema.fields) && content_is_one(schema);
       case Kind::open_tail:
         return ends_open(schema.fields);
       case Kind::list:
@@ -52,29 +52,41 @@ class SchemaCheck {
   }
 
   constexpr bool sound(const Field &field) const {
+    return soundly_tagged(field) && soundly_present(field) && (field.size == 0 || is_string(field));
+  }
+
+  constexpr bool soundly_tagged(const Field &field) const {
     const bool replaces_tag = field.tagging == Tagging::implicit ||
                               field.tagging == Tagging::implicit_primitive ||
                               (field.tagging == Tagging::plain && field.tag != 0);
     if (replaces_tag && !has_own_tag(field)) return false;
     if (field.tagging == Tagging::implicit_primitive && row(field).form != 0) return false;
-    if (field.size != 0 && !is_string(field)) return false;
-    if (field.presence == Presence::default_boolean) return field.type_id == QUARN_ASN1_BOOLEAN;
-    if (field.presence == Presence::default_integer) {
-      return field.type_id == QUARN_ASN1_INTEGER || field.type_id == QUARN_ASN1_ENUMERATED;
-    }
-    if (field.exact() && field.tagging == Tagging::explicitly) return false;
+    return !field.exact() || field.tagging != Tagging::explicitly;
+  }
+
+  constexpr bool soundly_present(const Field &field) const {
     if (field.told_inside() && (field.tagging != Tagging::plain || row(field).schema == nullptr)) {
       return false;
     }
-    if (field.presence >= Presence::default_encoding) {
-      return field.default_value >= 2 && field.default_value <= kMostDefaultOctets;
+    switch (field.presence) {
+      case Presence::default_boolean:
+        return field.type_id == QUARN_ASN1_BOOLEAN;
+      case Presence::default_integer:
+        return field.type_id == QUARN_ASN1_INTEGER || field.type_id == QUARN_ASN1_ENUMERATED;
+      case Presence::default_encoding:
+      case Presence::default_inside:
+        return field.default_value >= 2 && field.default_value <= kMostDefaultOctets;
+      case Presence::content:
+        return can_be_content(field);
+      default:
+        return true;
     }
-    if (field.presence == Presence::content) {
-      return field.tagging == Tagging::explicitly
-                 ? is_any(field) || field.type_id == QUARN_ASN1_OCTETSTRING
-                 : field.tagging == Tagging::implicit && field.type_id == QUARN_ASN1_OCTETSTRING;
-    }
-    return true;
+  }
+
+  static constexpr bool can_be_content(const Field &field) {
+    const bool octets = field.type_id == QUARN_ASN1_OCTETSTRING;
+    return field.tagging == Tagging::explicitly ? octets || is_any(field)
+                                                : octets && field.tagging == Tagging::implicit;
   }
 
   // Names are lists; signed objects begin with their body, which says its own length; what has
@@ -134,23 +146,44 @@ class SchemaCheck {
     return fields[i].mandatory() && fields[i].type_id == QUARN_ASN1_INTEGER;
   }
 
-  // Each field that may be absent differs from those that may come in its place: the others that
-  // may be absent up to the next mandatory one, and that one.
   constexpr bool decidable(std::span<const Field> fields) const {
     for (std::size_t i = 0; i < fields.size(); i++) {
-      if (fields[i].mandatory()) continue;
-      if (fields[i].presence == Presence::selected) {
-        if (!follows_number(fields, i)) return false;
-        continue;
-      }
-      for (std::size_t next = i + 1; next < fields.size(); next++) {
-        if (clash(fields[i], fields[next]) && !told_apart(fields[i], fields[next])) return false;
-        if (fields[next].mandatory()) break;
-      }
-      // An open type cannot be begun once its identifier has been read.
-      if (is_any(fields[i]) && fields[i].tagging == Tagging::plain) return false;
+      if (!fields[i].mandatory() && !decidable(fields, i)) return false;
     }
     return !fields.empty();
+  }
+
+  // A field that may be absent differs from those that may come in its place: the others that may
+  // be absent up to the next mandatory one, and that one.
+  constexpr bool decidable(std::span<const Field> fields, std::size_t i) const {
+    const Field &field = fields[i];
+    if (field.presence == Presence::selected) return follows_number(fields, i);
+    for (const Field &next : fields.subspan(i + 1)) {
+      if (clash(field, next) && !told_apart(field, next)) return false;
+      if (next.mandatory()) break;
+    }
+    // An open type cannot be begun once its identifier has been read.
+    return !is_any(field) || field.tagging != Tagging::plain;
+  }
+
+  // A message, whose content is in one of its components or is one, has no other content in it,
+  // however deep: decoding apart takes the first that comes.
+  constexpr bool content_is_one(const Schema &schema) const {
+    return contents(schema, 1, 0) == 0 || contents(schema, kManyLevels, 2) == 1;
+  }
+
+  // How many components are content; beyond: as how many count types that are deeper than levels.
+  constexpr int contents(const Schema &schema, int levels, int beyond) const {
+    int count = 0;
+    for (const Field &field : schema.fields) {
+      const Schema *inner = row(field).schema;
+      if (field.presence == Presence::content) {
+        count++;
+      } else if (inner != nullptr) {
+        count += levels == 0 ? beyond : contents(*inner, levels - 1, beyond);
+      }
+    }
+    return count;
   }
 
   static constexpr bool ends_open(std::span<const Field> fields) {
@@ -183,6 +216,8 @@ class SchemaCheck {
     }
     return !alternatives.empty();
   }
+
+  static constexpr int kManyLevels = 20;
 
   const Type *rows_;
 };

@@ -58,13 +58,12 @@ Status decode_signed_data(const Type &type, Reader &in, void **value) {
 const Restriction kCmsSignedData{
     .allows = signs_octets, .code = 0x10355, .decode_only = true, .allows_apart = lay_in_octets};
 
-constexpr Codec signed_data_codec() {
+const Codec kSignedDataCodec = [] {
   Codec codec = record_codec();
   codec.encode = encode_signed_data;
   codec.decode = decode_signed_data;
   return codec;
-}
-const Codec kSignedDataCodec = signed_data_codec();
+}();
 
 }  // namespace quarn::asn1
 

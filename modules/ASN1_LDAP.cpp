@@ -3,6 +3,7 @@
 #include "core/engine.h"
 #include "modules/own.h"
 #include "quarn_asn1/ldap.h"
+#include "types/integer.h"
 #include "types/list.h"
 
 namespace quarn::asn1 {
@@ -12,10 +13,8 @@ namespace {
 constexpr std::int64_t kMostInteger = INT32_MAX;  // maxInt of RFC 4511, 4.1.1
 
 bool in_range(const void *integer, std::int64_t least, std::int64_t most) {
-  std::int64_t number = 0;
-  return quarn_asn1_integer_getlong(static_cast<const quarn_asn1_integer *>(integer), &number) ==
-             1 &&
-         number >= least && number <= most;
+  const std::optional<std::int64_t> number = number_in(integer);
+  return number.has_value() && *number >= least && *number <= most;
 }
 
 bool is_not_empty(const void *value) {

@@ -3,6 +3,7 @@
 #include "core/engine.h"
 #include "modules/own.h"
 #include "quarn_asn1/pkcs1.h"
+#include "types/integer.h"
 
 namespace quarn::asn1 {
 
@@ -15,10 +16,8 @@ constexpr int kBadVersion = 0x10303;
 
 // RFC 8017, A.1.2: the version tells whether there are other primes.
 bool tells_primes(const void *value) {
-  const auto *version = static_cast<const quarn_asn1_integer *>(component(value, kVersion));
-  std::int64_t number = -1;
-  return quarn_asn1_integer_getlong(version, &number) == 1 &&
-         number == (component(value, kOtherPrimes) != nullptr ? 1 : 0);
+  return number_in(component(value, kVersion)) ==
+         (component(value, kOtherPrimes) != nullptr ? 1 : 0);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "core/engine.h"
 #include "modules/own.h"
 #include "quarn_asn1/ses.h"
+#include "types/integer.h"
 
 namespace quarn::asn1 {
 
@@ -17,9 +18,7 @@ constexpr std::int64_t kDigests = 2;
 
 // 0 when the number is none.
 std::int64_t list_type_of(const void *property) {
-  std::int64_t number = 0;
-  const auto *value = part<const quarn_asn1_integer>(property, kListType);
-  return quarn_asn1_integer_getlong(value, &number) == 1 ? number : 0;
+  return number_in(component(property, kListType)).value_or(0);
 }
 
 bool has_known_list_type(const void *property) {

@@ -77,12 +77,11 @@ const Restriction kPkixAttributeTypeAndValue{.allows = is_pkix, .code = 0x10274}
 const Restriction kPkcs10Attribute{.allows = has_no_contexts, .code = 0x1027d, .in_length = true};
 const Restriction kUuidPair{.allows = is_uuid_pair, .code = QUARN_ASN1_ERROR_ITEM_LENGTH};
 
-constexpr Codec uuid_pair_codec() {
+const Codec kUuidPairCodec = [] {
   Codec codec = record_codec();
   codec.encode_content = encode_uuid_pair_content;
   return codec;
-}
-const Codec kUuidPairCodec = uuid_pair_codec();
+}();
 
 }  // namespace quarn::asn1
 

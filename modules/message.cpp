@@ -10,7 +10,8 @@ namespace {
 
 constexpr Unit kUnit{"QUARN_ASN1_CMS"};
 
-// Whether a record has content, in a component of its own or, with deep, in one of a component.
+// Whether a record has content, in a component of its own or, with deep, in one of a component. It
+// is then the only content in it; see core/schema_check.h.
 bool has_content(const Type &type, bool deep) {
   const Schema *schema = type.schema;
   if (schema == nullptr || schema->kind != Kind::record) return false;

@@ -4,8 +4,8 @@
     decoding.py QUARN           writes the page
     decoding.py QUARN --check   stops if the page is not what the command says
 
-Either way each file must be named as the table below has it, without doubt, and so must a PEM block of it with its label;
-`quarn check` must find nothing in any.
+Either way each file must be named as the table below has it, without doubt, and so must a PEM block of it with its
+label; `quarn check` must find nothing in any.
 """
 
 import base64
@@ -18,12 +18,15 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 PAGE = ROOT / "docs" / "decoding.md"
 FOLDER = "tests/kinds"
 
-# Kind of file, its name in tests/kinds, PEM label, the type, and parts of the lines that are shown besides the first two.
+# Kind of file, its name in tests/kinds, PEM label, the type, and parts of the lines that are shown besides the first
+# two.
 KINDS = [
     ("certificate", "certificate", "CERTIFICATE", "Certificate", ["  subject ", "userPrincipalName", "'user@"]),
     ("certificate revocation list", "crl", "X509 CRL", "CertificateList", ["  issuer "]),
-    ("certificate request", "request", "CERTIFICATE REQUEST", "CertificationRequest", ["  subject ", "extensionRequest"]),
-    ("attribute certificate", "attribute-certificate", "ATTRIBUTE CERTIFICATE", "AttributeCertificate", [" role", "RoleSyntax"]),
+    ("certificate request", "request", "CERTIFICATE REQUEST", "CertificationRequest",
+     ["  subject ", "extensionRequest"]),
+    ("attribute certificate", "attribute-certificate", "ATTRIBUTE CERTIFICATE", "AttributeCertificate",
+     [" role", "RoleSyntax"]),
     ("path of certificates", "path", "", "Certificates", []),
     ("pair of cross certificates", "cross-pair", "", "CertificatePair", []),
     ("store of certificates", "certificate-store", "", "CertStore", [" attrs"]),
@@ -34,10 +37,12 @@ KINDS = [
     ("authenticated message", "authenticated", "CMS", "ContentInfo", ["AuthenticatedData", " kekri"]),
     ("certificates in PKCS #7", "certificates", "PKCS7", "ContentInfo", ["SignedData", " signerInfos"]),
     ("signed message without its ContentInfo", "signed-data", "", "SignedData", []),
-    ("signature of a program", "authenticode", "PKCS7", "ContentInfo", ["SignedData", "SpcIndirectDataContent", "SpcPeImageData"]),
+    ("signature of a program", "authenticode", "PKCS7", "ContentInfo",
+     ["SignedData", "SpcIndirectDataContent", "SpcPeImageData"]),
     ("time-stamp request of program signers", "code-time-stamp-request", "", "TimeStampRequest", []),
     ("private key (PKCS #8)", "private-key", "PRIVATE KEY", "PrivateKeyInfo", ["  algorithm ", "ECPrivateKey"]),
-    ("encrypted private key", "encrypted-private-key", "ENCRYPTED PRIVATE KEY", "EncryptedPrivateKeyInfo", ["PBES2-params"]),
+    ("encrypted private key", "encrypted-private-key", "ENCRYPTED PRIVATE KEY", "EncryptedPrivateKeyInfo",
+     ["PBES2-params"]),
     ("PKCS #12", "pkcs12", "PKCS12", "PFX", ["AuthenticatedSafe", "SafeContents", "certBag", "keyBag"]),
     ("bag of a certificate", "certificate-bag", "", "CertBag", [" Certificate"]),
     ("bag of a revocation list", "crl-bag", "", "CRLBag", [" CertificateList"]),
@@ -53,7 +58,8 @@ KINDS = [
     ("SM2 encryption", "sm2-cipher", "", "SM2Cipher", [" hash"]),
     ("SM2 key pair, enveloped", "sm2-enveloped-key", "", "SM2EnvelopedKey", [" algorithm ", "SM2Cipher"]),
     ("OCSP request", "ocsp-request", "OCSP REQUEST", "OCSPRequest", [" serialNumber"]),
-    ("OCSP response", "ocsp-response", "OCSP RESPONSE", "OCSPResponse", ["BasicOCSPResponse", "RevokedInfo", "revocationReason"]),
+    ("OCSP response", "ocsp-response", "OCSP RESPONSE", "OCSPResponse",
+     ["BasicOCSPResponse", "RevokedInfo", "revocationReason"]),
     ("time-stamp request", "time-stamp-request", "", "TimeStampReq", ["digest "]),
     ("time-stamp response", "time-stamp-response", "", "TimeStampResp", [" status ", "TSTInfo", "genTime"]),
     ("time-stamp", "token", "CMS", "ContentInfo", ["SignedData", "TSTInfo", "genTime"]),
@@ -75,12 +81,13 @@ HEAD = """# What `quarn decode` recognises
 
 Made by `tools/decoding.py`, which runs the command on the files in `tests/kinds`; do not edit.
 
-Without `--type`, the label of a PEM block tells the type. Without a label, or with one that is not known, the octets do:
-by the structure of the types below, by object identifiers, by how long numbers are. If two types remain, the command
-shows one and says which other it could be. A wrong guess would be worse than none, so that not everything is told:
+Without `--type`, the label of a PEM block tells the type. Without a label, or with one that is not known, the octets
+do: by the structure of the types below, by object identifiers, by how long numbers are. If two types remain, the
+command shows one and says which other it could be. A wrong guess would be worse than none, so that not everything is
+told:
 
-- an Extension, an EncryptedPrivateKeyInfo, and an AlgorithmIdentifier whose parameters are not NULL, only if their object
-  identifiers are known;
+- an Extension, an EncryptedPrivateKeyInfo, and an AlgorithmIdentifier whose parameters are not NULL, only if their
+  object identifiers are known;
 - RSA public keys with the exponents 3 and 5 are told with a doubt: Diffie-Hellman has these numbers as bases;
 - GeneralNames, policies, the parameters of PKCS #1 and PKCS #5, the ValPolRequest of SCVP, enveloped key pairs but that
   of SM2, and whatever else is but a few strings or numbers: `--type` names them.
@@ -96,7 +103,8 @@ class Mistake(Exception):
 
 def decode(quarn, path, data=None):
     """The lines of a file that is named without doubt."""
-    done = subprocess.run([quarn, "decode", *([] if data else [path])], input=data, capture_output=True, cwd=ROOT, check=False)
+    command = [quarn, "decode", *([] if data else [path])]
+    done = subprocess.run(command, input=data, capture_output=True, cwd=ROOT, check=False)
     if done.returncode != 0 or done.stderr:
         raise Mistake(f"{path}: exit code {done.returncode}: {done.stderr.decode()}")
     return done.stdout.decode().splitlines()
@@ -142,7 +150,8 @@ def main(quarn, *options):
         PAGE.write_text(made)
         return 0
     old = PAGE.read_text()
-    sys.stdout.writelines(difflib.unified_diff(old.splitlines(True), made.splitlines(True), str(PAGE), "as the command is"))
+    changes = difflib.unified_diff(old.splitlines(True), made.splitlines(True), str(PAGE), "as the command is")
+    sys.stdout.writelines(changes)
     files = sorted((ROOT / FOLDER).glob("*.der"))
     checked = subprocess.run([quarn, "check", *files], capture_output=True, check=False)
     if checked.returncode != 0:

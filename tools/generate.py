@@ -155,7 +155,8 @@ def described_types():
 
 def errors_page():
     lines = ["<!-- Generated from core/messages.tsv by tools/generate.py; do not edit. -->\n",
-             "# Error codes\n\nCodes and messages of the ASN.1 library. Tell failures apart by code: several messages name\n"
+             "# Error codes\n\n"
+             "Codes and messages of the ASN.1 library. Tell failures apart by code: several messages name\n"
              "another stage than the one that records them, and callers rely on them as they are.\n\n",
              "| code | message | reports |\n|---|---|---|\n"]
     for code, message, _, use in messages():

@@ -1,13 +1,13 @@
 // ANY values: decoding, encoding, construction and what is known of them.
 #include "types/any.h"
 
-#include <algorithm>
 #include <iterator>
 #include <limits>
 
 #include "core/adapter.h"
 #include "types/codecs.h"
 #include "types/scratch.h"
+#include "types/sink.h"
 #include "util/memory.h"
 
 namespace quarn::asn1 {
@@ -16,32 +16,10 @@ namespace {
 
 constexpr Unit kUnit{"QUARN_ASN1_Any"};
 
-// Content goes from stream to stream in pieces of this size.
-constexpr std::uint64_t kPiece = 2048;
-
 // Forms of the universal tags: bit 0 allows primitive, bit 1 constructed. REAL is never constructed
 // and EXTERNAL always; 15 and 29 are refused altogether, as callers have come to rely on.
 constexpr std::uint8_t kForms[] = {1, 1, 1, 3, 3, 1, 1, 3, 2, 1, 1, 2, 3, 1, 1, 0, 2, 2,
                                    3, 3, 3, 3, 3, 3, 3, 3, 3, 3, 3, 0, 3, 1, 1, 1, 1};
-
-// Moves over exactly count octets of content and hands them to a copy, if there is to be one.
-Status pass_octets(Reader &in, std::uint64_t count, Writer *copy) {
-  if (copy == nullptr) return in.skip(count);
-  if (in.in_memory()) {
-    if (count > in.left()) return in.short_read();
-    const Status status = copy->octets(in.next(), count);
-    in.advance(count);
-    return status;
-  }
-  std::uint8_t piece[kPiece];
-  while (count > 0) {
-    const std::uint64_t step = std::min(count, kPiece);
-    if (const Status status = in.octets(piece, step); !status) return status;
-    count -= step;
-    if (const Status status = copy->octets(piece, step); !status) return status;
-  }
-  return Status::success();
-}
 
 // Moves over identifier and length. An end-of-contents is left to the caller to copy.
 Status pass_header(Reader &in, Element &out, Writer *copy) {
@@ -57,31 +35,32 @@ Status copy_end_of_contents(Writer *copy) {
   return copy == nullptr ? Status::success() : copy->octets(kMarker, sizeof kMarker);
 }
 
+// Moves over one element inside so many open ones of indefinite length. One more of these counts as
+// open from its header on, until its end-of-contents comes.
+Status pass_element(Reader &in, Sink &sink, Writer *copy, int limit, int &open) {
+  Element element{};
+  const Status status = pass_header(in, element, copy);
+  if (!status) return status;
+  if (element.end_of_contents) return --open > 0 ? copy_end_of_contents(copy) : status;
+  if (open >= limit) return Status::too_deep();
+  if (element.content_length == kIndefinite) {
+    open++;
+    return status;
+  }
+  return sink.take(in, static_cast<std::uint64_t>(element.content_length), kUnit);
+}
+
 }  // namespace
 
 // An element counts as one level deeper than what it stands in, whatever its own form, so that the
 // innermost level of all holds nothing but its end-of-contents.
 Status pass_content(Reader &in, std::int64_t length, Writer *copy) {
-  if (length != kIndefinite) return pass_octets(in, static_cast<std::uint64_t>(length), copy);
+  Sink sink(copy);
+  if (length != kIndefinite) return sink.take(in, static_cast<std::uint64_t>(length), kUnit);
   const int limit = quarn_get_recursive_level();
-  for (int open = 1; open > 0;) {
-    Element element{};
-    Status status = pass_header(in, element, copy);
-    if (!status) return status;
-    if (element.end_of_contents) {
-      if (--open > 0) status = copy_end_of_contents(copy);
-      if (!status) return status;
-      continue;
-    }
-    if (open >= limit) return Status::too_deep();
-    if (element.content_length == kIndefinite) {
-      open++;
-      continue;
-    }
-    status = pass_octets(in, static_cast<std::uint64_t>(element.content_length), copy);
-    if (!status) return status;
-  }
-  return Status::success();
+  Status status = Status::success();
+  for (int open = 1; status && open > 0;) status = pass_element(in, sink, copy, limit, open);
+  return status;
 }
 
 namespace {

@@ -349,6 +349,21 @@ void free_list(quarn_asn1_list *list, const Type &element) {
   free_with(list, [&element](void *value) { free_value(element, value); });
 }
 
+// The elements go to the front of their block, and items is the link; capacity is the number of
+// their type's row.
+void WaitingLists::add(quarn_asn1_list &list, const Type &element) {
+  const auto count = static_cast<std::size_t>(list.count);
+  if (list.items != list.block) std::memmove(list.block, list.items, count * sizeof(void *));
+  list.items = reinterpret_cast<void **>(first_);
+  list.capacity = static_cast<std::int32_t>(&element - kTypes);
+  first_ = &list;
+}
+
+void WaitingLists::free_alone(quarn_asn1_list &list) {
+  free_items(list);
+  quarn_free(&list);
+}
+
 std::int64_t list_content_length(const quarn_asn1_list *list, const Type &element) {
   return length_with(list, [&element](const void *value) { return length_of(element, value); });
 }

@@ -13,13 +13,13 @@ Writer *writer_for(const Diversion &diversion, Writer &out) {
   return diversion.destination == nullptr ? nullptr : &out;
 }
 
-// Segments of an OCTET STRING. level is that of the string in what limits its nesting.
+// Segments of an OCTET STRING.
 Status divert_octets(
-    Reader &in, Diversion &diversion, int level, bool primitive, std::int64_t length) {
+    Reader &in, Diversion &diversion, bool in_open_type, bool primitive, std::int64_t length) {
   Writer out(diversion.destination, in.ctx());
   std::uint64_t count = 0;
-  const Status status =
-      pass_octetstring_content(in, writer_for(diversion, out), level, primitive, length, count);
+  const Status status = pass_octetstring_content(in, writer_for(diversion, out), in_open_type,
+                                                 primitive, length, count);
   diversion.identifier = kOctetString;
   diversion.length = static_cast<std::int64_t>(count);
   diversion.end = in.offset();
@@ -28,7 +28,7 @@ Status divert_octets(
 
 Status divert_octetstring(Reader &in, Diversion &diversion) {
   return read_strict_segment(kOctetRules, in, [&](bool primitive, std::int64_t length) {
-    return divert_octets(in, diversion, 0, primitive, length);
+    return divert_octets(in, diversion, false, primitive, length);
   });
 }
 
@@ -39,9 +39,8 @@ Status divert_any(Reader &in, Diversion &diversion) {
   diversion.identifier = element.identifier;
   if (element.end_of_contents) return status;
   const std::int64_t length = element.content_length;
-  // An open type counts the element itself as a level.
   if (diversion.is_octets()) {
-    return divert_octets(in, diversion, 1, element.identifier.primitive, length);
+    return divert_octets(in, diversion, true, element.identifier.primitive, length);
   }
   Writer out(diversion.destination, in.ctx());
   const std::int64_t start = in.offset();
@@ -64,7 +63,7 @@ Status divert_element(const Type &type, Reader &in, Diversion &diversion) {
 Status divert_content(Reader &in, Diversion &diversion, bool primitive, std::int64_t length) {
   if (in.at_depth_limit()) return Status::too_deep();
   const Nesting nesting(in);
-  return divert_octets(in, diversion, 0, primitive, length);
+  return divert_octets(in, diversion, false, primitive, length);
 }
 
 }  // namespace quarn::asn1

@@ -34,6 +34,29 @@ struct ElementTag {
 [[nodiscard]] bool append(quarn_asn1_list &list, void *element);
 
 void free_list(quarn_asn1_list *list, const Type &element);
+
+// Lists that are to be freed, linked through what nobody needs of them any more.
+class WaitingLists {
+ public:
+  bool is_empty() const { return first_ == nullptr; }
+  void add(quarn_asn1_list &list, const Type &element);
+  // Calls release(type, element) for each element of the list that was added last, which may add
+  // more, and frees the list.
+  template <typename Release>
+  void free_next(Release release) {
+    quarn_asn1_list &list = *first_;
+    const Type &element = kTypes[list.capacity];
+    first_ = reinterpret_cast<quarn_asn1_list *>(list.items);
+    for (std::int32_t i = 0; i < list.count; i++) release(element, list.block[i]);
+    free_alone(list);
+  }
+
+ private:
+  static void free_alone(quarn_asn1_list &list);
+
+  quarn_asn1_list *first_ = nullptr;
+};
+
 std::int64_t list_content_length(const quarn_asn1_list *list, const Type &element);
 Status encode_list_content(Writer &out,
                            const quarn_asn1_list *list,

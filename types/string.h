@@ -126,10 +126,14 @@ Status decode_string_content_into(const SegmentRules &rules,
                                   void **value,
                                   bool primitive,
                                   std::int64_t length);
-// Content of an OCTET STRING on to a Writer, or passed over when copy is null. level is how deep
-// the string itself counts towards the limit of nesting; count receives how many octets there were.
-Status pass_octetstring_content(
-    Reader &in, Writer *copy, int level, bool primitive, std::int64_t length, std::uint64_t &count);
+// Content of an OCTET STRING on to a Writer, or passed over when copy is null. in_open_type: an
+// open type holds the string, and limits its levels. count receives how many octets there were.
+Status pass_octetstring_content(Reader &in,
+                                Writer *copy,
+                                bool in_open_type,
+                                bool primitive,
+                                std::int64_t length,
+                                std::uint64_t &count);
 // Whole elements under the tag of the rules.
 Status decode_string(const SegmentRules &rules, Reader &in, void **value);
 Status decode_string_into(const SegmentRules &rules,

@@ -1,66 +1,18 @@
 // The encodings of strings: decoding with and without segments, and both ways of writing.
 #include "types/string.h"
 
-#include <algorithm>
 #include <utility>
+
+#include "types/sink.h"
 
 namespace quarn::asn1 {
 
 namespace {
 
-// Octets go from stream to stream in pieces of this size.
+// Octets of a stream are written in segments of this size.
 constexpr std::uint64_t kPiece = 8192;
 
 constexpr std::uint32_t kMostUnusedBits = 7;
-
-// Where the octets of a string go while it is decoded: a buffer, a stream, or nowhere.
-class Sink {
- public:
-  explicit Sink(Buffer &buffer) : buffer_(&buffer) {}
-  explicit Sink(Writer *writer) : writer_(writer) {}
-
-  // Moves exactly count octets from the Reader: from memory at once, else in pieces, so that memory
-  // grows as they arrive.
-  Status take(Reader &in, std::uint64_t count, const Unit &unit) {
-    count_ += count;
-    if (buffer_ == nullptr && writer_ == nullptr) return in.skip(count);
-    while (count > 0) {
-      const bool all_there = count <= in.left();
-      const std::uint64_t step = all_there ? count : std::min(count, kPiece);
-      Status status = Status::success();
-      if (buffer_ != nullptr) {
-        status = in.octets(*buffer_, step, unit);
-      } else {
-        status = in.in_memory() ? take_in_place(in, step) : take_through_piece(in, step, unit);
-      }
-      if (!status) return status;
-      count -= step;
-    }
-    return Status::success();
-  }
-
-  // Octets that were to be moved.
-  std::uint64_t count() const { return count_; }
-
- private:
-  Status take_in_place(Reader &in, std::uint64_t count) {
-    if (count > in.left()) return in.short_read();
-    const Status status = writer_->octets(in.next(), count);
-    if (status) in.advance(count);
-    return status;
-  }
-
-  Status take_through_piece(Reader &in, std::uint64_t count, const Unit &unit) {
-    if (!piece_.reserve(count)) return unit.fail(in.ctx(), QUARN_ERROR_NO_MEMORY, in.offset());
-    const Status status = in.octets(piece_.data(), count);
-    return status ? writer_->octets(piece_.data(), count) : status;
-  }
-
-  Buffer *buffer_ = nullptr;
-  Writer *writer_ = nullptr;
-  std::uint64_t count_ = 0;
-  Buffer piece_;
-};
 
 // Reads the octet that counts unused bits, if the content begins with one. count, the octets of the
 // content, becomes those of the string.
@@ -84,8 +36,8 @@ Status read_unused_bits(const SegmentRules &rules,
 // quarn_get_recursive_level(); nothing large may stand in its frames.
 class Segments {
  public:
-  Segments(const SegmentRules &rules, Reader &in, Sink &sink)
-      : rules_(rules), in_(in), sink_(sink) {}
+  Segments(const SegmentRules &rules, Reader &in, Sink &sink, bool in_open_type = false)
+      : rules_(rules), in_(in), sink_(sink), in_open_type_(in_open_type) {}
 
   Status content(int level, bool primitive, std::int64_t length) {
     unused_bits_ = 0;
@@ -119,10 +71,16 @@ class Segments {
       Segment segment{};
       Status status = read_segment(rules_, in_, segment);
       if (status && segment.is_end) return status;
-      if (status) status = content(level + 1, segment.primitive, segment.length);
+      if (status) status = inside_indefinite(level, segment);
       if (status && unused_before != 0) status = fail(QUARN_ASN1_ERROR_UNUSED_BITS);
       if (!status) return note(rules_, status, in_, rules_.indefinite_code);
     }
+  }
+
+  // An open type has nothing in its innermost level; see pass_content().
+  Status inside_indefinite(int level, const Segment &segment) {
+    if (in_open_type_ && at_limit(level + 1)) return Status::too_deep();
+    return content(level + 1, segment.primitive, segment.length);
   }
 
   Status definite(int level, std::uint64_t length) {
@@ -143,6 +101,7 @@ class Segments {
   const SegmentRules &rules_;
   Reader &in_;
   Sink &sink_;
+  bool in_open_type_;
   std::uint32_t unused_bits_ = 0;
 };
 
@@ -247,12 +206,13 @@ Status decode_string_content_into(const SegmentRules &rules,
 
 Status pass_octetstring_content(Reader &in,
                                 Writer *copy,
-                                int level,
+                                bool in_open_type,
                                 bool primitive,
                                 std::int64_t length,
                                 std::uint64_t &count) {
   Sink sink(copy);
-  const Status status = Segments(kOctetRules, in, sink).content(level, primitive, length);
+  Segments segments(kOctetRules, in, sink, in_open_type);
+  const Status status = segments.content(0, primitive, length);
   count = sink.count();
   return status;
 }

@@ -31,6 +31,9 @@ enum quarn_asn1_result {
 /**
  * Encodes one value.
  *
+ * Values that were put into one another's lists deeper than quarn_get_recursive_level() end with
+ * the result QUARN_ERROR_RECURSION, which is not recorded; they have no length.
+ *
  * @param s        where to write; what was written before a failure stays there
  * @param type_id  a type id of quarn_asn1/ids.h
  * @param value    a value of that type; reading positions and caches inside it may change. Null is

@@ -1,5 +1,5 @@
-// A million elements inside one another, on a small stack: a result or a clean limit, never a
-// crash.
+// A million elements or values inside one another, on a small stack: a result or a clean limit,
+// never a crash.
 #include <gtest/gtest.h>
 
 #include "quarn_asn1.h"
@@ -156,6 +156,31 @@ TEST(Depth, values_are_built_as_deep_as_they_can_be_decoded) {
     octets.insert(octets.begin(), {0xA2, 0x82, static_cast<std::uint8_t>(size >> 8),
                                    static_cast<std::uint8_t>(size)});
     ends_at_the_limit({built.type(), "", 0}, octets);
+  });
+}
+
+TEST(Depth, lists_put_into_lists_beyond_the_limit_end_there_and_can_be_freed) {
+  on_small_stack([] {
+    Allocation allocation;
+    const Octets octets{0xA0, 0x02, 0x87, 0x00};  // (&(=*))
+    void *filter = nullptr;
+    for (std::size_t i = 0; i < kLevels; i++) {
+      void *outer = nullptr;
+      quarn_asn1_mem_decode(octets.data(), 4, QUARN_ASN1_LDAPFILTER, &outer);
+      if (filter != nullptr) {
+        quarn_asn1_list_put(quarn_ldapfilter_getand(static_cast<quarn_ldapfilter *>(outer)),
+                            filter);
+      }
+      filter = outer;
+    }
+    quarn_asn1_forget_octets(QUARN_ASN1_LDAPFILTER, filter);
+    EXPECT_EQ(quarn_asn1_length(QUARN_ASN1_LDAPFILTER, filter), -2);
+    EXPECT_EQ(
+        quarn_asn1_encode(memory_stream({}).get(), QUARN_ASN1_LDAPFILTER, filter, nullptr, nullptr),
+        QUARN_ERROR_RECURSION);
+    EXPECT_EQ(quarn_asn1_dupobject(QUARN_ASN1_LDAPFILTER, filter, nullptr), nullptr);
+    quarn_asn1_value_free(QUARN_ASN1_LDAPFILTER, filter);
+    EXPECT_EQ(allocation.live_blocks(), 0);
   });
 }
 

@@ -201,10 +201,12 @@ TEST(Message, what_is_wrong_is_told_as_by_the_plain_decoder) {
   for (const Shape *shape : {&kShapes[0], &kShapes[4]}) {
     const int limit = quarn_get_recursive_level();
     for (int levels = limit - 4; levels <= limit + 1; levels++) {
-      const Octets octets = message(*shape, true, nested("24", levels, "04 01 41"));
-      EXPECT_EQ(apart(memory_stream(octets).get(), shape->type).result == 1,
-                Held(shape->type, octets).get() != nullptr)
-          << levels;
+      for (const char *innermost : {"", "04 01 41"}) {
+        const Octets octets = message(*shape, true, nested("24", levels, innermost));
+        EXPECT_EQ(apart(memory_stream(octets).get(), shape->type).result == 1,
+                  Held(shape->type, octets).get() != nullptr)
+            << levels;
+      }
     }
   }
   // This one alone is refused that the plain decoder takes: no content can be made of it.

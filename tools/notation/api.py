@@ -8,9 +8,10 @@ from .layout import WIDTH, call, comment, declaration, paragraphs
 
 CONVENTIONS = [
     "Constructors copy their arguments and return null when a mandatory one is null, one has another SIZE than the "
-    "definition says, or memory is short. Getters lend: what they return lives as long as the value. Null for the value gives null from a getter and 0 from a test. "
-    "A component with a DEFAULT is always there once a value has been made or decoded. An end-of-contents is no value "
-    "for a component that may be of any type: constructors return null.",
+    "definition says, or memory is short. Getters lend: what they return lives as long as the value. Null for the "
+    "value gives null from a getter and 0 from a test. A component with a DEFAULT is always there once a value has "
+    "been made or decoded. An end-of-contents is no value for a component that may be of any type: constructors "
+    "return null.",
     "A value is decoded, encoded, copied and freed under its type id by the functions of quarn_asn1/core.h; "
     "free functions are there for each type as well. Lists are of the type quarn_asn1_list.",
 ]

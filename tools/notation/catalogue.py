@@ -86,7 +86,8 @@ def components(definition, number):
     lines = []
     for component in definition.fields:
         tag = f"[{component.tag[0]}] {component.tag[1].upper()}" if component.tag else ""
-        presence = {"mandatory": "", "optional": "OPTIONAL"}.get(component.presence, f"DEFAULT {component.default_text}")
+        presence = {"mandatory": "", "optional": "OPTIONAL",
+                    "default": f"DEFAULT {component.default_text}"}[component.presence]
         row, name = component.row, "" if definition.is_list else component.name
         parts = [c_string(name), str(row.id if row.inner else row.constant), c_string(tag), c_string(presence)]
         lines.append("    {" + ", ".join(parts) + "},\n")

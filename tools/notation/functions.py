@@ -104,8 +104,8 @@ def record_getters(definition, variant):
                     "mandatory": f"{component.name}."}[component.presence]
             if inferred:
                 text = f"{component.name}, null also when the elements are laid out otherwise."
-            made.append(Function(pointer(component.c_type), f"quarn_{variant.prefix}_get{component.part}", value, [text],
-                                 f"return quarn::asn1::part<{component.c_type}>{arguments}", component.line))
+            made.append(Function(pointer(component.c_type), f"quarn_{variant.prefix}_get{component.part}", value,
+                                 [text], f"return quarn::asn1::part<{component.c_type}>{arguments}", component.line))
     return made
 
 

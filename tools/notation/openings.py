@@ -1,4 +1,4 @@
-"""What object identifiers tell about the octets beside them, and what numbers and bits are called: tables for people."""
+"""Tables for people: what object identifiers tell about the octets beside them, what numbers and bits are called."""
 
 from .layout import c_string
 from .parser import PLACES
@@ -6,7 +6,8 @@ from .parser import PLACES
 
 def tables(modules):
     definitions = [definition for module in modules for definition in module.definitions]
-    return "\n".join([place_names(), open_records(definitions), objects(modules), data(definitions), named(definitions)])
+    return "\n".join([place_names(), open_records(definitions), objects(modules), data(definitions),
+                      named(definitions)])
 
 
 LONG_NAMES = {"private": "private key", "othername": "other name", "wantback": "want back"}
@@ -22,8 +23,8 @@ def place_constant(place):
 
 def place_names():
     """In the order of Place, which is that of the alphabet."""
-    names = [place_name(place) for place in PLACES.split("|")]
-    return ("constexpr const char *kPlaceNames[] = {\n" + "".join(f"    {c_string(name)},\n" for name in names) + "};\n" +
+    lines = [f"    {c_string(place_name(place))},\n" for place in PLACES.split("|")]
+    return ("constexpr const char *kPlaceNames[] = {\n" + "".join(lines) + "};\n" +
             f"static_assert({place_constant(PLACES.rpartition('|')[2])} == Place{{std::size(kPlaceNames) - 1}});\n")
 
 
@@ -50,8 +51,8 @@ def objects(modules):
     rows = []
     for module in modules:
         for one in module.objects:
-            rows.append((one.place, one.dotted, f"{place_constant(one.place)}, {c_string(one.dotted)}, "
-                                                f"{{{one.row.constant}, {str(one.contained).lower()}, {names(one.type)}}}"))
+            opening = f"{{{one.row.constant}, {str(one.contained).lower()}, {names(one.type)}}}"
+            rows.append((one.place, one.dotted, f"{place_constant(one.place)}, {c_string(one.dotted)}, {opening}"))
     return array("kOpenings", "PlacedOpening", [text for _, _, text in sorted(rows)])
 
 

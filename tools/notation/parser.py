@@ -11,11 +11,12 @@ TYPE_NOTES = {"id": NUMBER, "prefix": WORD, "new": "none|own", "accessors": "own
               "keep": "encoding|body|bodyalone|positions", "codec": CONSTANT, "wire": "sequence", "first": NUMBER,
               "tail": "open", "strings": None, "layout": "inferred"}
 INNER_NOTES = {"of": NUMBER}
-PLACES = ("attribute|bag|capability|content|extension|key|othername|parameters|private|qualifier|response|revocation|statement"
-          "|validation|wantback")
+PLACES = ("attribute|bag|capability|content|extension|key|othername|parameters|private|qualifier|response|revocation"
+          "|statement|validation|wantback")
 ALSO_NOTES = {word: TYPE_NOTES[word] for word in ("id", "prefix", "check")} | {"open": PLACES}
-COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER, "form": "primitive|exact|inside",
-                   "when": NUMBER, "through": None, "content": None, "open": PLACES, "data": r"[A-Z][A-Za-z0-9-]*"}
+COMPONENT_NOTES = {"get": WORD, "has": WORD, "new": WORD, "id": NUMBER, "written": NUMBER,
+                   "form": "primitive|exact|inside", "when": NUMBER, "through": None, "content": None, "open": PLACES,
+                   "data": r"[A-Z][A-Za-z0-9-]*"}
 
 TWO_WORDS = {"BIT": "STRING", "OCTET": "STRING", "OBJECT": "IDENTIFIER"}
 WITH_NAMES = ("INTEGER", "ENUMERATED", "BIT STRING")
@@ -86,7 +87,8 @@ class Parser:
         definitions = self.definitions(self.tokens[self.position - 1].line)
         for line in sorted(self.trailing):
             self.fail("a note that belongs to no component", line)
-        return Module(self.path, family[1], head, words["unit"], words["header"], definitions, self.aliases, self.objects)
+        return Module(self.path, family[1], head, words["unit"], words["header"], definitions, self.aliases,
+                      self.objects)
 
     def definitions(self, line):
         made = []

@@ -68,7 +68,8 @@ class Resolver:
             variant.row = self.rows[variant.id]
             taken = self.by_id.setdefault(variant.id, definition)
             if taken is not definition or variant.id in [v.id for v in definition.variants if v is not variant]:
-                definition.fail(f"id {variant.id} is that of {taken.name} ({taken.path}:{taken.line}) too", variant.line)
+                definition.fail(f"id {variant.id} is that of {taken.name} ({taken.path}:{taken.line}) too",
+                                variant.line)
             if variant.row.codec != "-":
                 definition.fail(f"id {variant.id} has the codec '{variant.row.codec}' in modules/registry.tsv; "
                                 "a row with a notation has '-' there", variant.line)
@@ -150,7 +151,8 @@ class Resolver:
         c_name = BUILTIN[component.type.name][1] if target is None else None
         component.c_type = target.struct if target else f"quarn_asn1_{c_name}" if c_name else "void"
         if component.row.inner and (component.tag or component.presence != "mandatory" or component.part):
-            definition.fail(f"{component.name} has no type id: it is mandatory, without a tag, and get=none", component.line)
+            definition.fail(f"{component.name} has no type id: it is mandatory, without a tag, and get=none",
+                            component.line)
         self.tagging(definition, component)
         self.presence(definition, component)
 

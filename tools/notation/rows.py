@@ -64,8 +64,7 @@ def defaults(definition):
 
 def schema(definition, variant, unit, array):
     notes = definition.notes
-    word = {"record": "record", "list": "list", "choice": "choice"}[definition.kind]
-    word = "open_tail" if "tail" in notes else "string_choice" if definition.is_strings else word
+    word = "open_tail" if "tail" in notes else "string_choice" if definition.is_strings else definition.kind
     arguments = [f'"{definition.name}"', unit, array]
     if definition.at_least:
         arguments.append("at_least(1)")
@@ -120,6 +119,7 @@ def own(modules):
             codecs |= {variant.notes["codec"] for variant in definition.variants if "codec" in variant.notes}
             checks |= {variant.notes["check"] for variant in definition.variants if "check" in variant.notes}
             if definition.is_inner:
-                ids += f"constexpr auto {definition.row.constant} = static_cast<quarn_asn1_type_id>({definition.row.id});\n"
+                row = definition.row
+                ids += f"constexpr auto {row.constant} = static_cast<quarn_asn1_type_id>({row.id});\n"
     return ids + "".join([f"extern const Codec {name};\n" for name in sorted(codecs)] +
                    [f"extern const Restriction {name};\n" for name in sorted(checks)])
