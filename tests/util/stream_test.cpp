@@ -13,33 +13,24 @@
 namespace quarn::test {
 namespace {
 
-TEST(MemoryStream, short_exact_read_keeps_position_and_a_short_read_does_not_fail) {
+TEST(MemoryStream, each_refusal_leaves_one_record_and_the_position) {
   const Context ctx(quarn_err_ctx_new());
-  Stream s(quarn_stream_new_romem(octets_of("abcde"), 5, 0, ctx.get()));
+  const Stream s(quarn_stream_new_romem(octets_of("abcde"), 5, 0, ctx.get()));
   char buffer[8] = {};
   uint64_t got = 9;
   ASSERT_EQ(quarn_stream_skip(s.get(), 2, ctx.get()), 1);
   EXPECT_EQ(quarn_stream_readn(s.get(), buffer, 4, ctx.get()), 0);
   EXPECT_EQ(quarn_stream_skip(s.get(), UINT64_MAX, ctx.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()), (std::vector<int>{0x10103, 0x10103}));
-  EXPECT_EQ(quarn_err_ctx_offset(ctx.get(), 0), 2);
-  EXPECT_EQ(quarn_stream_position(s.get()), 2u);
-  EXPECT_EQ(quarn_stream_read(s.get(), buffer, 8, &got, ctx.get()), 1);
-  EXPECT_EQ(std::string(buffer, got), "cde");
-}
-
-TEST(MemoryStream, each_refusal_leaves_one_record) {
-  const Context ctx(quarn_err_ctx_new());
-  const Stream s(quarn_stream_new_romem(octets_of("abc"), 3, 0, ctx.get()));
-  char c = 0;
   EXPECT_EQ(quarn_stream_writen(s.get(), "x", 1, ctx.get()), 0);
-  EXPECT_EQ(quarn_stream_readn(s.get(), &c, -1, ctx.get()), 0);
-  EXPECT_EQ(quarn_stream_readn(nullptr, &c, 1, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_readn(s.get(), buffer, -1, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_readn(nullptr, buffer, 1, ctx.get()), 0);
   EXPECT_EQ(control(s, 3, nullptr, ctx.get()), 0);
-  EXPECT_EQ(seek(s, 4, ctx.get()), 0);
-  EXPECT_EQ(quarn_stream_new_mem(-1, ctx.get()), nullptr);
+  EXPECT_EQ(seek(s, 6, ctx.get()), 0);
   EXPECT_EQ(codes_in(ctx.get()),
-            (std::vector<int>{0x10104, 0x10001, 0x10002, 0x10105, 0x10106, 0x10001}));
+            (std::vector<int>{0x10103, 0x10103, 0x10104, 0x10001, 0x10002, 0x10105, 0x10106}));
+  EXPECT_EQ(quarn_err_ctx_offset(ctx.get(), 0), 2);
+  EXPECT_EQ(quarn_stream_read(s.get(), buffer, 8, &got, nullptr), 1);
+  EXPECT_EQ(std::string(buffer, got), "cde");
 }
 
 TEST(MemoryStream, duplicates_are_snapshots_that_outlive_growth_detaching_and_the_original) {
@@ -52,14 +43,12 @@ TEST(MemoryStream, duplicates_are_snapshots_that_outlive_growth_detaching_and_th
     duplicates.emplace_back(quarn_memstream_dup_readonly(s.get(), nullptr));
     ASSERT_EQ(length_of(duplicates.back()), content.size());
   }
-  duplicates.emplace_back(quarn_memstream_dup_readonly(duplicates.back().get(), nullptr));
   uint8_t *octets = nullptr;
   uint64_t count = 0;
   ASSERT_EQ(quarn_memstreamdeatch(s.get(), &octets, &count), 1);
   const Memory<uint8_t> owner(octets);
   EXPECT_EQ(std::string(octets, octets + count), content);
   octets[0] = '#';  // shared with duplicates: what is handed out is a copy
-  EXPECT_EQ(length_of(s), 0u);
   ASSERT_EQ(quarn_stream_writen(s.get(), "new", 3, nullptr), 1);
   s.reset();
   for (const Stream &d : duplicates) {
@@ -69,25 +58,21 @@ TEST(MemoryStream, duplicates_are_snapshots_that_outlive_growth_detaching_and_th
 }
 
 TEST(MemoryStream, detaching_hands_out_the_buffer_itself_when_it_is_not_shared) {
-  Allocation allocation;
-  quarn_stream *s = quarn_stream_new_mem(INT64_MAX, nullptr);
-  EXPECT_EQ(allocation.live_blocks(), 1);
-  EXPECT_LT(allocation.live_octets(), 128u);
+  const Allocation allocation;
+  const Stream s(quarn_stream_new_mem(INT64_MAX, nullptr));
   uint8_t *octets = nullptr;
   uint64_t count = 1;
-  EXPECT_EQ(quarn_memstreamdeatch(s, &octets, &count), 1);
+  EXPECT_EQ(quarn_memstreamdeatch(s.get(), &octets, &count), 1);
   EXPECT_EQ(octets, nullptr);
   EXPECT_EQ(count, 0u);
-  quarn_stream_writen(s, "abc", 3, nullptr);
+  quarn_stream_writen(s.get(), "abc", 3, nullptr);
   EXPECT_LT(allocation.live_octets(), 20000u);  // a hint is no promise of octets to come
   const uint8_t *lent = nullptr;
-  quarn_memstream_peek(s, &lent, nullptr);
-  EXPECT_EQ(quarn_memstreamdeatch(s, &octets, &count), 1);
+  quarn_memstream_peek(s.get(), &lent, nullptr);
+  EXPECT_EQ(quarn_memstreamdeatch(s.get(), &octets, &count), 1);
+  const Memory<uint8_t> owner(octets);
   EXPECT_EQ(octets, lent);
   EXPECT_EQ(allocation.count(), 2u);
-  quarn_free(octets);
-  quarn_stream_free(s);
-  EXPECT_EQ(allocation.live_blocks(), 0);
 }
 
 TEST(MemoryStream, read_only_streams_read_in_place_or_from_a_copy) {
@@ -102,7 +87,7 @@ TEST(MemoryStream, read_only_streams_read_in_place_or_from_a_copy) {
   EXPECT_EQ(detached, nullptr);
 }
 
-TEST(MemoryStream, lends_unread_octets_and_room) {
+TEST(MemoryStream, lends_room_and_takes_no_more_than_was_lent) {
   const Stream s(quarn_stream_new_mem(0, nullptr));
   uint8_t *room = nullptr;
   uint64_t size = 0;
@@ -112,13 +97,8 @@ TEST(MemoryStream, lends_unread_octets_and_room) {
   EXPECT_EQ(quarn_memstream_commit(s.get(), size + 1), 0);
   EXPECT_EQ(quarn_memstream_commit(s.get(), size), 1);
   EXPECT_EQ(quarn_memstream_commit(s.get(), 1), 0);
-  quarn_stream_skip(s.get(), 10, nullptr);
-  const uint8_t *octets = nullptr;
-  uint64_t count = 0;
-  EXPECT_EQ(quarn_memstream_peek(s.get(), &octets, &count), 1);
-  EXPECT_EQ(std::string(octets, octets + count), std::string(size - 10, 'r'));
   EXPECT_EQ(quarn_memstream_reserve(s.get(), UINT64_MAX, &room, &size, nullptr), 0);
-  EXPECT_EQ(length_of(s), count + 10);
+  EXPECT_EQ(rest_of(s), std::string(size, 'r'));
 }
 
 TEST(MemoryStream, appends_itself_and_its_own_octets_as_they_were) {
@@ -136,11 +116,7 @@ TEST(MemoryStream, appends_itself_and_its_own_octets_as_they_were) {
     expected += expected.substr(expected.size() - count);
   }
   EXPECT_EQ(control(s, QUARN_STREAM_REWIND), 1);
-  EXPECT_EQ(control(s, QUARN_STREAM_ATEND), 0);
   EXPECT_EQ(rest_of(s), expected);
-  EXPECT_EQ(control(s, QUARN_STREAM_ATEND), 1);
-  EXPECT_EQ(seek(s, 7), 1);
-  EXPECT_EQ(rest_of(s), expected.substr(7));
 }
 
 Store store_of(const char *text, std::uint64_t piece = 3) {
@@ -148,24 +124,6 @@ Store store_of(const char *text, std::uint64_t piece = 3) {
   store.piece = piece;
   store.knows_length = false;
   return store;
-}
-
-TEST(CallbackStream, exact_reads_loop_over_short_ones) {
-  Store source = store_of("0123456789");
-  Stream s = source.stream();
-  char buffer[16] = {};
-  uint64_t got = 0;
-  EXPECT_EQ(quarn_stream_read(s.get(), buffer, 8, &got, nullptr), 1);
-  EXPECT_EQ(got, 3u);
-  EXPECT_EQ(quarn_stream_readn(s.get(), buffer, 6, nullptr), 1);
-  EXPECT_STREQ(buffer, "345678");
-  const Context ctx(quarn_err_ctx_new());
-  EXPECT_EQ(quarn_stream_readn(s.get(), buffer, 2, ctx.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()), std::vector<int>{0x10103});
-  EXPECT_EQ(quarn_memstream_peek(s.get(), nullptr, nullptr), 0);
-  EXPECT_EQ(quarn_memstream_dup_readonly(s.get(), nullptr), nullptr);
-  s.reset();
-  EXPECT_EQ(source.closed, 1);
 }
 
 TEST(CallbackStream, tells_the_end_without_a_length_and_loses_no_octet) {
@@ -200,17 +158,6 @@ TEST(CallbackStream, skips_by_seeking_or_else_by_reading_and_notices_the_end) {
   }
 }
 
-TEST(CallbackStream, refuses_results_that_cannot_be) {
-  for (const int64_t wrong : {int64_t{-7}, int64_t{5}, INT64_MAX, INT64_MIN}) {
-    Store source = store_of("abcdef");
-    source.fail_at = 0;
-    source.wrong_result = wrong;
-    const Stream s = source.stream();
-    char buffer[8];
-    EXPECT_EQ(quarn_stream_readn(s.get(), buffer, 4, nullptr), 0) << wrong;
-  }
-}
-
 TEST(CallbackStream, missing_functions_are_reported) {
   const quarn_stream_callbacks none{};
   const Stream s(quarn_stream_new_callback(&none, nullptr, nullptr));
@@ -221,6 +168,7 @@ TEST(CallbackStream, missing_functions_are_reported) {
   EXPECT_EQ(seek(s, 0, ctx.get()), 0);
   EXPECT_EQ(control(s, QUARN_STREAM_REWIND, nullptr, ctx.get()), 0);
   EXPECT_EQ(codes_in(ctx.get()), (std::vector<int>{0x10101, 0x10104, 0x10107, 0x10109}));
+  EXPECT_EQ(quarn_memstream_dup_readonly(s.get(), nullptr), nullptr);
 }
 
 // Uses every function of a source and a destination once; counts the failures reported.
@@ -241,14 +189,15 @@ TEST(CallbackStream, each_failing_call_is_one_failure_with_one_record) {
   Store copy;
   EXPECT_EQ(exercise(whole, copy, nullptr), 0);
   EXPECT_EQ(copy.octets, whole.octets);
-  for (std::uint64_t i = 0; i < whole.calls; i++) {
+  for (std::uint64_t i = 0; i < 2 * whole.calls; i++) {
     Store from = store_of("0123456789");
     Store to;
-    from.fail_at = i;
-    to.fail_at = i == 0 ? 0 : UINT64_MAX;
+    from.fail_at = i / 2;
+    from.wrong_result = i % 2 == 0 ? -1 : INT64_MAX;  // of a read
+    to.fail_at = i < 2 ? 0 : UINT64_MAX;
     const Context ctx(quarn_err_ctx_new());
     const int failures = exercise(from, to, ctx.get());
-    EXPECT_EQ(failures, i == 0 ? 2 : 1) << "call " << i;
+    EXPECT_EQ(failures, i < 2 ? 2 : 1) << "call " << i;
     EXPECT_EQ(quarn_err_ctx_count(ctx.get()), static_cast<std::size_t>(failures)) << "call " << i;
   }
 }
@@ -256,19 +205,17 @@ TEST(CallbackStream, each_failing_call_is_one_failure_with_one_record) {
 TEST(Stream, survives_lack_of_memory) {
   fail_each_allocation([](Allocation &allocation) {
     Store source(std::vector<uint8_t>(20000, 'x'));
-    source.piece = 5000;
-    Stream s(quarn_stream_new_mem(16, nullptr));
-    Stream copy(quarn_stream_new_romem(octets_of("abc"), 3, 1, nullptr));
-    Stream callback = source.stream(Store::Kind::read_only);
+    const Stream s(quarn_stream_new_mem(16, nullptr));
+    const Stream copy(quarn_stream_new_romem(octets_of("abc"), 3, 1, nullptr));
+    const Stream callback = source.stream(Store::Kind::read_only);
     if (!s || !callback) return;
     quarn_stream_writen(s.get(), "abc", 3, nullptr);
-    Stream duplicate(quarn_memstream_dup_readonly(s.get(), nullptr));
+    const Stream duplicate(quarn_memstream_dup_readonly(s.get(), nullptr));
     const uint64_t before = length_of(s);
     uint64_t copied = 0;
     const int result = quarn_stream_writefromstream(s.get(), callback.get(), nullptr, &copied);
     EXPECT_TRUE(result == 1 || allocation.failed());
     EXPECT_EQ(length_of(s), before + copied);
-    Stream last(quarn_memstream_dup_readonly(s.get(), nullptr));
     uint8_t *octets = nullptr;
     quarn_memstreamdeatch(s.get(), &octets, nullptr);
     quarn_free(octets);
