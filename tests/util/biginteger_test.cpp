@@ -39,14 +39,11 @@ std::string decimal_of(const BigInteger &b) {
   return std::string(Memory<char>(text).get(), length);
 }
 
-// Digits of a linear congruential generator, not starting with 0.
+// The digits of the squares from 1 on, one after the other.
 std::string digits_of(size_t count) {
   std::string digits;
-  for (uint32_t x = 12345; digits.size() < count;) {
-    x = x * 1103515245 + 12345;
-    digits += static_cast<char>('0' + (x >> 16) % 10);
-  }
-  return digits;
+  for (size_t i = 1; digits.size() < count; i++) digits += std::to_string(i * i);
+  return digits.substr(0, count);
 }
 
 TEST(BigInteger, octets_and_decimal_text_agree_with_each_other) {
@@ -91,7 +88,7 @@ TEST(BigInteger, long_decimal_text_becomes_the_right_octets_and_the_same_text) {
     size_t digits;
     int64_t bits;
     uint64_t hash;
-  } cases[] = {{609, 2023, 0xa35c84bb01039bfa}, {40000, 132877, 0x79b6d03ac892a201}};
+  } cases[] = {{609, 2021, 0x4ecbde3c02bc40c2}, {40000, 132875, 0x6c591bb105809032}};
   for (const auto &[digits, bits, expected] : cases) {
     const std::string text = '-' + digits_of(digits);
     const BigInteger b = from_decimal(text);

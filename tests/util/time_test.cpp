@@ -2,8 +2,6 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <ostream>
-#include <sstream>
 #include <string>
 
 #include "quarn_util.h"
@@ -11,11 +9,6 @@
 static bool operator==(const quarn_time_fields &a, const quarn_time_fields &b) {
   return a.year == b.year && a.month == b.month && a.day == b.day && a.hour == b.hour &&
          a.minute == b.minute && a.second == b.second && a.nanoseconds == b.nanoseconds;
-}
-
-static void PrintTo(const quarn_time_fields &f, std::ostream *out) {
-  *out << f.year << '-' << f.month << '-' << f.day << ' ' << f.hour << ':' << f.minute << ':'
-       << f.second << '.' << f.nanoseconds;
 }
 
 namespace quarn::test {
@@ -105,22 +98,21 @@ TEST(LocalTime, becomes_utc_by_the_zone_in_force_if_that_is_within_the_years) {
 TEST(LeapSecond, table_is_that_of_the_installed_list) {
   std::ifstream list("/usr/share/zoneinfo/leap-seconds.list");
   if (!list) GTEST_SKIP() << "tzdata is not installed";
-  int insertions = -1;  // the first line of the table is where counting starts
+  int listed = -1;  // the first line of the table is where counting starts
+  int found = 0;
   for (std::string line; std::getline(list, line);) {
-    int64_t seconds = 0;
-    if (line.empty() || line[0] == '#' || !(std::istringstream(line) >> seconds)) continue;
-    if (++insertions == 0) continue;
-    Fields f{1900, 1, 1, 23, 59, 60, insertions};
-    ASSERT_EQ(quarn_time_fields_adddays(&f, seconds / 86400 - 1), 1);
-    EXPECT_EQ(quarn_time_fields_isleapsecond(&f), 1) << line;
-    f.minute--;
-    EXPECT_EQ(quarn_time_fields_isleapsecond(&f), 0) << line;
+    if (line.empty() || line[0] == '#') continue;
+    Fields f{1900, 1, 1, 23, 59, 60, 0};
+    ASSERT_EQ(quarn_time_fields_adddays(&f, std::stoll(line) / 86400 - 1), 1);
+    found += quarn_time_fields_isleapsecond(&f);
+    listed++;
   }
+  EXPECT_EQ(found, listed);
   int known = 0;
   for (Fields f{1582, 1, 1, 23, 59, 60, 0}; quarn_time_fields_adddays(&f, 1) == 1;) {
     known += quarn_time_fields_isleapsecond(&f);
   }
-  EXPECT_EQ(known, insertions);
+  EXPECT_EQ(known, listed);
 }
 
 }  // namespace
