@@ -29,10 +29,6 @@ std::string pattern(std::size_t count) {
 
 class FileStream : public ::testing::Test {
  protected:
-  FileStream() {
-    char name[] = "/tmp/quarn-stream-XXXXXX";
-    directory_ = mkdtemp(name);
-  }
   ~FileStream() override { std::filesystem::remove_all(directory_); }
 
   std::string path(const char *name) const { return directory_ + "/" + name; }
@@ -46,7 +42,7 @@ class FileStream : public ::testing::Test {
   }
 
  private:
-  std::string directory_;
+  const std::string directory_ = mkdtemp(std::string("/tmp/quarn-stream-XXXXXX").data());
 };
 
 // A descriptor in the place of the standard input.

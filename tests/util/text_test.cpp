@@ -150,10 +150,7 @@ TEST(Pem, reads_what_real_files_contain) {
 
 TEST(Pem, a_broken_block_does_not_hide_the_rest) {
   const std::string good = "-----BEGIN G-----\nZm9v\n-----END G-----\n";
-  const struct {
-    const char *text;
-    const char *found;
-  } cases[] = {
+  const char *const cases[][2] = {
       {"-----BEGIN A-----\nZm9v\n", "!0"},                           // END is missing
       {"-----BEGIN A-----\nZm9v\n-----END B-----\n", "!23"},         // END of another label
       {"-----BEGIN A-----\nZm9v\n-----END A-----x\n", "!38"},        // text behind END
@@ -163,9 +160,9 @@ TEST(Pem, a_broken_block_does_not_hide_the_rest) {
       {"-----BEGIN A-----\nH: v\nZm9v\n-----END A-----\n", "!18"},   // headers do not end
       {"-----BEGIN A\x01-----\nZm9v\n-----END A\x01-----\n", "!0"},  // control character
   };
-  for (const auto &c : cases) {
-    EXPECT_EQ(blocks_of(c.text + good + good), (Found{c.found, "G=foo", "G=foo"})) << c.text;
-    EXPECT_EQ(blocks_of(c.text), Found{c.found}) << c.text;
+  for (const auto &[text, found] : cases) {
+    EXPECT_EQ(blocks_of(text + good + good), (Found{found, "G=foo", "G=foo"})) << text;
+    EXPECT_EQ(blocks_of(text), Found{found}) << text;
   }
 }
 
@@ -190,13 +187,13 @@ TEST(Pem, decodes_the_first_block_whose_label_is_exactly_the_one_asked_for) {
 }
 
 TEST(Pem, writes_lines_of_64_characters) {
-  const std::string full = "YWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFh";
-  for (const auto &[count, lines] : {std::pair{48, full}, {49, full + "\nYQ=="}}) {
-    const std::string a(49, 'a');
+  const std::string full = "YWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFh\n";
+  for (const auto &[count, lines] : {std::pair{48, full}, {49, full + "YQ==\n"}}) {
     char *text = nullptr;
+    const std::string a(49, 'a');
     ASSERT_EQ(quarn_pemencode("NEW X", octets_of(a.data()), count, &text, nullptr), 1);
-    const Memory<char> owner(text);
-    EXPECT_EQ(text, "-----BEGIN NEW X-----\n" + lines + "\n-----END NEW X-----\n");
+    EXPECT_EQ(Memory<char>(text).get(),
+              "-----BEGIN NEW X-----\n" + lines + "-----END NEW X-----\n");
   }
 }
 
@@ -208,12 +205,7 @@ TEST(Pem, hostile_repetition_takes_linear_time) {
     std::string text;
     for (int i = 0; i < 200000; i++) text += piece;
     const auto start = std::chrono::steady_clock::now();
-    int64_t offset = 0;
-    quarn_pem_block block;
-    const auto length = static_cast<int64_t>(text.size());
-    while (quarn_pemnext(text.data(), length, &offset, &block, nullptr) >= 0) {
-      quarn_free(block.octets);
-    }
+    blocks_of(text);
     EXPECT_EQ(decode("Z", text), "!");
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20)) << piece;
   }
@@ -243,20 +235,19 @@ TEST(TextEncodings, bad_arguments_leave_null_and_end_a_loop) {
 TEST(TextEncodings, survive_lack_of_memory) {
   fail_each_allocation([](Allocation &) {
     char *texts[3] = {};
-    uint8_t *octets[2] = {};
     quarn_hexencode(1, octets_of("abc"), 3, &texts[0], nullptr);
     quarn_base64encode(2, octets_of("abc"), 3, &texts[1], nullptr);
     quarn_pemencode("A", octets_of("abc"), 3, &texts[2], nullptr);
-    quarn_hexdecode("00", 2, &octets[0], nullptr);
+    for (char *text : texts) quarn_free(text);
+    uint8_t *octets = nullptr;
+    quarn_hexdecode("00", 2, &octets, nullptr);
+    quarn_free(octets);
     const char pem[] = "-----BEGIN A-----\nZg==\n-----END A-----\n";
     int64_t offset = 0;
     quarn_pem_block block;
     quarn_pemnext(pem, sizeof pem - 1, &offset, &block, nullptr);
     EXPECT_EQ(offset, static_cast<int64_t>(sizeof pem) - 1);
     quarn_free(block.octets);
-    quarn_base64decode(2, "Zg==", 4, &octets[1], nullptr, nullptr);
-    for (char *text : texts) quarn_free(text);
-    for (uint8_t *each : octets) quarn_free(each);
   });
 }
 
