@@ -145,10 +145,11 @@ TEST(JsonPrint, compact_and_indented_text_is_that_of_other_printers) {
 TEST(JsonPrint, every_character_is_escaped_where_it_must_be) {
   for (int c = 0; c < 128; c++) {
     char escaped[8] = {static_cast<char>(c)};
-    if (c < 0x20) std::snprintf(escaped, sizeof escaped, "\\u%04x", static_cast<unsigned>(c));
     const size_t short_form = std::string("\b\t\n\f\r\"\\").find(static_cast<char>(c));
     if (short_form != std::string::npos) {
       std::snprintf(escaped, sizeof escaped, "\\%c", "btnfr\"\\"[short_form]);
+    } else if (c < 0x20) {
+      std::snprintf(escaped, sizeof escaped, "\\u%04x", static_cast<unsigned>(c));
     }
     for (const size_t before : {0u, 3u, 7u, 8u, 1023u, 1024u}) {
       const std::string run(before, 'x');

@@ -94,24 +94,16 @@ TEST(LocalTime, becomes_utc_by_the_zone_in_force_if_that_is_within_the_years) {
   tzset();
 }
 
-TEST(LeapSecond, table_is_that_of_the_installed_list) {
-  std::ifstream list("/usr/share/zoneinfo/leap-seconds.list");
-  if (!list) GTEST_SKIP() << "tzdata is not installed";
-  int listed = -1;  // the first line of the table is where counting starts
-  int found = 0;
-  for (std::string line; std::getline(list, line);) {
-    if (line.empty() || line[0] == '#') continue;
-    Fields f{1900, 1, 1, 23, 59, 60, 0};
-    ASSERT_EQ(quarn_time_fields_adddays(&f, std::stoll(line) / 86400 - 1), 1);
-    found += quarn_time_fields_isleapsecond(&f);
-    listed++;
-  }
-  EXPECT_EQ(found, listed);
-  int known = 0;
+TEST(LeapSecond, days_are_those_that_had_one) {
+  std::string found;
   for (Fields f{1582, 1, 1, 23, 59, 60, 0}; quarn_time_fields_adddays(&f, 1) == 1;) {
-    known += quarn_time_fields_isleapsecond(&f);
+    if (quarn_time_fields_isleapsecond(&f) != 1) continue;
+    EXPECT_EQ(f.day, f.month == 6 ? 30 : 31);
+    found += std::to_string(f.year % 100) + (f.month == 6 ? "June " : " ");
   }
-  EXPECT_EQ(known, listed);
+  EXPECT_EQ(found,
+            "72June 72 73 74 75 76 77 78 79 81June 82June 83June 85June 87 89 90 92June 93June "
+            "94June 95 97June 98 5 8 12June 15June 16 ");
 }
 
 }  // namespace
