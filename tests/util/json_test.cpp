@@ -133,8 +133,9 @@ TEST(Json, lack_of_memory_leaves_values_with_their_owner) {
 
 // The texts are those of Python's json.dumps(), with ensure_ascii=False.
 TEST(JsonPrint, compact_and_indented_text_is_that_of_other_printers) {
-  const Json j = parse(R"({"a":1,"empty":{},"none":[],"list":[true,{"b":"\"\\/\b\u0000."}]})");
-  EXPECT_EQ(printed(j), R"({"a":1,"empty":{},"none":[],"list":[true,{"b":"\"\\/\b\u0000."}]})");
+  const char *text = R"({"a":1,"empty":{},"none":[],"list":[true,{"b":"\"\\/\b\u0000."}]})";
+  const Json j = parse(text);
+  EXPECT_EQ(printed(j), text);
   EXPECT_EQ(printed(j.get(), 2),
             "{\n  \"a\": 1,\n  \"empty\": {},\n  \"none\": [],\n  \"list\": [\n    true,\n    {\n"
             "      \"b\": \"\\\"\\\\/\\b\\u0000.\"\n    }\n  ]\n}");
