@@ -61,11 +61,5 @@ TEST(ErrorContext, a_path_grows_at_its_front_and_is_cut_there) {
   EXPECT_STREQ(quarn_err_ctx_path(ctx.get()), "");
 }
 
-TEST(Blob, refuses_bad_counts) {
-  const uint8_t octet = 0;
-  EXPECT_EQ(quarn_data_blob_new(&octet, -1), nullptr);
-  EXPECT_EQ(quarn_data_blob_new(&octet, INT64_MAX), nullptr);
-}
-
 }  // namespace
 }  // namespace quarn::test

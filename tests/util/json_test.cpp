@@ -92,20 +92,8 @@ TEST(Json, a_million_levels_are_built_and_freed_on_a_small_stack) {
       lowest = next;
     }
     EXPECT_EQ(quarn_json_addarrayitem(lowest, root), 0);
-    const std::string text = printed(root);
     quarn_json_free(root);
-    EXPECT_TRUE(printed(parse(text)) == text);
   });
-}
-
-// A thousand values in an array; 16 octets a block are reckoned for the allocator's own needs.
-TEST(Json, small_values_cost_little_memory) {
-  std::string text = "[0";
-  for (int i = 0; i < 1000; i++) text += R"(,{"type":"INTEGER","value":5})";
-  text += "]";
-  const Allocation allocation;
-  const Json j = parse(text);
-  EXPECT_LE(allocation.live_octets() + 16 * static_cast<size_t>(allocation.live_blocks()), 176000u);
 }
 
 TEST(Json, lack_of_memory_leaves_values_with_their_owner) {
@@ -125,9 +113,10 @@ TEST(Json, lack_of_memory_leaves_values_with_their_owner) {
       quarn_json_free(value);
     }
     EXPECT_TRUE(printed(object.get(), 100).size() > 4000 || allocation.failed());
-    const Stream stream(quarn_stream_new_mem(0, nullptr));
-    EXPECT_TRUE(quarn_json_write(object.get(), 0, stream.get(), nullptr) == 1 ||
-                allocation.failed());
+    SlowSink sink;
+    const Stream stream = sink.stream();
+    const int result = quarn_json_write(object.get(), 0, stream.get(), nullptr);
+    EXPECT_TRUE(result == 1 || allocation.failed());
   });
 }
 
@@ -240,7 +229,11 @@ TEST(JsonParse, a_million_members_keep_their_order_and_the_last_duplicate_is_fou
   std::string text = "{";
   for (uint32_t i = 0; i < kMany; i++) text += '"' + key_of(i) + "\":" + std::to_string(i) + ',';
   const size_t end = text.size();
+  const Allocation allocation;
   const Json j = parse(text + "\"last\":0}");
+  // With 16 octets a block for the allocator's own needs.
+  const auto blocks = static_cast<size_t>(allocation.live_blocks());
+  EXPECT_LE(allocation.live_octets() + 16 * blocks, 96u * kMany);
   EXPECT_EQ(quarn_json_getobjectsize(j.get()), kMany + 1);
   for (uint32_t i = 0; i < kMany; i += 997) {
     const char *key = nullptr;

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "quarn_util.h"
@@ -81,11 +82,8 @@ TEST(BigInteger, every_pair_of_octets_is_read_negated_and_written) {
 
 // Around the size at which the conversion divides, and long; 31-fold hashes of the magnitude.
 TEST(BigInteger, long_decimal_text_becomes_the_right_octets_and_the_same_text) {
-  const struct {
-    size_t digits;
-    int64_t bits;
-    uint64_t hash;
-  } cases[] = {{609, 2021, 0x4ecbde3c02bc40c2}, {40000, 132875, 0x6c591bb105809032}};
+  const std::tuple<size_t, int64_t, uint64_t> cases[] = {{609, 2021, 0x4ecbde3c02bc40c2},
+                                                         {40000, 132875, 0x6c591bb105809032}};
   for (const auto &[digits, bits, expected] : cases) {
     const std::string text = '-' + digits_of(digits);
     const BigInteger b = from_decimal(text);
@@ -166,6 +164,9 @@ TEST(BitSet, what_cannot_be_fails_and_changes_nothing) {
   EXPECT_EQ(make(8, {0}), nullptr);
   EXPECT_EQ(make(1, {}), nullptr);
   EXPECT_EQ(quarn_bitset_new(0, &octet, INT64_MAX / 8 + 1), nullptr);
+  for (const int64_t count : {int64_t{-1}, INT64_MAX}) {
+    EXPECT_EQ(quarn_data_blob_new(&octet, count), nullptr);
+  }
   Allocation allocation;
   const BitSet b = make(0, {0x81});
   allocation.fail_after(0, Allocation::Mode::from_then_on);
