@@ -89,15 +89,6 @@ TEST(MemoryStream, room_is_lent_and_what_stands_in_it_handed_out_when_it_is_not_
   EXPECT_EQ(allocation.count(), 2u);
 }
 
-TEST(MemoryStream, read_only_streams_read_in_place_or_from_a_copy) {
-  uint8_t octets[] = {'a', 'b'};
-  const Stream in_place(quarn_stream_new_romem(octets, 2, 0, nullptr));
-  const Stream copy(quarn_stream_new_romem(octets, 2, 1, nullptr));
-  octets[0] = 'x';
-  EXPECT_EQ(rest_of(in_place), "xb");
-  EXPECT_EQ(rest_of(copy), "ab");
-}
-
 TEST(MemoryStream, appends_itself_and_its_own_octets_as_they_were) {
   const Stream s(quarn_stream_new_mem(0, nullptr));
   std::string expected = "0123456789";
@@ -329,7 +320,10 @@ TEST_F(FileStream, and_other_streams_survive_lack_of_memory) {
     const bool written = out && quarn_stream_writen(out.get(), "abc", 3, nullptr) == 1 &&
                          quarn_stream_flush(out.get(), nullptr) == 1;
     EXPECT_TRUE(!written || content_of(path("out")) == "abc");
-    const Stream copy(quarn_stream_new_romem(octets_of("abc"), 3, 1, nullptr));
+    uint8_t lent = 'a';
+    const Stream copy(quarn_stream_new_romem(&lent, 1, 1, nullptr));
+    lent = 'x';
+    EXPECT_TRUE(!copy || rest_of(copy) == "a");
     const Stream s(quarn_stream_new_mem(16, nullptr));
     const Stream file = open_stream(in, "r");
     if (!s || !file) return;
