@@ -36,6 +36,10 @@ TEST(MemoryStream, each_refusal_leaves_one_record_and_the_position) {
   EXPECT_EQ(codes_in(ctx.get()),
             (std::vector<int>{0x10103, 0x10103, 0x10104, 0x10001, 0x10002, 0x10105, 0x10106}));
   EXPECT_EQ(quarn_err_ctx_offset(ctx.get(), 0), 2);
+  uint8_t octet = 0;
+  uint8_t *octets = &octet;
+  EXPECT_EQ(quarn_memstreamdeatch(s.get(), &octets, nullptr), 0);
+  EXPECT_EQ(octets, nullptr);
   EXPECT_EQ(quarn_stream_read(s.get(), buffer, 8, &got, nullptr), 1);
   EXPECT_EQ(std::string(buffer, got), "cde");
 }
