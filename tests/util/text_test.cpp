@@ -266,10 +266,10 @@ template <typename Convert>
 Octets convert(Convert function, const UString &u) {
   uint8_t *octets = nullptr;
   int64_t count = 0;
-  if (function(u.get(), &octets, &count) != 1) return {0xff};
-  Octets result(octets, octets + count);
-  quarn_free(octets);
-  return result;
+  const int result = function(u.get(), &octets, &count);
+  const Memory<uint8_t> owner(octets);
+  EXPECT_EQ(result == 1, octets != nullptr);
+  return result == 1 ? Octets(octets, octets + count) : Octets{0xff};
 }
 
 // UTF-8 by arithmetic, as a definition of it: bits to octets, no tables of ranges.
