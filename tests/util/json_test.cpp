@@ -81,7 +81,7 @@ TEST(Json, a_value_has_one_parent_and_never_lies_below_itself) {
 }
 
 // Containers that are not empty go into the deepest one, the dearest order for the cycle test.
-TEST(Json, a_million_levels_are_built_and_freed_on_a_small_stack) {
+TEST(Json, a_million_levels_are_built_printed_and_freed_on_a_small_stack) {
   on_small_stack([] {
     quarn_json *root = quarn_json_newarray();
     quarn_json *lowest = root;
@@ -92,6 +92,7 @@ TEST(Json, a_million_levels_are_built_and_freed_on_a_small_stack) {
       lowest = next;
     }
     EXPECT_EQ(quarn_json_addarrayitem(lowest, root), 0);
+    EXPECT_GT(printed(root).size(), 6'000'000u);
     quarn_json_free(root);
   });
 }
