@@ -12,9 +12,10 @@ import tempfile
 HERE = pathlib.Path(__file__).parent
 sys.path.insert(0, str(HERE.parent / "corpus"))
 
+import built  # noqa: E402
 import messages  # noqa: E402
-from der import (Element, bit_string, boolean, context, extension, integer, name, octet_string, oid, openssl, rdn,  # noqa: E402
-                 sequence, set_of, text, time)
+from der import (Element, bit_string, boolean, context, extension, integer, octet_string, oid, openssl,  # noqa: E402
+                 sequence, text, time, wrap)
 
 CONFIG = """[req]
 distinguished_name = name
@@ -65,11 +66,8 @@ COMMANDS = {  # each writes its file to standard output
     "time-stamp-response": "ts -reply -queryfile query -config config -section tsa -signer tsa.pem -inkey ec.key",
     "sm2-cipher": "pkeyutl -encrypt -inkey sm2.key -in text",
 }
-SHA256 = sequence(oid("2.16.840.1.101.3.4.2.1"))
 SM3_WITH_SM2 = oid("1.2.156.10197.1.501")
 DIGEST = bytes(range(32))
-NAME = name(rdn(("2.5.4.3", text("a"))))
-NAMES = sequence(context(4, NAME))
 NOW = time("20260101000000Z")
 POLICY = sequence(sequence(oid("1.3.6.1.5.5.7.19.1")))
 BASIC_PATH = oid("1.3.6.1.5.5.7.17.3")
@@ -91,69 +89,49 @@ def prepare(work):
         openssl(*command.split(), cwd=work)
 
 
-def attribute_certificate():
-    holder = sequence(context(0, Element(sequence(NAMES, integer(2))).content))
-    role = sequence(oid("2.5.4.72"), set_of(sequence(context(1, context(6, b"urn:role", primitive=True)))))
-    body = sequence(VERSION, holder, context(0, NAMES), SHA256, integer(7), sequence(NOW, time("20270101000000Z")),
-                    sequence(role), sequence(extension("2.5.29.56", b"\5\0")))
-    return sequence(body, SHA256, bit_string(DIGEST))
-
-
 def authenticode(signed):
     """What osslsigncode writes: PKCS #7, whose content is no OCTET STRING."""
-    image = sequence(bit_string(b""), context(0, context(2, context(0, "".encode(), primitive=True))))
-    indirect = sequence(sequence(oid("1.3.6.1.4.1.311.2.1.15"), image), sequence(SHA256, octet_string(DIGEST)))
+    image = sequence(bit_string(b""), context(0, context(2, context(0, primitive=True))))
+    indirect = sequence(sequence(oid("1.3.6.1.4.1.311.2.1.15"), image), sequence(built.SHA256, octet_string(DIGEST)))
     version, digests, _, *rest = Element(Element(signed).parts()[1].content).parts()
     content = messages.content_info("1.3.6.1.4.1.311.2.1.4", indirect)
     return messages.content_info("1.2.840.113549.1.7.2",
                                  sequence(version.octets, digests.octets, content, *[each.octets for each in rest]))
 
 
-def authenticated():
-    recipient = context(2, integer(4), sequence(octet_string(b"\x0a")), sequence(oid("2.16.840.1.101.3.4.1.5")),
-                        octet_string(bytes(24)))
-    inner = sequence(oid("1.2.840.113549.1.7.1"), context(0, octet_string(b"some text")))
-    return messages.content_info("1.2.840.113549.1.9.16.1.2", sequence(
-        integer(0), set_of(recipient), sequence(oid("1.2.840.113549.2.9")), inner, octet_string(DIGEST)))
-
-
 def seals(certificate):
-    def dates(later):
-        return [time(("20" if later else "") + day + "000000Z") for day in ("260101", "260101", "280101")]
+    mark = bit_string(DIGEST)
+    signed = (octet_string(certificate), SM3_WITH_SM2)
     header = sequence(text("ES", 0x16), VERSION, text("maker", 0x16))
     picture = sequence(text("png", 0x16), octet_string(b"\x89PNG"), integer(40), integer(30))
-    earlier = sequence(VERSION, text("A seal"), sequence(octet_string(certificate)), *dates(False))
-    info = sequence(header, text("seal-1", 0x16), earlier, picture)
-    seal = sequence(info, sequence(octet_string(certificate), SM3_WITH_SM2, bit_string(DIGEST)))
-    yield "seal", seal
-    yield "seal-signature", sequence(
-        sequence(VERSION, seal, bit_string(DIGEST), bit_string(DIGEST), text("/1/a", 0x16), octet_string(certificate),
-                 SM3_WITH_SM2), bit_string(DIGEST))
+    days = ("260101000000Z", "260101000000Z", "280101000000Z")
     digest = sequence(sequence(text("SM3", 0x13), octet_string(DIGEST)))
-    later = sequence(VERSION, text("A seal"), integer(2), digest, *dates(True))
-    info = sequence(header, text("seal-1", 0x16), later, picture)
-    seal = sequence(info, octet_string(certificate), SM3_WITH_SM2, bit_string(DIGEST))
-    yield "gb-seal", seal
-    yield "gb-seal-signature", sequence(
-        sequence(VERSION, seal, NOW, bit_string(DIGEST), text("/1/a", 0x16)), octet_string(certificate), SM3_WITH_SM2,
-        bit_string(DIGEST))
+    earlier = sequence(VERSION, text("A seal"), sequence(signed[0]), *[time(day) for day in days])
+    later = sequence(VERSION, text("A seal"), integer(2), digest, *[time("20" + day) for day in days])
+    info, gb_info = [sequence(header, text("seal-1", 0x16), details, picture) for details in (earlier, later)]
+    seal = sequence(info, sequence(*signed, mark))
+    gb_seal = sequence(gb_info, *signed, mark)
+    yield "seal", seal
+    yield "seal-signature", sequence(sequence(VERSION, seal, mark, mark, text("/1/a", 0x16), *signed), mark)
+    yield "gb-seal", gb_seal
+    yield "gb-seal-signature", sequence(sequence(VERSION, gb_seal, NOW, mark, text("/1/a", 0x16)), *signed, mark)
 
 
-def by_hand(made):
+def by_hand(made, work):
     certificate = made["certificate"]
-    yield "attribute-certificate", attribute_certificate()
-    yield "authenticated", authenticated()
+    roles = dict(built.attribute_certificates())["roles"]
+    yield "attribute-certificate", sequence(roles(built.SHA256), built.SHA256, bit_string(DIGEST))
+    yield "authenticated", messages.authenticated(work)
     yield "authenticode", authenticode(made["signed"])
     yield "signed-data", Element(made["signed"]).parts()[1].parts()[0].octets
     chain = sequence(sequence(made["token"]))
-    yield "evidence-record", sequence(VERSION, sequence(SHA256), sequence(chain))
+    yield "evidence-record", sequence(VERSION, sequence(built.SHA256), sequence(chain))
     yield from seals(certificate)
     yield "sm2-enveloped-key", sequence(sequence(oid("1.2.156.10197.1.104.1")), made["sm2-cipher"],
                                         bit_string(b"\4" + bytes(64)), bit_string(DIGEST))
-    search = sequence(integer(2), Element(sequence(octet_string(b"o=a"), integer(2, 10), integer(0, 10), integer(0),
-                                                   integer(0), boolean(False), context(7, b"objectClass", primitive=True),
-                                                   sequence())).octets.replace(b"\x30", b"\x63", 1))
-    yield "ldap-message", search
+    search = wrap(0x63, octet_string(b"o=a"), integer(2, 10), integer(0, 10), integer(0), integer(0), boolean(False),
+                  context(7, b"objectClass", primitive=True), sequence())
+    yield "ldap-message", sequence(integer(2), search)
     references = context(0, context(0, Element(certificate).content))
     request = sequence(sequence(references, sequence(BASIC_PATH), POLICY))
     yield "scvp-request", messages.content_info("1.2.840.113549.1.9.16.1.10", request)
@@ -169,9 +147,9 @@ def by_hand(made):
     yield "crl-bag", sequence(oid("1.2.840.113549.1.9.23.1"), context(0, octet_string(made["crl"])))
     yield "code-time-stamp-request", sequence(oid("1.3.6.1.4.1.311.3.2.1"),
                                               messages.content_info("1.2.840.113549.1.7.1", octet_string(DIGEST)))
-    yield "name", NAME
+    yield "name", built.ISSUER
     yield "extensions", sequence(extension("2.5.29.19", sequence(boolean(True)), True))
-    yield "digest-info", sequence(SHA256, octet_string(DIGEST))
+    yield "digest-info", sequence(built.SHA256, octet_string(DIGEST))
     yield "algorithm", sequence(oid("1.2.840.113549.1.1.10"), sequence(context(2, integer(32))))
 
 
@@ -180,7 +158,7 @@ def main(kinds):
         work = pathlib.Path(folder)
         prepare(work)
         made = {kind: openssl(*command.split(), cwd=work) for kind, command in COMMANDS.items()}
-    made.update(by_hand(made))
+        made.update(by_hand(made, work))
     for kind, octets in made.items():
         if not kinds or kind in kinds:
             (HERE / f"{kind}.der").write_bytes(octets)
