@@ -118,6 +118,7 @@ class TypedJudge : public TypedVisitor {
   };
 
   std::optional<Placed> place_of(const Node &node);
+  bool is_written(const Placed &placed, const Node &node) const;
   std::optional<Placed> next_element(const Node &node, std::int64_t own_type);
   std::optional<Placed> behind_tags(Placed placed,
                                     const std::vector<ContextTag> &tags,
@@ -146,12 +147,21 @@ std::string TypedJudge::path_to(const Node &node) const {
   return path;
 }
 
+// Whether an element with the tag of a default is that, and not the next component, which has the
+// same tag in ATSHashIndex.
+bool TypedJudge::is_written(const Placed &placed, const Node &node) const {
+  if (!node.tags.empty()) return true;
+  const Octets element = elements_.octets(placed.element.offset, placed.after);
+  return Decoded(node.type_id, element).get() != nullptr;
+}
+
 // The element of a component, which is then done with. Nothing for a default that was left out.
 std::optional<Placed> TypedJudge::next_element(const Node &node, std::int64_t own_type) {
   Frame &around = frames_.back();
   const std::optional<Placed> placed = elements_.at(around.position, around.end);
   const Match matched = placed ? match(placed->element, node.tags, own_type) : Match::no;
-  const bool found = node.is_default ? matched == Match::yes : matched != Match::no;
+  const bool found =
+      node.is_default ? matched == Match::yes && is_written(*placed, node) : matched != Match::no;
   if (!found) {
     if (!node.is_default) around.position = around.end;  // what follows cannot be told either
     return std::nullopt;

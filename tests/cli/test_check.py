@@ -143,6 +143,7 @@ class Typed(Case):
                 ("Extension", encoded("30", "0603551d0f 0403 030100")), ("Extension", KEY_USAGE + "03020102"),
                 ("Extension", encoded("30", "0603551d13", FALSE, "2407 0405 3003 010100"),
                  (7, ".critical", "default-value"), (10, None, "primitive-string")),
+                ("ATSHashIndex", "300a 3004 0402cafe 3000 3000"),  # the algorithm, of the same tag, is left out
                 ("BasicConstraints", "3080 010100 0000", (1, None, "definite-length"), (2, ".cA", "default-value"))]:
             octets = bytes.fromhex(octets) if isinstance(octets, str) else octets
             with self.subTest(octets.hex()):
