@@ -185,10 +185,9 @@ enum quarn_stream_kind {
 /** Operations of quarn_stream_ctrl(). */
 enum quarn_stream_operation {
   QUARN_STREAM_REWIND = 1, /**< set the read position to 0; the argument is ignored */
-  QUARN_STREAM_LENGTH =
-      2,                  /**< store the total length through a uint64_t *; all ones when unknown */
-  QUARN_STREAM_SEEK = 8,  /**< set the read position to the uint64_t pointed to, 0 to the length */
-  QUARN_STREAM_ATEND = 11 /**< succeed only when the read position is at the end */
+  QUARN_STREAM_LENGTH = 2, /**< store the length through a uint64_t *; all ones when unknown */
+  QUARN_STREAM_SEEK = 8,   /**< set the read position to the uint64_t pointed to, 0 to the length */
+  QUARN_STREAM_ATEND = 11  /**< succeed only when the read position is at the end */
 };
 
 /** Functions of a callback stream. user is handed through unchanged. */
@@ -352,7 +351,7 @@ QUARN_UTIL_API int quarn_biginteger_neg(quarn_biginteger *b);
 QUARN_UTIL_API int quarn_biginteger_unsigned_tonbuf(const quarn_biginteger *b,
                                                     uint8_t *buffer,
                                                     int64_t size);
-QUARN_UTIL_API void quarn_biginteger_free(quarn_biginteger *b);
+QUARN_UTIL_API void quarn_biginteger_free(quarn_biginteger *b); /**< releases a big integer */
 
 /* ---- Bit sets -------------------------------------------------------------------------------- */
 
@@ -373,7 +372,7 @@ QUARN_UTIL_API int quarn_bitset_isset(const quarn_bitset *b, int64_t n);
 QUARN_UTIL_API int64_t quarn_bitset_getcount(const quarn_bitset *b);
 /** The octets as a new blob, trailing zero bits included; unused_bits receives 0 to 7. */
 QUARN_UTIL_API quarn_data_blob *quarn_bitset_getdata(const quarn_bitset *b, uint32_t *unused_bits);
-QUARN_UTIL_API void quarn_bitset_free(quarn_bitset *b);
+QUARN_UTIL_API void quarn_bitset_free(quarn_bitset *b); /**< releases a bit set */
 
 /* ---- Times ----------------------------------------------------------------------------------- */
 
@@ -408,16 +407,16 @@ QUARN_UTIL_API quarn_time *quarn_time_newutctime(
 /** From fields in the process's local time zone; holds the UTC instant. */
 QUARN_UTIL_API quarn_time *quarn_time_newlocaltime(
     int year, int month, int day, int hour, int minute, int second, int nanoseconds);
-QUARN_UTIL_API quarn_time *quarn_time_dup(const quarn_time *t);
-QUARN_UTIL_API void quarn_time_free(quarn_time *t);
-/** Fields in UTC; all getters give 0 for null. */
+QUARN_UTIL_API quarn_time *quarn_time_dup(const quarn_time *t); /**< a copy; null for null */
+QUARN_UTIL_API void quarn_time_free(quarn_time *t);             /**< releases a time */
+/** The year in UTC; 0 for null, as from the getters that follow. */
 QUARN_UTIL_API int quarn_time_getyear(const quarn_time *t);
-QUARN_UTIL_API int quarn_time_getmonth(const quarn_time *t);
-QUARN_UTIL_API int quarn_time_getday(const quarn_time *t);
-QUARN_UTIL_API int quarn_time_gethour(const quarn_time *t);
-QUARN_UTIL_API int quarn_time_getminute(const quarn_time *t);
-QUARN_UTIL_API int quarn_time_getsecond(const quarn_time *t);
-QUARN_UTIL_API int quarn_time_getns(const quarn_time *t);
+QUARN_UTIL_API int quarn_time_getmonth(const quarn_time *t);  /**< 1 to 12 */
+QUARN_UTIL_API int quarn_time_getday(const quarn_time *t);    /**< 1 to 31 */
+QUARN_UTIL_API int quarn_time_gethour(const quarn_time *t);   /**< 0 to 23 */
+QUARN_UTIL_API int quarn_time_getminute(const quarn_time *t); /**< 0 to 59 */
+QUARN_UTIL_API int quarn_time_getsecond(const quarn_time *t); /**< 0 to 60 */
+QUARN_UTIL_API int quarn_time_getns(const quarn_time *t);     /**< nanoseconds, 0 to 999999999 */
 /** 1: every time object is in UTC; 0 for null. */
 QUARN_UTIL_API int quarn_time_isutctime(const quarn_time *t);
 /** 1 when the instant is one of the leap seconds inserted from 1972 to 2016. */
@@ -449,7 +448,7 @@ QUARN_UTIL_API int quarn_ustring_toutf32be(const quarn_ustring *u,
                                            int64_t *count);
 /** 1 when the octets are valid UTF-8, by the rule of quarn_ustring_newutf8(). */
 QUARN_UTIL_API int quarn_utf8_valid(const uint8_t *octets, int64_t count);
-QUARN_UTIL_API void quarn_ustring_free(quarn_ustring *u);
+QUARN_UTIL_API void quarn_ustring_free(quarn_ustring *u); /**< releases a string */
 
 /* ---- JSON values ----------------------------------------------------------------------------- */
 
@@ -466,13 +465,14 @@ enum quarn_json_kind {
   QUARN_JSON_OBJECT = 6
 };
 
-QUARN_UTIL_API quarn_json *quarn_json_newnull(void);
-QUARN_UTIL_API quarn_json *quarn_json_newobject(void);
-QUARN_UTIL_API quarn_json *quarn_json_newarray(void);
+QUARN_UTIL_API quarn_json *quarn_json_newnull(void);   /**< a null */
+QUARN_UTIL_API quarn_json *quarn_json_newobject(void); /**< an object without members */
+QUARN_UTIL_API quarn_json *quarn_json_newarray(void);  /**< an array without items */
 /** From UTF-8 text, which is copied; null when it is not valid UTF-8. U+0000 is accepted. */
 QUARN_UTIL_API quarn_json *quarn_json_newstring(const char *text, uint32_t length);
 /** From a finite number; null for NaN and infinities, which JSON cannot write. */
 QUARN_UTIL_API quarn_json *quarn_json_newnumber(double value);
+/** True when value is not 0. */
 QUARN_UTIL_API quarn_json *quarn_json_newboolean(int value);
 
 /** Appends a member to an object, which takes the value over. On failure the value stays the

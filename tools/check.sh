@@ -24,6 +24,9 @@ for header in include/*.h include/quarn_asn1/*.h; do
     cc -x $language -Wall -Wextra -Wpedantic -Werror -fsyntax-only "$header"
   done
 done
+step "each exported name is documented"
+awk '/^QUARN_(ASN1|UTIL)_API/ && !/\/\*\*</ && (before !~ /\*\/$/ || before ~ /^\/\* /) { print FILENAME ": " $0; bad = 1 }
+  { before = $0 } END { exit bad }' include/*.h include/quarn_asn1/*.h
 [ "${1:-}" != quick ] || exit 0
 
 for preset in release asan; do

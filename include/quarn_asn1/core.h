@@ -25,8 +25,7 @@ enum quarn_asn1_result {
   QUARN_ASN1_MORE = -100     /**< a result: more octets are needed to go on */
 };
 
-/* ---- Whole values by type id ------------------------------------------------------------------
- */
+/* ---- Whole values by type id */
 
 /**
  * Encodes one value.
@@ -126,8 +125,7 @@ QUARN_ASN1_API int64_t quarn_asn1_mem_decode(const uint8_t *octets,
                                              int64_t type_id,
                                              void **value);
 
-/* ---- What is known of a type ------------------------------------------------------------------
- */
+/* ---- What is known of a type */
 
 /** One row of the registry. */
 typedef struct quarn_asn1_type_description {
@@ -145,8 +143,7 @@ QUARN_ASN1_API int quarn_asn1_type_describe(int64_t type_id,
 /** The id of a type by its name, or -1. */
 QUARN_ASN1_API int64_t quarn_asn1_type_find(const char *name);
 
-/* ---- Identifier, length, end-of-contents ------------------------------------------------------
- */
+/* ---- Identifier, length, end-of-contents */
 
 /** Writes identifier octets. form: not 0 primitive, 0 constructed. */
 QUARN_ASN1_API int quarn_asn1_encode_identifier(quarn_stream *s,
@@ -212,8 +209,7 @@ QUARN_ASN1_API int quarn_asn1_mem_header(const uint8_t *octets,
                                          int64_t count,
                                          quarn_asn1_header *header);
 
-/* ---- Errors and version ------------------------------------------------------------------------
- */
+/* ---- Errors and version */
 
 /** Records the encode code of a type under the caller's file and line; 0x1026b for an unknown id.
  */

@@ -16,8 +16,7 @@
 extern "C" {
 #endif
 
-/* ---- Decoding ----------------------------------------------------------------------------------
- */
+/* ---- Decoding */
 
 /**
  * Where a message had its content. All three are -1 for a message without any.
@@ -71,8 +70,7 @@ QUARN_ASN1_API int quarn_asn1_decode_pkcs7signeddata_ex(quarn_stream *stream,
                                                         uint64_t *consumed,
                                                         quarn_err_ctx *ctx);
 
-/* ---- Reading content where it lies -------------------------------------------------------------
- */
+/* ---- Reading content where it lies */
 
 /**
  * A new stream of the content of the element that begins at an offset of a source: of an OCTET
@@ -90,8 +88,7 @@ QUARN_ASN1_API quarn_stream *quarn_asn1_contentstream_new(quarn_stream *source,
                                                           uint64_t offset,
                                                           quarn_err_ctx *ctx);
 
-/* ---- Writing -----------------------------------------------------------------------------------
- */
+/* ---- Writing */
 
 /**
  * Begins a signed message whose content comes in pieces: writes what stands before the content, in

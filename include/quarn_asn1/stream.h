@@ -34,8 +34,7 @@
 extern "C" {
 #endif
 
-/* ---- One element of any type ------------------------------------------------------------------
- */
+/* ---- One element of any type */
 
 /** The state of decoding one element. */
 typedef struct quarn_asn1_decode_any_ctx quarn_asn1_decode_any_ctx;
@@ -101,8 +100,7 @@ QUARN_ASN1_API int quarn_asn1_decode_any_ctx_toobject(quarn_asn1_decode_any_ctx 
                                                       int64_t type_id,
                                                       void **value);
 
-/* ---- The content of an OCTET STRING ------------------------------------------------------------
- */
+/* ---- The content of an OCTET STRING */
 
 /** The state of decoding one OCTET STRING, primitive (04) or constructed of such (24). */
 typedef struct quarn_asn1_decode_octetstring_ctx quarn_asn1_decode_octetstring_ctx;
