@@ -47,10 +47,6 @@ std::int32_t room_for(std::int64_t length) {
       std::clamp<std::int64_t>(length / kElementOctets, few, kMostNear));
 }
 
-void free_items(quarn_asn1_list &list) {
-  if (list.block != list.near()) quarn_free(list.block);
-}
-
 bool grow(quarn_asn1_list &list) {
   std::int32_t capacity = std::max(list.capacity, kFirstBlock / 2);
   if (!multiply_by<std::int32_t>(capacity, 2)) return false;
@@ -58,7 +54,7 @@ bool grow(quarn_asn1_list &list) {
   if (items == nullptr) return false;
   const auto count = static_cast<std::size_t>(list.count);
   if (count > 0) std::memcpy(items, list.items, count * sizeof(void *));
-  free_items(list);
+  list.free_items();
   list.block = list.items = items;
   list.capacity = capacity;
   return true;
@@ -73,7 +69,7 @@ template <typename Release>
 void free_with(quarn_asn1_list *list, Release release) {
   if (list == nullptr) return;
   for (std::int32_t i = 0; i < list->count; i++) release(list->items[i]);
-  free_items(*list);
+  list->free_items();
   quarn_free(list);
 }
 
@@ -349,21 +345,6 @@ void free_list(quarn_asn1_list *list, const Type &element) {
   free_with(list, [&element](void *value) { free_value(element, value); });
 }
 
-// The elements go to the front of their block, and items is the link; capacity is the number of
-// their type's row.
-void WaitingLists::add(quarn_asn1_list &list, const Type &element) {
-  const auto count = static_cast<std::size_t>(list.count);
-  if (list.items != list.block) std::memmove(list.block, list.items, count * sizeof(void *));
-  list.items = reinterpret_cast<void **>(first_);
-  list.capacity = static_cast<std::int32_t>(&element - kTypes);
-  first_ = &list;
-}
-
-void WaitingLists::free_alone(quarn_asn1_list &list) {
-  free_items(list);
-  quarn_free(&list);
-}
-
 std::int64_t list_content_length(const quarn_asn1_list *list, const Type &element) {
   return length_with(list, [&element](const void *value) { return length_of(element, value); });
 }
@@ -423,23 +404,20 @@ Status encode_anylist(const Type & /*type*/, Writer &out, void *value, std::int6
   return encode_list_content(out, list_of(value), any_type(), length);
 }
 
+template <std::int32_t kLeast>
 Status decode_anylist_value(
     const Type & /*type*/, Reader &in, void **value, bool primitive, std::int64_t length) {
-  return decode_anylist(in, reinterpret_cast<quarn_asn1_list **>(value), primitive, length, 0);
-}
-
-Status decode_anylist_1_value(
-    const Type & /*type*/, Reader &in, void **value, bool primitive, std::int64_t length) {
-  return decode_anylist(in, reinterpret_cast<quarn_asn1_list **>(value), primitive, length, 1);
+  auto **list = reinterpret_cast<quarn_asn1_list **>(value);
+  return decode_anylist(in, list, primitive, length, kLeast);
 }
 
 }  // namespace
 
-const Codec kAnylistCodec = {free_anylist,   anylist_content_length, nullptr,
-                             encode_anylist, decode_anylist_value,   nullptr,
+const Codec kAnylistCodec = {free_anylist,   anylist_content_length,  nullptr,
+                             encode_anylist, decode_anylist_value<0>, nullptr,
                              nullptr};
-const Codec kAnylist1Codec = {free_anylist,   anylist_content_length, nullptr,
-                              encode_anylist, decode_anylist_1_value, nullptr,
+const Codec kAnylist1Codec = {free_anylist,   anylist_content_length,  nullptr,
+                              encode_anylist, decode_anylist_value<1>, nullptr,
                               nullptr};
 
 }  // namespace quarn::asn1

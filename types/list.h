@@ -8,6 +8,8 @@
 #ifndef QUARN_TYPES_LIST_H
 #define QUARN_TYPES_LIST_H
 
+#include <cstring>
+
 #include "core/type.h"
 #include "quarn_asn1/types.h"
 
@@ -19,6 +21,9 @@ struct quarn_asn1_list {
 
   // The room in the list's own block.
   void **near() { return reinterpret_cast<void **>(this + 1); }
+  void free_items() {
+    if (block != near()) quarn_free(block);
+  }
 };
 
 namespace quarn::asn1 {
@@ -39,7 +44,15 @@ void free_list(quarn_asn1_list *list, const Type &element);
 class WaitingLists {
  public:
   bool is_empty() const { return first_ == nullptr; }
-  void add(quarn_asn1_list &list, const Type &element);
+  // The elements go to the front of their block, and items is the link; capacity is the number of
+  // their type's row.
+  void add(quarn_asn1_list &list, const Type &element) {
+    const auto count = static_cast<std::size_t>(list.count);
+    if (list.items != list.block) std::memmove(list.block, list.items, count * sizeof(void *));
+    list.items = reinterpret_cast<void **>(first_);
+    list.capacity = static_cast<std::int32_t>(&element - kTypes);
+    first_ = &list;
+  }
   // Calls release(type, element) for each element of the list that was added last, which may add
   // more, and frees the list.
   template <typename Release>
@@ -48,12 +61,11 @@ class WaitingLists {
     const Type &element = kTypes[list.capacity];
     first_ = reinterpret_cast<quarn_asn1_list *>(list.items);
     for (std::int32_t i = 0; i < list.count; i++) release(element, list.block[i]);
-    free_alone(list);
+    list.free_items();
+    quarn_free(&list);
   }
 
  private:
-  static void free_alone(quarn_asn1_list &list);
-
   quarn_asn1_list *first_ = nullptr;
 };
 
