@@ -109,10 +109,10 @@ TEST(Work, a_small_value_is_one_block_or_exists_already) {
       {QUARN_ASN1_NULL, "05 00", 0},
       {QUARN_ASN1_OID, "06 03 55 04 03", 0},
   };
-  for (const auto &[type, text, allocations] : values) {
-    const Octets octets = read_octets(text);
-    const Cost cost = cost_of([&] { EXPECT_GT(Held(type, octets).consumed(), 0); });
-    EXPECT_EQ(cost.allocations, allocations) << text;
+  for (const auto &value : values) {
+    const Octets octets = read_octets(value.octets);
+    const Cost cost = cost_of([&] { EXPECT_GT(Held(value.type, octets).consumed(), 0); });
+    EXPECT_EQ(cost.allocations, value.allocations) << value.octets;
   }
 }
 
