@@ -31,10 +31,12 @@ TEST(MemoryStream, each_refusal_leaves_one_record_and_the_position) {
   EXPECT_EQ(quarn_stream_writen(s.get(), "x", 1, ctx.get()), 0);
   EXPECT_EQ(quarn_stream_readn(s.get(), buffer, -1, ctx.get()), 0);
   EXPECT_EQ(quarn_stream_readn(nullptr, buffer, 1, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_read(s.get(), nullptr, 1, &got, ctx.get()), 0);
+  EXPECT_EQ(quarn_stream_writen(s.get(), buffer, -1, ctx.get()), 0);
   EXPECT_EQ(control(s, 3, nullptr, ctx.get()), 0);
   EXPECT_EQ(seek(s, 6, ctx.get()), 0);
-  EXPECT_EQ(codes_in(ctx.get()),
-            (std::vector<int>{0x10103, 0x10103, 0x10104, 0x10001, 0x10002, 0x10105, 0x10106}));
+  EXPECT_EQ(codes_in(ctx.get()), (std::vector<int>{0x10103, 0x10103, 0x10104, 0x10001, 0x10002,
+                                                   0x10002, 0x10001, 0x10105, 0x10106}));
   EXPECT_EQ(quarn_err_ctx_offset(ctx.get(), 0), 2);
   uint8_t octet = 0;
   uint8_t *octets = &octet;

@@ -227,6 +227,9 @@ TEST(TextEncodings, bad_arguments_leave_null_and_end_a_loop) {
   for (const char *label : {"A-----", "A\nB", "\x80"}) {
     EXPECT_EQ(quarn_pemencode(label, &octet, 1, &text, nullptr), 0);
   }
+  EXPECT_EQ(quarn_pemencode("A", &octet, -1, &text, nullptr), 0);
+  EXPECT_EQ(quarn_base64encode(0, &octet, -1, &text, nullptr), 0);
+  EXPECT_EQ(quarn_hexencode(1, &octet, -1, &text, nullptr), 0);
   EXPECT_EQ(text, nullptr);
   quarn_pem_block block;
   for (int64_t offset : {-1, 5}) {
