@@ -29,11 +29,15 @@ struct Definition {
 // Null for universal and open types.
 const Definition *definition_of(std::int64_t type_id);
 
-// The ids that a definition serves.
+// By its name, of which upper and lower case are the same; null when there is none.
+const Definition *definition_named(const std::string &name);
+
+// The ids that a definition serves. One that is only part of others has an id that callers do not
+// know, from QUARN_ASN1_TYPE_COUNT on.
 std::vector<std::int64_t> ids_of(const Definition &definition);
 
-// "Certificate.tbsCertificate" for each place where the type stands.
-std::vector<std::string> places_of(std::int64_t type_id);
+// "Certificate.tbsCertificate" for each place where one of the types stands.
+std::vector<std::string> places_of(const std::vector<std::int64_t> &type_ids);
 
 }  // namespace quarn::cli
 

@@ -14,7 +14,7 @@
 #include "cli/output.h"
 #include "cli/text.h"
 #include "cli/walk.h"
-#include "quarn_asn1/core.h"
+#include "quarn_asn1/inspect.h"
 
 namespace quarn::cli {
 
@@ -53,6 +53,15 @@ std::string table_line(std::int64_t id, const quarn_asn1_type_description &type)
   return column(std::to_string(id), 3) + column(type.name, 34) + column(tag_text(type), 14) +
          column(form_text(type), 11) + column(code_text(type.error_code), 7) +
          code_text(type.error_code + 1) + "\n";
+}
+
+// Of the ids that callers know; empty for none.
+std::string table(const std::vector<std::int64_t> &ids) {
+  std::string text;
+  for (const std::int64_t id : ids) {
+    if (id < QUARN_ASN1_TYPE_COUNT) text += table_line(id, description_of(id));
+  }
+  return text.empty() ? text : table_head() + text;
 }
 
 // The members of an object, without its braces.
@@ -97,9 +106,12 @@ std::string list_text(const std::string &title, std::vector<std::string> words) 
   return wrapped(title, words);
 }
 
-// Where a type stands, and what identifies it there.
-std::string uses_text(std::int64_t id) {
-  return list_text("stands in", places_of(id)) + list_text("named by", identifiers_of(id));
+// Where types stand, and what identifies them there.
+std::string uses_text(const std::vector<std::int64_t> &ids) {
+  std::vector<std::string> names;
+  for (const std::int64_t id : ids)
+    std::ranges::copy(identifiers_of(id), std::back_inserter(names));
+  return list_text("stands in", places_of(ids)) + list_text("named by", names);
 }
 
 std::string paragraphs_text(const char *text) {
@@ -110,17 +122,31 @@ std::string paragraphs_text(const char *text) {
   return all;
 }
 
-// One type, whole: its rows, what it is, its ASN.1, where it stands and its functions.
+// A definition, whole: its rows, what it is, its ASN.1, where it stands and its functions.
+std::string description_text(const Definition &definition) {
+  const std::vector<std::int64_t> ids = ids_of(definition);
+  std::string text = table(ids);
+  text += (text.empty() ? "" : "\n") + paragraphs_text(definition.text) + "\n";
+  text += indented(definition.asn1) + "\n";
+  text += wrapped("standard", words_of(definition.standard));
+  text += uses_text(ids);
+  text += wrapped("header", {definition.header});
+  return text + wrapped("functions", words_of(definition.functions));
+}
+
+// The same of a type, which need not have a definition.
 std::string description_text(std::int64_t id) {
-  const Definition *definition = definition_of(id);
-  std::string text = table_head();
-  if (definition == nullptr) return text + table_line(id, description_of(id)) + uses_text(id);
-  for (const std::int64_t one : ids_of(*definition)) text += table_line(one, description_of(one));
-  text += "\n" + paragraphs_text(definition->text) + "\n" + indented(definition->asn1) + "\n";
-  text += wrapped("standard", words_of(definition->standard));
-  text += uses_text(id);
-  text += wrapped("header", {definition->header});
-  return text + wrapped("functions", words_of(definition->functions));
+  if (const Definition *definition = definition_of(id); definition != nullptr) {
+    return description_text(*definition);
+  }
+  quarn_asn1_shape shape{};
+  static_cast<void>(quarn_asn1_type_shape(id, &shape));
+  const quarn_asn1_type_description type = description_of(id);
+  const std::string asn1 = shape.base == id
+                               ? shape.name
+                               : "[" + tag_text(type) + "] IMPLICIT " + notation_of(shape.base);
+  return table({id}) + "\n" + indented(asn1.c_str()) + "\n" + uses_text({id}) +
+         wrapped("header", {"quarn_asn1/types.h"});
 }
 
 std::string json_components(const Definition &definition) {
@@ -145,7 +171,7 @@ std::string description_json(std::int64_t id) {
             ",\"header\":" + json_string(definition->header) +
             ",\"functions\":" + json_list(words_of(definition->functions));
   }
-  return text + ",\"stands_in\":" + json_list(places_of(id)) +
+  return text + ",\"stands_in\":" + json_list(places_of({id})) +
          ",\"named_by\":" + json_list(identifiers_of(id));
 }
 
@@ -155,12 +181,6 @@ std::vector<std::int64_t> matching(const std::string &pattern) {
     if (matches(description_of(id).name, pattern)) ids.push_back(id);
   }
   return ids;
-}
-
-std::string table(const std::vector<std::int64_t> &ids) {
-  std::string text = table_head();
-  for (const std::int64_t id : ids) text += table_line(id, description_of(id));
-  return text;
 }
 
 std::string json_table(const std::vector<std::int64_t> &ids) {
@@ -181,6 +201,10 @@ int run_types(const Arguments &arguments) {
     return kGood;
   }
   const std::vector<std::int64_t> ids = matching(name);
+  if (const Definition *inner = definition_named(name); inner != nullptr && !json) {
+    standard_output().write(description_text(*inner));
+    return kGood;
+  }
   if (json || !ids.empty()) standard_output().write(json ? json_table(ids) : table(ids));
   if (!ids.empty()) return kGood;
   say("quarn types: no type's name matches " + in_quotes(name));

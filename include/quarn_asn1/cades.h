@@ -355,7 +355,7 @@ QUARN_ASN1_API quarn_crlidentifier *quarn_crlvalidatedid_getcrlidentifier(
 /* ---- CrlValidatedIDs */
 
 /**
- * Digests of CRLs.
+ * Digests of CRLs (RFC 5126, 6.2.2).
  *
  *     CrlValidatedIDs ::= SEQUENCE OF CrlValidatedID
  *
@@ -438,7 +438,7 @@ QUARN_ASN1_API quarn_otherhash *quarn_ocspresponsesid_getocsprefhash(
 /* ---- OcspResponsesIDs */
 
 /**
- * Names of OCSP responses.
+ * Names of OCSP responses (RFC 5126, 6.2.2).
  *
  *     OcspResponsesIDs ::= SEQUENCE OF OcspResponsesID
  *
@@ -1005,7 +1005,7 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_adobe_otherrevinfo_getvalue(
 /* ---- OtherRevInfos */
 
 /**
- * Revocation information of other kinds.
+ * Revocation information of other kinds (ISO 32000-1, 12.8.3.3.2).
  *
  *     OtherRevInfos ::= SEQUENCE OF OtherRevInfo
  *
@@ -1017,7 +1017,7 @@ QUARN_ASN1_API void quarn_adobe_otherrevinfos_free(quarn_asn1_list *value);
 /* ---- RevocationInfoCRLs */
 
 /**
- * CRLs in a PDF signature.
+ * CRLs in a PDF signature (ISO 32000-1, 12.8.3.3.2).
  *
  *     RevocationInfoCRLs ::= SEQUENCE OF CertificateList
  *
@@ -1028,7 +1028,7 @@ QUARN_ASN1_API void quarn_adobe_crls_free(quarn_asn1_list *value);
 /* ---- RevocationInfoOCSPResponses */
 
 /**
- * Whole OCSP responses in a PDF signature.
+ * Whole OCSP responses in a PDF signature (ISO 32000-1, 12.8.3.3.2).
  *
  *     RevocationInfoOCSPResponses ::= SEQUENCE OF OCSPResponse
  *

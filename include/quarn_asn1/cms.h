@@ -197,7 +197,7 @@ QUARN_ASN1_API quarn_asn1_list *quarn_cmssignerinfo_getunsignattrs(
 /* ---- SignerInfos */
 
 /**
- * The signatures of a message.
+ * The signatures of a message (RFC 5652, 5.1).
  *
  *     SignerInfos ::= SET OF SignerInfo
  *
@@ -208,7 +208,7 @@ QUARN_ASN1_API void quarn_cmssignerinfos_free(quarn_asn1_list *value);
 /* ---- DigestAlgorithmIdentifiers */
 
 /**
- * Algorithms in no order.
+ * Algorithms in no order (RFC 5652, 5.1).
  *
  *     DigestAlgorithmIdentifiers ::= SET OF AlgorithmIdentifier
  *
@@ -335,7 +335,7 @@ QUARN_ASN1_API quarn_cmsotherrevinfoformat *quarn_cmsrevinfochoice_getotherrevin
 /* ---- CertificateSet */
 
 /**
- * The certificates of a message.
+ * The certificates of a message (RFC 5652, 10.2.3).
  *
  *     CertificateSet ::= SET OF CertificateChoices
  *
@@ -347,7 +347,7 @@ QUARN_ASN1_API void quarn_cmscertset_free(quarn_asn1_list *value);
 /* ---- RevocationInfoChoices */
 
 /**
- * The revocation information of a message.
+ * The revocation information of a message (RFC 5652, 10.2.1).
  *
  *     RevocationInfoChoices ::= SET OF RevocationInfoChoice
  *
@@ -789,7 +789,7 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_cmsrecipientenckey_getencryptedkey(
 /* ---- RecipientEncryptedKeys */
 
 /**
- * Keys encrypted with agreed ones.
+ * Keys encrypted with agreed ones (RFC 5652, 6.2.2).
  *
  *     RecipientEncryptedKeys ::= SEQUENCE OF RecipientEncryptedKey
  *
@@ -997,7 +997,7 @@ QUARN_ASN1_API quarn_cmsotherrecipientinfo *quarn_cmsrecipientinfo_getori(
 /* ---- RecipientInfos */
 
 /**
- * The recipients of a message.
+ * The recipients of a message (RFC 5652, 6.1).
  *
  *     RecipientInfos ::= SET OF RecipientInfo
  *

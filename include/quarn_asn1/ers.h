@@ -26,7 +26,7 @@ extern "C" {
 /* ---- AlgorithmIdentifiers */
 
 /**
- * Algorithms one after another.
+ * Algorithms one after another (RFC 4998, 3.1).
  *
  *     AlgorithmIdentifiers ::= SEQUENCE OF AlgorithmIdentifier
  *

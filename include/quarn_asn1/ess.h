@@ -112,7 +112,7 @@ QUARN_ASN1_API quarn_ess_issuerserial *quarn_ess_certidv2_getissuerserial(
 /* ---- ESSCertIDs */
 
 /**
- * Certificates by their SHA-1 hashes, the signer's first.
+ * Certificates by their SHA-1 hashes, the signer's first (RFC 2634, 5.4).
  *
  *     ESSCertIDs ::= SEQUENCE OF ESSCertID
  *
@@ -123,7 +123,7 @@ QUARN_ASN1_API void quarn_ess_certids_free(quarn_asn1_list *value);
 /* ---- ESSCertIDv2s */
 
 /**
- * Certificates by their hashes, the signer's first.
+ * Certificates by their hashes, the signer's first (RFC 5035, 3).
  *
  *     ESSCertIDv2s ::= SEQUENCE OF ESSCertIDv2
  *

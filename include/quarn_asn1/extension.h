@@ -130,7 +130,7 @@ QUARN_ASN1_API quarn_asn1_oid *quarn_x509generalname_getregid(const quarn_x509ge
 /* ---- GeneralNames */
 
 /**
- * Names of any kinds.
+ * Names of any kinds (RFC 5280, 4.2.1.6).
  *
  *     GeneralNames ::= SEQUENCE OF GeneralName
  *
@@ -272,7 +272,7 @@ QUARN_ASN1_API void quarn_x509policyinfos_free(quarn_asn1_list *value);
 /* ---- NoticeNumbers */
 
 /**
- * Numbers of notices.
+ * Numbers of notices (RFC 5280, 4.2.1.4).
  *
  *     NoticeNumbers ::= SEQUENCE OF INTEGER
  *
@@ -447,7 +447,7 @@ QUARN_ASN1_API quarn_asn1_integer *quarn_x509generaltree_getmaximum(
 /* ---- GeneralSubtrees */
 
 /**
- * Parts of the space of names.
+ * Parts of the space of names (RFC 5280, 4.2.1.10).
  *
  *     GeneralSubtrees ::= SEQUENCE OF GeneralSubtree
  *
@@ -459,7 +459,7 @@ QUARN_ASN1_API void quarn_x509generaltrees_free(quarn_asn1_list *value);
 /* ---- NameForms */
 
 /**
- * OBJECT IDENTIFIERs of name forms.
+ * OBJECT IDENTIFIERs of name forms (X.509, 9.4.2.2).
  *
  *     NameForms ::= SEQUENCE {
  *         basicNameForms  [0] IMPLICIT BIT STRING OPTIONAL,
@@ -962,7 +962,7 @@ QUARN_ASN1_API quarn_semanticsinformation *quarn_semanticsinformation_new(
 /* ---- OctetStrings */
 
 /**
- * OCTET STRINGs one after another.
+ * OCTET STRINGs one after another; also the PartialHashtree of RFC 4998.
  *
  *     OctetStrings ::= SEQUENCE OF OCTET STRING
  *

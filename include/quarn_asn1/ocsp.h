@@ -86,7 +86,7 @@ QUARN_ASN1_API quarn_asn1_list *quarn_ocsp_request_getexts(const quarn_ocsp_requ
 /* ---- RequestList */
 
 /**
- * The questions of a request.
+ * The questions of a request (RFC 6960, 4.1.1).
  *
  *     RequestList ::= SEQUENCE OF Request
  *
@@ -399,7 +399,7 @@ QUARN_ASN1_API quarn_asn1_list *quarn_ocsp_singleresponse_getexts(
 /* ---- SingleResponses */
 
 /**
- * The answers of a response.
+ * The answers of a response (RFC 6960, 4.2.1).
  *
  *     SingleResponses ::= SEQUENCE OF SingleResponse
  *

@@ -26,7 +26,7 @@ extern "C" {
 /* ---- Attributes */
 
 /**
- * The attributes of a request: X.500 attributes without contexts.
+ * The attributes of a request (RFC 2986, 4.1): X.500 attributes without contexts.
  *
  *     Attributes ::= SET OF Attribute
  *
@@ -37,7 +37,8 @@ QUARN_ASN1_API void quarn_pkcs10attributes_free(quarn_asn1_list *value);
 /* ---- CertificationRequestInfo */
 
 /**
- * The part of a request that its subject signs. attributes is written also when it is empty.
+ * The part of a request that its subject signs (RFC 2986, 4.1). attributes is written also when it
+ * is empty.
  *
  *     CertificationRequestInfo ::= SEQUENCE {
  *         version        INTEGER { v1(0) },
@@ -75,7 +76,8 @@ QUARN_ASN1_API quarn_asn1_list *quarn_pkcs10certreqinfo_getattrs(
 /* ---- CertificationRequest */
 
 /**
- * A request for a certificate. A decoded one keeps its octets and encodes to exactly these.
+ * A request for a certificate (RFC 2986, 4.2). A decoded one keeps its octets and encodes to
+ * exactly these.
  *
  *     CertificationRequest ::= SEQUENCE {
  *         certificationRequestInfo  CertificationRequestInfo,

@@ -55,7 +55,7 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_ses_extdata_getextnvalue(
 /* ---- ExtensionDatas */
 
 /**
- * The extensions of a seal.
+ * The extensions of a seal (GM/T 0031, GB/T 38540).
  *
  *     ExtensionDatas ::= SEQUENCE OF ExtData
  *
@@ -391,7 +391,7 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_ses_certdigestobj_getvalue(
 /* ---- CertDigestList */
 
 /**
- * Digests of certificates.
+ * Digests of certificates (GB/T 38540).
  *
  *     CertDigestList ::= SEQUENCE OF CertDigestObj
  *

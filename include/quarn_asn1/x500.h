@@ -52,7 +52,7 @@ QUARN_ASN1_API quarn_asn1_boolean *quarn_x500context_getfallback(const quarn_x50
 /* ---- ContextList */
 
 /**
- * Contexts of one value.
+ * Contexts of one value (X.501).
  *
  *     ContextList ::= SET OF Context
  *
@@ -63,7 +63,7 @@ QUARN_ASN1_API void quarn_x500contextlist_free(quarn_asn1_list *value);
 /* ---- ValueWithContext */
 
 /**
- * One of several values that a relative distinguished name has in different contexts.
+ * One of several values that a relative distinguished name has in different contexts (X.501, 9.3).
  *
  *     ValueWithContext ::= SEQUENCE {
  *         distingAttrValue  [0] EXPLICIT ANY OPTIONAL,
@@ -92,7 +92,7 @@ QUARN_ASN1_API quarn_asn1_list *quarn_x500dnvalueswithcontextitem_getcontexts(
 /* ---- ValuesWithContext */
 
 /**
- * The values that a relative distinguished name has in different contexts.
+ * The values that a relative distinguished name has in different contexts (X.501, 9.3).
  *
  *     ValuesWithContext ::= SET OF ValueWithContext
  *
@@ -151,7 +151,7 @@ QUARN_ASN1_API quarn_x500attrtypedistval *quarn_pkixattrtypeval_new(const quarn_
 /* ---- RelativeDistinguishedName */
 
 /**
- * One level of a distinguished name: an attribute, rarely more.
+ * One level of a distinguished name: an attribute, rarely more (X.501, 9.3).
  *
  *     RelativeDistinguishedName ::= SET OF AttributeTypeAndDistinguishedValue
  *
@@ -200,7 +200,7 @@ QUARN_ASN1_API int quarn_x500name_sort(quarn_x500name *name);
 /* ---- AttributeValueWithContext */
 
 /**
- * One of several values that an attribute has in different contexts.
+ * One of several values that an attribute has in different contexts (X.501, 8.2).
  *
  *     AttributeValueWithContext ::= SEQUENCE {
  *         value        ANY,
@@ -223,7 +223,7 @@ QUARN_ASN1_API quarn_asn1_list *quarn_x500attrvalueswithcontextitem_getcontexts(
 /* ---- AttributeValuesWithContext */
 
 /**
- * The values that an attribute has in different contexts.
+ * The values that an attribute has in different contexts (X.501, 8.2).
  *
  *     AttributeValuesWithContext ::= SET OF AttributeValueWithContext
  *

@@ -26,8 +26,9 @@ extern "C" {
 /* ---- AlgorithmIdentifier */
 
 /**
- * An OBJECT IDENTIFIER and what it calls for: an algorithm and its parameters, a capability, a
- * policy qualifier, a statement. An explicit NULL and absent parameters are different values.
+ * An OBJECT IDENTIFIER and what it calls for: an algorithm and its parameters (RFC 5280, 4.1.1.2),
+ * a capability, a policy qualifier, a statement. An explicit NULL and absent parameters are
+ * different values.
  *
  *     AlgorithmIdentifier ::= SEQUENCE {
  *         algorithm   OBJECT IDENTIFIER,
@@ -63,7 +64,7 @@ QUARN_ASN1_API int quarn_x509algoid_isnullparam(const quarn_x509algoid *value);
 /* ---- Validity */
 
 /**
- * From when until when a certificate is valid, both included.
+ * From when until when a certificate is valid, both included (RFC 5280, 4.1.2.5).
  *
  *     Validity ::= SEQUENCE {
  *         notBefore  Time,
@@ -141,7 +142,7 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_x509extension_getextnvalue(
 /* ---- Extensions */
 
 /**
- * The extensions of a certificate, a list or a message.
+ * The extensions of a certificate, a list or a message (RFC 5280, 4.1.2.9).
  *
  *     Extensions ::= SEQUENCE OF Extension
  *
@@ -378,7 +379,7 @@ QUARN_ASN1_API quarn_asn1_list *quarn_x509revokedcert_getcrlentryextensions(
 /* ---- RevokedCertificates */
 
 /**
- * The entries of a certificate revocation list.
+ * The entries of a certificate revocation list (RFC 5280, 5.1.2.6).
  *
  *     RevokedCertificates ::= SEQUENCE OF RevokedCertificate
  *

@@ -338,6 +338,9 @@ class Tables(Case):
         validity = Run("types", "validity").out
         for text in ("    Validity ::= SEQUENCE {\n", "stands in   TBSCertificate.validity", "quarn_x509validity_new"):
             self.assertIn(text, validity)
+        self.assertIn("bindRequest           BindRequest,", Run("types", "protocolop").out)  # which has no id
+        self.assertIn("[APPLICATION 16] IMPLICIT INTEGER\n\nstands in   ProtocolOp.", Run("types", "349").out)
+        self.assertIn("ReducedHashtree, ", Run("types", "OctetStrings").out)  # by the second of its ids
         clearance, = json.loads(Run("types", "--json", "Clearance").out)
         self.assertIn("attribute 2.5.4.55", clearance["named_by"])
         self.assertEqual(clearance["components"][1],

@@ -13,7 +13,7 @@ functions that are its own. A tag is written only where the row has one; CHOICEs
 decode code is the encode code plus one. A type without a name in ASN.1 is a universal or an open type.
 
 """
-STANDARD = re.compile(r"\(([^()]*\b(?:RFC|X\.|PKCS|GM/T|GB/T|EN|TS) ?#?\d[^()]*)\)")
+STANDARD = re.compile(r"\(([^()]*\b(?:RFC|X\.|ISO|PKCS|GM/T|GB/T|EN|TS) ?#?\d[^()]*)\)")
 
 
 class Catalogue:
@@ -24,14 +24,14 @@ class Catalogue:
         self.module_of = {definition.name: module for module in modules for definition in module.definitions}
 
     def standard(self, definition):
-        """Where a type is defined: what its own text says, or else the head of its module."""
+        """Where a type is defined: what its own text says, or else the one standard of its module."""
         if "layout" in definition.notes:  # nothing public defines it
             return ""
-        for lines in (definition.text, self.module_of[definition.name].head):
-            found = STANDARD.search(" ".join(lines))
-            if found:
-                return found[1]
-        return ""
+        found = STANDARD.search(" ".join(definition.text))
+        if found:
+            return found[1]
+        found = STANDARD.findall(" ".join(self.module_of[definition.name].head))
+        return found[0] if len(found) == 1 and not re.search(r",.*[A-Z]", found[0]) else ""
 
     # ---- docs/types.md
 
@@ -67,13 +67,14 @@ class Catalogue:
     def table(self):
         definitions = [definition for module in self.modules for definition in module.definitions]
         numbers = {definition.name: number for number, definition in enumerate(definitions)}
-        of = [str(numbers[self.described[row.id][0].name]) if row.id in self.described else "-1"
-              for row in self.registry]
+        inner = sorted(row_id for row_id in self.described if row_id >= len(self.registry))
+        of = [str(numbers[self.described[row_id][0].name]) if row_id in self.described else "-1"
+              for row_id in [*range(len(self.registry)), *inner]]
         return "\n".join(
             [*(components(definition, numbers[definition.name]) for definition in definitions),
              "constexpr Definition kDefinitions[] = {\n" +
              "".join(self.entry(definition, numbers[definition.name]) for definition in definitions) + "};\n",
-             "// By type id.\nconstexpr std::int16_t kDefinitionOf[] = {\n" +
+             "// By type id; behind those of callers, the ids of definitions that are only parts of others.\nconstexpr std::int16_t kDefinitionOf[] = {\n" +
              textwrap.fill(", ".join(of), 99, initial_indent="    ", subsequent_indent="    ") + ",\n};\n"])
 
     def entry(self, definition, number):
