@@ -129,6 +129,16 @@ TEST(List, elements_of_a_type_are_decoded) {
       quarn_asn1_list_free(list, QUARN_ASN1_INTEGER);
     }
   }
+  const Octets octets = hex("020105");
+  const Stream s = memory_stream(octets);
+  quarn_asn1_list *list = nullptr;
+  const auto refused = [&](auto decodes, auto frees) {
+    return quarn_asn1_decode_list_content_ex(s.get(), &list, decodes, frees, 0, 3, 0, 1, 2, nullptr,
+                                             nullptr) == 0;
+  };
+  EXPECT_TRUE(refused(nullptr, release));
+  EXPECT_TRUE(refused(decode, nullptr));
+  EXPECT_EQ(list, nullptr);
 }
 
 int encode_element(quarn_stream *s, void *value, std::uint64_t *written, quarn_err_ctx *ctx) {
