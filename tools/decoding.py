@@ -163,6 +163,8 @@ def main(quarn, *options):
 
 
 if __name__ == "__main__":
+    if len(sys.argv) < 2 or sys.argv[2:] not in ([], ["--check"]):
+        sys.exit(__doc__)
     try:
         sys.exit(main(*sys.argv[1:]))
     except Mistake as mistake:

@@ -256,7 +256,8 @@ class CallersElements {
     const int form = item.primitive ? 1 : 0;
     status = Status::from(decode_(in.stream(), element, form, item.length, &consumed, in.ctx()));
     in.resume();
-    if (!status || add_to(consumed_, consumed)) return status;
+    std::uint64_t position = in.count();
+    if (!status || (add_to(consumed_, consumed) && add_to(position, consumed_))) return status;
     release(*element);
     return kUnit.fail(in.ctx(), QUARN_ASN1_ERROR_ITEM_LENGTH, in.offset());
   }
@@ -514,7 +515,9 @@ int quarn_asn1_encode_list_content_ex(quarn_stream *s,
       return kUnit.fail(ctx, QUARN_ASN1_ERROR_ITEM_LENGTH);
     });
   });
-  if (result == 1 && written != nullptr) *written = total + end;
+  if (result != 1) return result;
+  if (!add_to(total, end)) return kUnit.fail(ctx, QUARN_ASN1_ERROR_ITEM_LENGTH).raw();
+  if (written != nullptr) *written = total;
   return result;
 }
 

@@ -158,6 +158,13 @@ TEST(List, elements_are_encoded_in_order) {
   EXPECT_EQ(written, 6u);
   EXPECT_EQ(held_by(s), hex("040100 040101 0000 040100 040101"));
   EXPECT_EQ(quarn_asn1_encode_anylist_content(s.get(), list.get(), -2, nullptr, nullptr), 0);
+  const auto claim = [](quarn_stream *, void *, std::uint64_t *octets, quarn_err_ctx *) {
+    *octets = UINT64_MAX;
+    return 1;
+  };
+  EXPECT_EQ(
+      quarn_asn1_encode_list_content_ex(s.get(), list_of(1).get(), claim, -1, &written, nullptr),
+      0);
 }
 
 int write_octets(quarn_stream *s, void *value, std::uint64_t * /*written*/, quarn_err_ctx *ctx) {
