@@ -96,8 +96,8 @@ Match match(const Element &element, const std::vector<ContextTag> &tags, std::in
 
 class TypedJudge : public TypedVisitor {
  public:
-  TypedJudge(std::int64_t type_id, Octets octets, bool dig) : elements_(octets), dig_(dig) {
-    path_ = notation_of(type_id);
+  TypedJudge(std::int64_t type_id, Octets octets, bool dig)
+      : elements_(octets), dig_(dig), path_(notation_of(type_id)) {
     frames_.push_back({0, octets.size(), path_.size(), false, std::nullopt});
   }
 

@@ -76,7 +76,7 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_smimeencryptionkeypreference_getsub
 
 /**
  * A digest of a certificate, a CRL or a response: of SHA-1, whose length is not checked, or with
- * its algorithm (RFC 5126, 6.2.1).
+ * its algorithm (RFC 5126, 5.7.3.3).
  *
  *     OtherHash ::= CHOICE {
  *         sha1Hash   OCTET STRING,
@@ -104,7 +104,7 @@ QUARN_ASN1_API quarn_pkcsdigestinfo *quarn_otherhash_getotherhash(const quarn_ot
 /* ---- OtherCertID */
 
 /**
- * Names a certificate by its digest (RFC 5126, 6.2.1).
+ * Names a certificate by its digest (RFC 5126, 5.7.3.3).
  *
  *     OtherCertID ::= SEQUENCE {
  *         otherCertHash  OtherHash,

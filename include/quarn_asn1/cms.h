@@ -55,7 +55,7 @@ QUARN_ASN1_API quarn_asn1_any *quarn_pkcs7contentinfo_getcontent(
 /* ---- DigestedData */
 
 /**
- * Content with its digest (RFC 5652, 7).
+ * Content with its digest (RFC 2315, 12; RFC 5652, 7).
  *
  *     DigestedData ::= SEQUENCE {
  *         version          INTEGER,

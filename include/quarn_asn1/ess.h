@@ -26,7 +26,7 @@ extern "C" {
 /* ---- ESSIssuerSerial */
 
 /**
- * Names a certificate by its issuer and serial number (RFC 5035, 5). Unlike AttributeCertificate's,
+ * Names a certificate by its issuer and serial number (RFC 5035, 4). Unlike AttributeCertificate's,
  * it ends there.
  *
  *     ESSIssuerSerial ::= SEQUENCE {

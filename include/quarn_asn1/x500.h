@@ -300,7 +300,7 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_x500dirstring_getstring(
 /* ---- PKCS9String */
 
 /**
- * A string of a PKCS #9 attribute: a DirectoryString or an IA5String (RFC 2985, 5.4).
+ * A string of a PKCS #9 attribute: a DirectoryString or an IA5String (RFC 2985, 5.2.2).
  *
  *     PKCS9String ::= CHOICE {
  *         utf8String       UTF8String,

@@ -526,7 +526,7 @@ QUARN_ASN1_API void quarn_x509crls_free(quarn_asn1_list *value);
 /* ---- DigestInfo */
 
 /**
- * A digest and its algorithm (RFC 8017, A.2.4; RFC 3161, 2.4.1; RFC 5126, 6.2.1).
+ * A digest and its algorithm (RFC 8017, A.2.4; RFC 3161, 2.4.1; RFC 5126, 5.7.3.3).
  *
  *     DigestInfo ::= SEQUENCE {
  *         digestAlgorithm  AlgorithmIdentifier,
