@@ -149,6 +149,11 @@ void keys_and_certificates(Given &g) {
       "30 0F 02 01 05 " + kAlgorithm + "04 01 41 81 02 06 40");
   g.makes("too few octets", QUARN_ASN1_PKCS5RC2CBCPARAMETER,
           quarn_pkcs5rc2cbcparameter_new(nullptr, g.octets()), "");
+  g.makes("a salt that the type does not allow", QUARN_ASN1_PKCS5PBEPARAM,
+          quarn_pkcs5pbeparam_new(g.octets(), g.integer()), "");
+  const Lent salt = g.octets("04 08 (41)*8");
+  g.makes("one that it allows", QUARN_ASN1_PKCS5PBEPARAM,
+          quarn_pkcs5pbeparam_new(salt, g.integer()), "30 0D 04 08 (41)*8 02 01 05");
   g.makes("unknown", QUARN_ASN1_OCSP_CERTSTATUS, quarn_ocsp_certstatus_newunknown(), "82 00");
   const std::string digest = "30 0A " + kAlgorithm;
   const auto sign = quarn_cmsalgorithmprotection_newsign;
