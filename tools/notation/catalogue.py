@@ -10,7 +10,8 @@ HEAD = """# Types
 
 Every ASN.1 type that the library names, by its id, and below, by source, what each is made of and the
 functions that are its own. A tag is written only where the row has one; CHOICEs and open types have none. The
-decode code is the encode code plus one. A type without a name in ASN.1 is a universal or an open type.
+decode code is the encode code plus one. A type without a name in ASN.1 is a universal or an open type, or, in
+LDAP, a universal one under an APPLICATION tag.
 
 """
 STANDARD = re.compile(r"\(([^()]*\b(?:RFC|X\.|ISO|PKCS|GM/T|GB/T|EN|TS) ?#?\d[^()]*)\)")
