@@ -46,6 +46,7 @@ TEST(Laws, no_proper_prefix_decodes) {
       // Exactly as large as the prefix, so that a read past the end is seen.
       const Octets prefix(sample.in.begin(), sample.in.begin() + static_cast<std::ptrdiff_t>(size));
       EXPECT_EQ(Held(sample.type, prefix).consumed(), -1) << size << " octets";
+      EXPECT_EQ(quarn_asn1_tojson(prefix.data(), static_cast<std::int64_t>(size)), nullptr);
     }
   });
 }
