@@ -814,7 +814,7 @@ QUARN_ASN1_API quarn_ldapattributevalueassertion *quarn_ldapcomparerequest_getav
 /* ---- ExtendedRequest */
 
 /**
- * An operation that is defined elsewhere (RFC 4511, 4.12).
+ * An operation that LDAP itself does not define (RFC 4511, 4.12).
  *
  *     ExtendedRequest ::= [APPLICATION 23] IMPLICIT SEQUENCE {
  *         requestName   [0] IMPLICIT OCTET STRING,

@@ -306,7 +306,7 @@ QUARN_ASN1_API quarn_asn1_any *quarn_scvpvalidationalg_getparameters(
 /* ---- NameValidationAlgParms */
 
 /**
- * The parameters of validation for a name (RFC 5055, 3.2.4.2).
+ * The parameters of validation for a name (RFC 5055, 3.2.4.2.3).
  *
  *     NameValidationAlgParms ::= SEQUENCE {
  *         nameCompAlgId    OBJECT IDENTIFIER,
@@ -790,7 +790,7 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_scvpresponsestatus_geterrormessage(
 /* ---- HashValue */
 
 /**
- * A digest (RFC 5055, 4.6). The default algorithm is SHA-1, without parameters.
+ * A digest (RFC 5055, 4.6.1). The default algorithm is SHA-1, without parameters.
  *
  *     HashValue ::= SEQUENCE {
  *         algorithm  AlgorithmIdentifier DEFAULT '300706052B0E03021A'H,
@@ -1154,7 +1154,7 @@ QUARN_ASN1_API quarn_asn1_octetstring *quarn_scvpvalpolrequest_getrequestnonce(
 /* ---- SCVPPolicies */
 
 /**
- * Policies and algorithms that a server knows (RFC 5055, 6).
+ * Policies and algorithms that a server knows (RFC 5055, 6.9, 6.10, 6.11).
  *
  *     SCVPPolicies ::= SEQUENCE OF policy OBJECT IDENTIFIER
  *
@@ -1165,7 +1165,7 @@ QUARN_ASN1_API void quarn_scvpseqofoid_free(quarn_asn1_list *value);
 /* ---- SCVPHashAlgorithms */
 
 /**
- * Digests that a server knows (RFC 5055, 6).
+ * Digests that a server knows (RFC 5055, 6.17).
  *
  *     SCVPHashAlgorithms ::= SEQUENCE SIZE (1..MAX) OF algorithm OBJECT IDENTIFIER
  *
@@ -1177,7 +1177,7 @@ QUARN_ASN1_API void quarn_scvpseqofoidnoempty_free(quarn_asn1_list *value);
 /* ---- SCVPSignatureAlgorithms */
 
 /**
- * Signatures that a server makes or understands (RFC 5055, 6).
+ * Signatures that a server makes or understands (RFC 5055, 6.15, 6.16).
  *
  *     SCVPSignatureAlgorithms ::= SEQUENCE OF AlgorithmIdentifier
  *
@@ -1189,7 +1189,7 @@ QUARN_ASN1_API void quarn_scvpseqofalgoid_free(quarn_asn1_list *value);
 /* ---- KeyAgreePublicKey */
 
 /**
- * A key with which requests and responses are authenticated without signatures (RFC 5055, 6).
+ * A key with which requests and responses are authenticated without signatures (RFC 5055, 6.18).
  *
  *     KeyAgreePublicKey ::= SEQUENCE {
  *         algorithm     AlgorithmIdentifier,
@@ -1227,7 +1227,7 @@ QUARN_ASN1_API quarn_x509algoid *quarn_scvpkeyagreepublickey_getkdf(
 /* ---- KeyAgreePublicKeys */
 
 /**
- * Keys of a server (RFC 5055, 6).
+ * Keys of a server (RFC 5055, 6.18).
  *
  *     KeyAgreePublicKeys ::= SEQUENCE OF KeyAgreePublicKey
  *
