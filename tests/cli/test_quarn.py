@@ -6,6 +6,7 @@ options, tested when they are set.
 """
 
 import base64
+import ctypes
 import json
 import os
 import pathlib
@@ -47,6 +48,13 @@ class Run:
 def on_small_stack(command, octets):
     return subprocess.run(["sh", "-c", 'ulimit -s 256; exec "$0" "$@"', QUARN, *command], input=octets,
                           capture_output=True, timeout=300, env=ENVIRONMENT, check=False)
+
+
+def as_owner(command):
+    """A run that may read what its files' modes allow, also when root runs the tests."""
+    system = ctypes.CDLL(None)
+    return subprocess.run([QUARN, *command], capture_output=True, text=True, timeout=300, env=ENVIRONMENT, check=False,
+                          preexec_fn=lambda: [system.prctl(24, right) for right in (1, 2)])
 
 
 def on_terminal(command, octets, term="xterm"):
@@ -167,7 +175,8 @@ class Input(Case):
     def test_files_that_cannot_be_read(self):
         for *arguments, code, text in [
                 ("json", self.folder.name, 3, "is a directory; --recursive"),
-                ("dump", self.file("empty", ""), 1, "the input is empty"), ("der", "none", 3, "none: cannot be read"),
+                ("dump", self.file("empty", ""), 1, "the input is empty"),
+                ("der", "none", 3, "none: cannot be opened: No such file"),
                 ("dump", "--", "--none", 3, "--none: cannot be opened: No such file"), ("json", "dump", 3, "dump: ")]:
             self.check(Run(*arguments), code, text)
 
@@ -182,6 +191,20 @@ class Input(Case):
         self.assertEqual(names, ["a/bad\x1b\u202e", "a/z", "b"])
         self.assertNotIn("\x1b", run.out)
         self.check(Run("dump", "-r", self.folder.name), 5, r"a/bad\u{1B}\u{202E}")
+
+    def test_what_cannot_be_opened_hides_nothing(self):
+        for name in ("a/1", "closed/2", "z/3"):
+            self.file(name, NULL)
+        os.symlink("loop", self.path / "loop")
+        os.chmod(self.path / "closed", 0)
+        self.addCleanup(os.chmod, self.path / "closed", 0o700)
+        bad = [str(self.path / "closed/2"), str(self.path / "loop"), "n" * 5000]
+        run = as_owner(["json", "--lines", "-r", *bad, self.folder.name])
+        records = [json.loads(line) for line in run.stdout.splitlines()]
+        self.assertEqual((run.returncode, run.stderr), (5, ""))
+        self.assertEqual([r["source"] for r in records if r.get("error", {}).get("exit") == 3],
+                         [str(self.path / "closed"), *bad])
+        self.assertEqual([r["source"][-3:] for r in records if "error" not in r], ["a/1", "z/3"])
 
 
 class Json(Case):
