@@ -214,10 +214,7 @@ int run_der(const Arguments &arguments) {
     target.commit();
     return kGood;
   } catch (const Failure &failure) {
-    const bool of_output =
-        failure.code() == kFile &&
-        std::string_view(failure.what()).find("write to") != std::string_view::npos;
-    say("quarn der: " + (of_output ? "" : input_name(path) + ": ") + failure.what());
+    say_failure("der", path, nullptr, failure);
     return failure.code();
   }
 }

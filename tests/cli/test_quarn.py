@@ -350,6 +350,14 @@ class Errors(Case):
                                       env=ENVIRONMENT, check=False)
                 self.assertEqual(done.returncode, 3)
                 self.assertIn(b"cannot write to the standard output: No space left", done.stderr)
+        self.file("many/1", der.wrap(4, bytes(99999)))
+        self.file("many/2", der.wrap(4, bytes(99999)))
+        for command, out in [('exec "$@" /dev/full', "/dev/full: No space left on device"),
+                             ('ulimit -f 8; exec "$@" out', "out: File too large")]:
+            done = subprocess.run(["sh", "-c", command, "-", QUARN, "convert", "--to=hex", "-r", "many", "-o"],
+                                  cwd=self.path, capture_output=True, text=True, env=ENVIRONMENT, check=False)
+            self.assertEqual((done.returncode, done.stderr), (3, f"quarn: cannot write to {out}\n"))
+            self.assertEqual(os.listdir(self.path), ["many"])
         script = 'set -o pipefail; (sleep 0.1; printf "\\5\\0") | "$0" dump | true'
         done = subprocess.run(["bash", "-c", script, QUARN], capture_output=True, env=ENVIRONMENT, check=False)
         self.assertEqual((done.returncode, done.stderr), (128 + 13, b""))
