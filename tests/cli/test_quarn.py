@@ -105,7 +105,8 @@ class CommandLine(Case):
                 (["der", "--pem", "A", "--hex"], "exclude each other"),
                 (["der", "--pem", "A\nB"], "cannot be the label"), (["types", "a", "b"], "unexpected operand 'b'"),
                 (["error"], "CODE"), (["error", "0x102zz"], "no code"), (["help", "dmup"], "did you mean 'dump'?"),
-                (["\x1b[2J"], r"unknown command '\u{1B}[2J'")]:
+                (["\x1b[2J"], r"unknown command '\u{1B}[2J'"), (["no", "dump"], "unknown command 'no'"),
+                (["--depth", "0", "dump"], "quarn: unknown option '--depth'")]:
             with self.subTest(arguments):
                 run = Run(*arguments)
                 self.check(run, 2, text, "--help")
