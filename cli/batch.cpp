@@ -65,9 +65,8 @@ void Batch::add_directory(const std::string &directory) {
          it.increment(error)) {
       std::error_code ignored;
       if (it->is_regular_file(ignored)) files_.push_back(it->path().string());
-      if (it->symlink_status(ignored).type() == fs::file_type::directory) {
-        left.push_back(it->path().string());
-      }
+      const bool below = it->is_directory(ignored) && !it->is_symlink(ignored);
+      if (below) left.push_back(it->path().string());
     }
     if (!error) continue;
     objects_++;

@@ -199,12 +199,19 @@ class Input(Case):
         os.symlink("loop", self.path / "loop")
         os.chmod(self.path / "closed", 0)
         self.addCleanup(os.chmod, self.path / "closed", 0o700)
-        bad = [str(self.path / "closed/2"), str(self.path / "loop"), "n" * 5000]
-        run = as_owner(["json", "--lines", "-r", *bad, self.folder.name])
+        below = os.open(self.path, os.O_RDONLY)
+        for _ in range(17):  # together longer than a path may be
+            os.mkdir("d" * 250, dir_fd=below)
+            self.addCleanup(os.close, below)
+            below = os.open("d" * 250, os.O_RDONLY, dir_fd=below)
+        self.addCleanup(os.close, below)
+        run = as_owner(["json", "--lines", "-r", str(self.path / "closed/2"), str(self.path / "loop"), "n" * 5000,
+                        self.folder.name])
         records = [json.loads(line) for line in run.stdout.splitlines()]
         self.assertEqual((run.returncode, run.stderr), (5, ""))
-        self.assertEqual([r["source"] for r in records if r.get("error", {}).get("exit") == 3],
-                         [str(self.path / "closed"), *bad])
+        self.assertEqual(sorted(os.path.basename(r["source"])[:6] for r in records if "error" in r),
+                         ["2", "closed", "dddddd", "loop", "nnnnnn"])
+        self.assertEqual({r["error"]["exit"] for r in records if "error" in r}, {3})
         self.assertEqual([r["source"][-3:] for r in records if "error" not in r], ["a/1", "z/3"])
 
 
