@@ -52,21 +52,27 @@ void Batch::add(const std::string &operand, bool recursive) {
   }
 }
 
-// Links to directories are not followed, so that no loop can be entered; links to files are.
+// Links to directories are not followed, so that no loop can be entered; links to files are. A
+// directory that cannot be searched hides no other.
 void Batch::add_directory(const std::string &directory) {
   const std::size_t before = files_.size();
-  std::error_code error;
-  fs::recursive_directory_iterator it(directory, error);
-  while (!error && it != fs::recursive_directory_iterator()) {
-    std::error_code ignored;
-    if (it->is_regular_file(ignored)) files_.push_back(it->path().string());
-    it.increment(error);
+  std::vector<std::string> left{directory};
+  while (!left.empty()) {
+    const std::string next = std::move(left.back());
+    left.pop_back();
+    std::error_code error;
+    for (fs::directory_iterator it(next, error); !error && it != fs::directory_iterator();
+         it.increment(error)) {
+      std::error_code ignored;
+      if (it->is_regular_file(ignored)) files_.push_back(it->path().string());
+      const bool below = it->is_directory(ignored) && !it->is_symlink(ignored);
+      if (below) left.push_back(it->path().string());
+    }
+    if (!error) continue;
+    objects_++;
+    failed(next, nullptr, {kFile, "cannot be searched: " + error.message()});
   }
   std::sort(files_.begin() + static_cast<std::ptrdiff_t>(before), files_.end());
-  if (error) {
-    objects_++;
-    failed(directory, nullptr, {kFile, "cannot be searched: " + error.message()});
-  }
 }
 
 void Batch::visit_object(const Source &source, const Object &object) {

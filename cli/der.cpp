@@ -1,6 +1,5 @@
 // `quarn der`: JSON documents back to octets.
 #include <algorithm>
-#include <cerrno>
 
 #include "cli/commands.h"
 #include "cli/diagnosis.h"
@@ -201,16 +200,6 @@ void convert(std::string_view text, Form form, const std::string &label, Output 
   }
 }
 
-Blob read(const std::string &path) {
-  const Records records = new_records();
-  errno = 0;
-  Blob blob(quarn_data_blob_fromfile(path.c_str(), records.get()));
-  if (blob != nullptr) return blob;
-  const quarn_err_record *record = quarn_err_ctx_get(records.get(), 0);
-  if (record == nullptr || record->code == QUARN_ERROR_NO_MEMORY) throw std::bad_alloc();
-  throw errno != 0 ? system_failure("cannot be read") : Failure(kFile, "cannot be read");
-}
-
 }  // namespace
 
 int run_der(const Arguments &arguments) {
@@ -218,17 +207,14 @@ int run_der(const Arguments &arguments) {
   Target target("der", arguments, form);
   const std::string path = inputs_of(arguments).front();
   try {
-    const Blob blob = read(path);
+    const Blob blob = read_file(path);
     const std::string_view text(reinterpret_cast<const char *>(blob->data),
                                 static_cast<std::size_t>(blob->length));
     convert(text, form, arguments.value(Opt::pem), target.output());
     target.commit();
     return kGood;
   } catch (const Failure &failure) {
-    const bool of_output =
-        failure.code() == kFile &&
-        std::string_view(failure.what()).find("write to") != std::string_view::npos;
-    say("quarn der: " + (of_output ? "" : input_name(path) + ": ") + failure.what());
+    say_failure("der", path, nullptr, failure);
     return failure.code();
   }
 }

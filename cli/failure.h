@@ -46,6 +46,13 @@ inline Failure system_failure(const std::string &what) {
   return {kFile, what + ": " + std::strerror(errno)};
 }
 
+// What the command writes cannot be written, which is the fault of no input: it ends the run with
+// kFile.
+class OutputFailure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
 // The command line is wrong. The command's name, empty before one is known, says whose help to
 // point at.
 class UsageError : public std::runtime_error {

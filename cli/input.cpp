@@ -7,12 +7,11 @@
 // shown.
 #include "cli/input.h"
 
-#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 
 #include "cli/diagnosis.h"
 #include "cli/walk.h"
@@ -121,15 +120,14 @@ Form recognise(Octets text) {
   return Form::der;
 }
 
-// Gives the reason why a file cannot be opened, which the library's code does not tell.
-void check_readable(const std::string &path) {
+// Gives the reason why a file cannot be opened, which the library's code does not tell. It is not
+// opened here: that would be the reader which somebody who writes to a FIFO waits for.
+void check_readable(const std::string &path, const char *of_directory) {
   if (path == "-") return;
-  if (std::filesystem::is_directory(path)) {
-    throw Failure(kFile, "is a directory; --recursive takes the files below it");
-  }
-  const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (descriptor < 0) throw system_failure("cannot be opened");
-  ::close(descriptor);
+  struct stat status {};
+  if (::stat(path.c_str(), &status) != 0) throw system_failure("cannot be opened");
+  if (S_ISDIR(status.st_mode)) throw Failure(kFile, of_directory);
+  if (::access(path.c_str(), R_OK) != 0) throw system_failure("cannot be opened");
 }
 
 std::string first_record(const quarn_err_ctx *ctx) {
@@ -170,15 +168,20 @@ std::string input_name(const std::string &path) {
   return path == "-" ? "standard input" : printable(path);
 }
 
-Source::Source(std::string path, Form form) : path_(std::move(path)), form_(form) {
-  check_readable(path_);
+Blob read_file(const std::string &path, const char *of_directory) {
+  check_readable(path, of_directory);
   const Records ctx = new_records();
-  blob_.reset(quarn_data_blob_fromfile(path_.c_str(), ctx.get()));
-  if (blob_ == nullptr) {
-    const quarn_err_record *record = quarn_err_ctx_get(ctx.get(), 0);
-    if (record != nullptr && record->code == QUARN_ERROR_NO_MEMORY) throw std::bad_alloc();
-    throw Failure(kFile, "cannot be read: " + first_record(ctx.get()));
-  }
+  Blob blob(quarn_data_blob_fromfile(path.c_str(), ctx.get()));
+  if (blob != nullptr) return blob;
+  const quarn_err_record *record = quarn_err_ctx_get(ctx.get(), 0);
+  if (record == nullptr || record->code == QUARN_ERROR_NO_MEMORY) throw std::bad_alloc();
+  throw Failure(kFile, "cannot be read: " + first_record(ctx.get()));
+}
+
+Source::Source(std::string path, Form form)
+    : path_(std::move(path)),
+      blob_(read_file(path_, "is a directory; --recursive takes the files below it")),
+      form_(form) {
   text_ = {blob_->data, static_cast<std::size_t>(blob_->length)};
   if (text_.empty()) throw Failure(kBadInput, "the input is empty");
   if (form_ == Form::automatic) {

@@ -24,6 +24,9 @@ Form form_named(std::string_view name);
 // A path, fit to be printed.
 std::string input_name(const std::string &path);
 
+// All octets of a file; "-" is the standard input. Throws Failure, of a directory with that text.
+Blob read_file(const std::string &path, const char *of_directory = "is a directory");
+
 // One encoding, or what should have been one.
 struct Object {
   std::size_t index = 0;
@@ -56,8 +59,8 @@ class Source {
   void decode_base64();
 
   std::string path_;
-  Form form_;
   Blob blob_;
+  Form form_;
   Octets text_;
   std::vector<std::uint8_t> decoded_;
   std::vector<OwnedOctets> blocks_;

@@ -58,6 +58,9 @@ int run_guarded(int argc, const char *const *argv) {
   } catch (const Failure &failure) {
     say(std::string("quarn: ") + failure.what());
     return failure.code();
+  } catch (const OutputFailure &failure) {
+    say(std::string("quarn: ") + failure.what());
+    return kFile;
   } catch (const std::bad_alloc &) {
     say("quarn: not enough memory");
     return kLimit;
@@ -81,15 +84,17 @@ int main(int argc, char **argv) {
   // Whoever closes a pipe that this command writes to wants it to end without a word, also when the
   // parent process ignores the signal.
   static_cast<void>(std::signal(SIGPIPE, SIG_DFL));
+  // A file that may not grow any more fails as a full disk does.
+  static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
   quarn::cli::occupy_closed_streams();
   try {
     return quarn::cli::run_guarded(argc, argv);
   } catch (const quarn::cli::NobodyReads &) {
     return quarn::cli::kFile;
-  } catch (const quarn::cli::Failure &failure) {
+  } catch (const quarn::cli::OutputFailure &failure) {
     // Standard output failed while a message was being written.
     static_cast<void>(std::fprintf(stderr, "quarn: %s\n", failure.what()));
-    return failure.code();
+    return quarn::cli::kFile;
   } catch (const std::exception &error) {
     static_cast<void>(
         std::fprintf(stderr, "quarn: internal error: %s; please report it\n", error.what()));

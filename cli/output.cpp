@@ -40,7 +40,7 @@ void Output::empty_buffer(std::string_view more) {
   buffer_.clear();
   if (failed_ == EPIPE) throw NobodyReads();
   if (failed_ != 0) {
-    throw Failure(kFile, "cannot write to " + name_ + ": " + std::strerror(failed_));
+    throw OutputFailure("cannot write to " + name_ + ": " + std::strerror(failed_));
   }
 }
 

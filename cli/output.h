@@ -7,7 +7,7 @@
 
 namespace quarn::cli {
 
-// A buffered descriptor. Failing to write ends the run with kFile; when nobody reads any more it
+// A buffered descriptor. Failing to write throws OutputFailure; when nobody reads any more the run
 // ends without a word.
 class Output {
  public:

@@ -29,7 +29,7 @@ void remove_and_end(int number) {
 void remove_on_signals(const std::string &path) {
   if (path.size() >= sizeof unfinished) return;
   std::memcpy(unfinished, path.c_str(), path.size() + 1);
-  for (const int number : {SIGHUP, SIGINT, SIGPIPE, SIGTERM}) {
+  for (const int number : {SIGHUP, SIGINT, SIGPIPE, SIGQUIT, SIGTERM, SIGXCPU}) {
     struct sigaction action {};
     if (::sigaction(number, nullptr, &action) != 0 || action.sa_handler == SIG_IGN) continue;
     action.sa_handler = remove_and_end;
@@ -52,8 +52,8 @@ int make_temporary(std::string &path) {
 
 }  // namespace
 
-Failure OutputFile::failure(const char *what) const {
-  return system_failure(printable(path_) + ": " + what);
+OutputFailure OutputFile::failure(const char *what) const {
+  return OutputFailure(printable(path_) + ": " + what + ": " + std::strerror(errno));
 }
 
 OutputFile::OutputFile(std::string path) : path_(std::move(path)) {
@@ -72,7 +72,7 @@ OutputFile::OutputFile(std::string path) : path_(std::move(path)) {
     ::umask(mask);
     const mode_t mode = exists ? status.st_mode & 07777 : 0666 & ~mask;
     if (descriptor_ >= 0 && ::fchmod(descriptor_, mode) != 0) {
-      const Failure refused = failure("cannot be made");
+      const OutputFailure refused = failure("cannot be made");
       ::unlink(temporary_.c_str());
       throw refused;
     }

@@ -16,18 +16,18 @@ namespace quarn::cli {
 // is written as it is.
 class OutputFile {
  public:
-  // Throws Failure when the file cannot be made.
+  // Throws OutputFailure when the file cannot be made.
   explicit OutputFile(std::string path);
   ~OutputFile();
   OutputFile(const OutputFile &) = delete;
   OutputFile &operator=(const OutputFile &) = delete;
 
   Output &output() { return *output_; }
-  // Gives the file its name. Throws Failure.
+  // Gives the file its name. Throws OutputFailure.
   void commit();
 
  private:
-  Failure failure(const char *what) const;
+  OutputFailure failure(const char *what) const;
 
   std::string path_;
   std::string temporary_;

@@ -156,8 +156,8 @@ Parsed parse(int argc, const char *const *argv) {
     const std::string who = parsed.command == nullptr ? "" : parsed.command->name;
     throw UsageError(who, short_message(error));
   }
+  refuse_extras(app, nullptr);
   for (const CLI::App *sub : app.get_subcommands()) refuse_extras(*sub, parsed.command);
-  if (app.get_subcommands().empty()) refuse_extras(app, nullptr);
   check(parsed.command, parsed.arguments);
   return parsed;
 }

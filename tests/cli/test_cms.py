@@ -114,14 +114,16 @@ class Messages(Case):
             subprocess.run(f"{QUARN} cms --content {out} {signed} {end}", shell=True, capture_output=True, check=False)
             self.assertEqual(out.read_bytes(), b"A", end)
             out.unlink()
-        with subprocess.Popen([QUARN, "cms", "--content", str(self.path / "out")], stdin=subprocess.PIPE) as command:
-            command.stdin.write(self.octets("pieces")[:170000])
-            command.stdin.flush()
-            while len(os.listdir(self.path)) < 2:
-                time.sleep(0.01)
-            command.terminate()
-            self.assertEqual(command.wait(), -signal.SIGTERM)
-        self.assertEqual(os.listdir(self.path), ["m"])
+        for number in (signal.SIGTERM, signal.SIGXCPU):
+            with subprocess.Popen([QUARN, "cms", "--content", str(self.path / "out")],
+                                  stdin=subprocess.PIPE) as command:
+                command.stdin.write(self.octets("pieces")[:170000])
+                command.stdin.flush()
+                while len(os.listdir(self.path)) < 2:
+                    time.sleep(0.01)
+                command.send_signal(number)
+                self.assertEqual(command.wait(), -number)
+            self.assertEqual(os.listdir(self.path), ["m"])
 
     def test_signers_and_recipients_are_named(self):
         run = Run("cms", data=self.octets("signed"))

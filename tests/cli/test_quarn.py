@@ -6,6 +6,7 @@ options, tested when they are set.
 """
 
 import base64
+import ctypes
 import json
 import os
 import pathlib
@@ -47,6 +48,13 @@ class Run:
 def on_small_stack(command, octets):
     return subprocess.run(["sh", "-c", 'ulimit -s 256; exec "$0" "$@"', QUARN, *command], input=octets,
                           capture_output=True, timeout=300, env=ENVIRONMENT, check=False)
+
+
+def as_owner(command):
+    """A run that may read what its files' modes allow, also when root runs the tests."""
+    system = ctypes.CDLL(None)
+    return subprocess.run([QUARN, *command], capture_output=True, text=True, timeout=300, env=ENVIRONMENT, check=False,
+                          preexec_fn=lambda: [system.prctl(24, right) for right in (1, 2)])
 
 
 def on_terminal(command, octets, term="xterm"):
@@ -97,7 +105,8 @@ class CommandLine(Case):
                 (["der", "--pem", "A", "--hex"], "exclude each other"),
                 (["der", "--pem", "A\nB"], "cannot be the label"), (["types", "a", "b"], "unexpected operand 'b'"),
                 (["error"], "CODE"), (["error", "0x102zz"], "no code"), (["help", "dmup"], "did you mean 'dump'?"),
-                (["\x1b[2J"], r"unknown command '\u{1B}[2J'")]:
+                (["\x1b[2J"], r"unknown command '\u{1B}[2J'"), (["no", "dump"], "unknown command 'no'"),
+                (["--depth", "0", "dump"], "quarn: unknown option '--depth'")]:
             with self.subTest(arguments):
                 run = Run(*arguments)
                 self.check(run, 2, text, "--help")
@@ -167,7 +176,8 @@ class Input(Case):
     def test_files_that_cannot_be_read(self):
         for *arguments, code, text in [
                 ("json", self.folder.name, 3, "is a directory; --recursive"),
-                ("dump", self.file("empty", ""), 1, "the input is empty"), ("der", "none", 3, "none: cannot be read"),
+                ("dump", self.file("empty", ""), 1, "the input is empty"),
+                ("der", "none", 3, "none: cannot be opened: No such file"),
                 ("dump", "--", "--none", 3, "--none: cannot be opened: No such file"), ("json", "dump", 3, "dump: ")]:
             self.check(Run(*arguments), code, text)
 
@@ -182,6 +192,27 @@ class Input(Case):
         self.assertEqual(names, ["a/bad\x1b\u202e", "a/z", "b"])
         self.assertNotIn("\x1b", run.out)
         self.check(Run("dump", "-r", self.folder.name), 5, r"a/bad\u{1B}\u{202E}")
+
+    def test_what_cannot_be_opened_hides_nothing(self):
+        for name in ("a/1", "closed/2", "z/3"):
+            self.file(name, NULL)
+        os.symlink("loop", self.path / "loop")
+        os.chmod(self.path / "closed", 0)
+        self.addCleanup(os.chmod, self.path / "closed", 0o700)
+        below = os.open(self.path, os.O_RDONLY)
+        for _ in range(17):  # together longer than a path may be
+            os.mkdir("d" * 250, dir_fd=below)
+            self.addCleanup(os.close, below)
+            below = os.open("d" * 250, os.O_RDONLY, dir_fd=below)
+        self.addCleanup(os.close, below)
+        run = as_owner(["json", "--lines", "-r", str(self.path / "closed/2"), str(self.path / "loop"), "n" * 5000,
+                        self.folder.name])
+        records = [json.loads(line) for line in run.stdout.splitlines()]
+        self.assertEqual((run.returncode, run.stderr), (5, ""))
+        self.assertEqual(sorted(os.path.basename(r["source"])[:6] for r in records if "error" in r),
+                         ["2", "closed", "dddddd", "loop", "nnnnnn"])
+        self.assertEqual({r["error"]["exit"] for r in records if "error" in r}, {3})
+        self.assertEqual([r["source"][-3:] for r in records if "error" not in r], ["a/1", "z/3"])
 
 
 class Json(Case):
@@ -327,6 +358,14 @@ class Errors(Case):
                                       env=ENVIRONMENT, check=False)
                 self.assertEqual(done.returncode, 3)
                 self.assertIn(b"cannot write to the standard output: No space left", done.stderr)
+        self.file("many/1", der.wrap(4, bytes(99999)))
+        self.file("many/2", der.wrap(4, bytes(99999)))
+        for command, out in [('exec "$@" /dev/full', "/dev/full: No space left on device"),
+                             ('ulimit -f 8; exec "$@" out', "out: File too large")]:
+            done = subprocess.run(["sh", "-c", command, "-", QUARN, "convert", "--to=hex", "-r", "many", "-o"],
+                                  cwd=self.path, capture_output=True, text=True, env=ENVIRONMENT, check=False)
+            self.assertEqual((done.returncode, done.stderr), (3, f"quarn: cannot write to {out}\n"))
+            self.assertEqual(os.listdir(self.path), ["many"])
         script = 'set -o pipefail; (sleep 0.1; printf "\\5\\0") | "$0" dump | true'
         done = subprocess.run(["bash", "-c", script, QUARN], capture_output=True, env=ENVIRONMENT, check=False)
         self.assertEqual((done.returncode, done.stderr), (128 + 13, b""))
