@@ -29,7 +29,6 @@ std::string full_name(std::int64_t type_id) {
 Report report_of(const Decoded &tried, Octets octets) {
   Report report;
   report.records = tried.records();
-  report.expected = expected_of(tried.type_id(), tried.records());
   if (report.records.empty()) {
     report.found = tried.reason();
   } else {
@@ -41,8 +40,15 @@ Report report_of(const Decoded &tried, Octets octets) {
   return report;
 }
 
-bool nearer(const Tried &a, const Tried &b) {
+bool nearer(const Refusal &a, const Refusal &b) {
   return a.offset > b.offset;
+}
+
+// Why octets are refused is found out for the few types of which it is told: to walk them and to
+// look for names takes longer than to try all types.
+Refusal refusal_of(const Decoded &tried) {
+  const std::vector<Record> &records = tried.records();
+  return {tried.type_id(), records.empty() ? 0 : innermost(records).offset};
 }
 
 Sight sight_of(const Candidate &candidate, const Decoded &value) {
@@ -68,7 +74,7 @@ const Candidate *told_by(const std::string &label) {
 bool try_type(Guess &result, const Candidate &candidate, Octets octets) {
   Decoded value(candidate.type_id, octets);
   if (value.get() == nullptr) {
-    result.failed.push_back(why_not(value, octets));
+    result.failed.push_back(refusal_of(value));
     return false;
   }
   const Sight sight = sight_of(candidate, value);
@@ -115,7 +121,7 @@ Guess guess(Octets octets, const std::string &label) {
   Guess result;
   if (const Candidate *told = told_by(label)) {
     result.value = Decoded(told->type_id, octets);
-    if (result.value.get() == nullptr) result.failed.push_back(why_not(result.value, octets));
+    if (result.value.get() == nullptr) result.failed.push_back(refusal_of(result.value));
     return result;
   }
   for (const Candidate &candidate : candidates()) {
@@ -137,10 +143,12 @@ Decoded recognise(Octets octets, const std::string &label) {
 Failure no_type(const Guess &guess, Octets octets) {
   Report report;
   report.found = "no value of these types";
-  report.tried = guess.failed;
-  const std::string count = counted(report.tried.size(), "type");
-  if (report.tried.size() > kMostReasons) report.tried.resize(kMostReasons);
+  for (const Refusal &refusal : guess.failed) {
+    if (report.tried.size() == kMostReasons) break;
+    report.tried.push_back(why_not(Decoded(refusal.type_id, octets), octets));
+  }
   if (!report.tried.empty()) report.offset = report.tried.front().offset;
+  const std::string count = counted(guess.failed.size(), "type");
   return failure_of(std::move(report), octets,
                     "is of none of the " + count + " tried; --type names another");
 }
@@ -149,7 +157,9 @@ Decoded decode_as(std::int64_t type_id, Octets octets) {
   Decoded value(type_id, octets);
   if (value.get() != nullptr) return value;
   if (!well_formed(octets)) throw diagnose(octets, value.reason());
-  throw failure_of(report_of(value, octets), octets);
+  Report report = report_of(value, octets);
+  if (!value.too_deep()) report.expected = expected_of(type_id, report.records);
+  throw failure_of(std::move(report), octets);
 }
 
 std::int64_t find_type(const std::string &name) {

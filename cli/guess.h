@@ -12,10 +12,16 @@
 
 namespace quarn::cli {
 
+// A type that octets are not of, and how far its decoder came.
+struct Refusal {
+  std::int64_t type_id;
+  std::int64_t offset;
+};
+
 struct Guess {
   Decoded value;                     // null when nothing fits
   std::vector<std::int64_t> others;  // types that fit too
-  std::vector<Tried> failed;         // types that do not, the nearest first
+  std::vector<Refusal> failed;       // types that do not, the nearest first
 };
 
 // Tries the types that stand alone in files. `label` is that of the PEM block, or empty.
