@@ -1,71 +1,51 @@
 #!/usr/bin/env python3
-"""Makes the files of this folder, one of each kind that is told by sight: with openssl where it can, else by hand. Keys
-are new each time, so that it is run for a new kind only, and tools/decoding.py after it.
+"""Makes the files of this folder, one of each kind that is told by sight: from the corpus where it has one, else by
+hand. Run for a new kind only, and tools/decoding.py after it.
 
-    make.py [KIND…]
+    make.py CORPUS [KIND…]
 """
 
 import pathlib
 import sys
-import tempfile
 
 HERE = pathlib.Path(__file__).parent
 sys.path.insert(0, str(HERE.parent / "corpus"))
 
 import built  # noqa: E402
 import messages  # noqa: E402
-from der import (Element, bit_string, boolean, context, extension, integer, octet_string, oid, openssl,  # noqa: E402
-                 sequence, text, time, wrap)
+from der import (Element, bit_string, boolean, context, extension, integer, octet_string, oid, sequence,  # noqa: E402
+                 text, time)
 
-CONFIG = """[req]
-distinguished_name = name
-[name]
-[v3]
-basicConstraints = critical, CA:TRUE
-keyUsage = critical, keyCertSign, cRLSign, digitalSignature
-subjectAltName = DNS:example.org, otherName:1.3.6.1.4.1.311.20.2.3;UTF8:user@example.org
-[stamps]
-extendedKeyUsage = critical, timeStamping
-[ca]
-database = index
-default_md = sha256
-crlnumber = number
-[tsa]
-serial = number
-signer_digest = sha256
-digests = sha256
-default_policy = 1.2.3.4
+# Kind, and the files of the corpus of which the smallest is taken; if it has to hold an OBJECT IDENTIFIER, that.
+FOUND = """
+certificate x509pubkeycert/extensions16_*
+attribute-certificate attributecertificate/built_attributes.der
+crl x509crl/reason1.der
+request pkcs10certreq/both0.der
+signed pkcs7contentinfo/signed1.der
+enveloped pkcs7contentinfo/enveloped4.der
+digested pkcs7contentinfo/digest0.der
+encrypted pkcs7contentinfo/encrypted0.der
+certificates pkcs7contentinfo/certtool_certificate0.der
+authenticode pkcs7contentinfo/other* 1.3.6.1.4.1.311.2.1.4
+private-key pkcs8privatekeyinfo/other* 1.2.840.10045.2.1
+encrypted-private-key pkcs8encprivatekeyinfo/other* 1.2.840.113549.1.5.13
+pkcs12 pkcs12pfx/other* 1.2.840.113549.1.12.10.1.1
+rsa-private-key pkcs1rsaprivkey/other*
+ec-private-key ecprivatekey/other* 1.2.840.10045.3.1.7
+rsa-public-key pkcs1rsapubkey/other*
+curve ecpkparameters/other* 1.2.840.10045.3.1.7
+curve-parameters ecpkparameters/other* 1.2.840.10045.1.1
+dh-certificate x509pubkeycert/key_dh.der
+dsa-parameters dssparams/other*
+signature ecdsasigvalue/other*
+ocsp-request ocsp_ocsprequest/other*
+ocsp-response ocsp_ocspresponse/other*
+time-stamp-request tsp_timestampreq/other*
+time-stamp-response tsp_timestampresp/other* 1.2.840.113549.1.9.16.1.4
+sm2-cipher sm2cipher/other*
+ldap-message ldapmessage/3_*
 """
-SIGNER = "-signer ca.pem -inkey ec.key"
-COMMANDS = {  # each writes its file to standard output
-    "certificate": "x509 -in ca.pem -outform DER",
-    "crl": "crl -in list.pem -outform DER",
-    "request": "req -new -key ec.key -config config -reqexts v3 -subj /CN=a -outform DER",
-    "signed": f"cms -sign -in text -nodetach -outform DER {SIGNER}",
-    "enveloped": "cms -encrypt -in text -aes128 -outform DER -recip ca.pem",
-    "digested": "cms -digest_create -in text -md sha256 -outform DER",
-    "encrypted": "cms -EncryptedData_encrypt -in text -aes128 -secretkey 000102030405060708090a0b0c0d0e0f -outform DER",
-    "certificates": "crl2pkcs7 -nocrl -certfile ca.pem -outform DER",
-    "token": "ts -reply -queryfile query -config config -section tsa -signer tsa.pem -inkey ec.key -token_out",
-    "private-key": "pkcs8 -topk8 -nocrypt -in ec.key -outform DER",
-    "encrypted-private-key": "pkcs8 -topk8 -in ec.key -passout pass:a -outform DER",
-    "pkcs12": "pkcs12 -export -in ca.pem -inkey ec.key -passout pass:a -name one -keypbe NONE -certpbe NONE",
-    "rsa-private-key": "rsa -in rsa.key -traditional -outform DER",
-    "ec-private-key": "ec -in ec.key -outform DER",
-    "public-key": "pkey -in ec.key -pubout -outform DER",
-    "rsa-public-key": "rsa -in rsa.key -RSAPublicKey_out -outform DER",
-    "curve": "ecparam -name prime256v1 -outform DER",
-    "curve-parameters": "ecparam -name prime256v1 -param_enc explicit -outform DER",
-    "dh-parameters": "dhparam -outform DER 512",
-    "dsa-parameters": "dsaparam -in dsa.params -outform DER",
-    "signature": "dgst -sha256 -sign ec.key text",
-    "ocsp-request": "ocsp -issuer ca.pem -serial 1 -no_nonce -reqout /dev/stdout",
-    "ocsp-response": ("ocsp -index index -CA ca.pem -rsigner ca.pem -rkey ec.key -reqin request -resp_no_certs"
-                      " -respout /dev/stdout"),
-    "time-stamp-request": "ts -query -data text -cert",
-    "time-stamp-response": "ts -reply -queryfile query -config config -section tsa -signer tsa.pem -inkey ec.key",
-    "sm2-cipher": "pkeyutl -encrypt -inkey sm2.key -in text",
-}
 SM3_WITH_SM2 = oid("1.2.156.10197.1.501")
 DIGEST = bytes(range(32))
 NOW = time("20260101000000Z")
@@ -74,29 +54,19 @@ BASIC_PATH = oid("1.3.6.1.5.5.7.17.3")
 VERSION = integer(1)
 
 
-def prepare(work):
-    (work / "text").write_text("some text")
-    (work / "config").write_text(CONFIG)
-    (work / "number").write_text("0A")
-    (work / "index").write_text("R\t300101000000Z\t260101000000Z,keyCompromise\t01\tunknown\t/CN=x\n")
-    for command in ("genpkey -algorithm EC -pkeyopt ec_paramgen_curve:P-256 -out ec.key", "genpkey -algorithm SM2 -out sm2.key",
-                    "genpkey -algorithm RSA -pkeyopt rsa_keygen_bits:512 -out rsa.key",
-                    "genpkey -genparam -algorithm DSA -pkeyopt dsa_paramgen_bits:512 -out dsa.params",
-                    "req -x509 -new -key ec.key -config config -extensions v3 -subj /CN=ca -days 3650 -out ca.pem",
-                    "req -x509 -new -key ec.key -config config -extensions stamps -subj /CN=tsa -days 3650 -out tsa.pem",
-                    "ca -config config -name ca -gencrl -keyfile ec.key -cert ca.pem -out list.pem -crldays 30",
-                    "ocsp -issuer ca.pem -serial 1 -no_nonce -reqout request", "ts -query -data text -cert -out query"):
-        openssl(*command.split(), cwd=work)
+def found(corpus):
+    for kind, pattern, *held in map(str.split, FOUND.strip().split("\n")):
+        files = [path.read_bytes() for path in corpus.glob(pattern)]
+        yield kind, min([octets for octets in files if all(oid(each) in octets for each in held)], key=len)
 
 
-def authenticode(signed):
-    """What osslsigncode writes: PKCS #7, whose content is no OCTET STRING."""
-    image = sequence(bit_string(b""), context(0, context(2, context(0, primitive=True))))
-    indirect = sequence(sequence(oid("1.3.6.1.4.1.311.2.1.15"), image), sequence(built.SHA256, octet_string(DIGEST)))
-    version, digests, _, *rest = Element(Element(signed).parts()[1].content).parts()
-    content = messages.content_info("1.3.6.1.4.1.311.2.1.4", indirect)
-    return messages.content_info("1.2.840.113549.1.7.2",
-                                 sequence(version.octets, digests.octets, content, *[each.octets for each in rest]))
+def authenticated(corpus):
+    """With the recipient of an enveloped message, who has the key already."""
+    enveloped = Element((corpus / "pkcs7contentinfo/enveloped8.der").read_bytes()).parts()[1].parts()[0]
+    content = messages.content_info("1.2.840.113549.1.7.1", octet_string(b"some text"))
+    hmac = sequence(oid("1.2.840.113549.2.9"))
+    return messages.content_info("1.2.840.113549.1.9.16.1.2", sequence(
+        integer(0), enveloped.parts()[1].octets, hmac, content, octet_string(DIGEST)))
 
 
 def seals(certificate):
@@ -117,21 +87,17 @@ def seals(certificate):
     yield "gb-seal-signature", sequence(sequence(VERSION, gb_seal, NOW, mark, text("/1/a", 0x16)), *signed, mark)
 
 
-def by_hand(made, work):
-    certificate = made["certificate"]
-    roles = dict(built.attribute_certificates())["roles"]
-    yield "attribute-certificate", sequence(roles(built.SHA256), built.SHA256, bit_string(DIGEST))
-    yield "authenticated", messages.authenticated(work)
-    yield "authenticode", authenticode(made["signed"])
+def by_hand(made):
+    certificate, token = made["certificate"], Element(made["time-stamp-response"]).parts()[1].octets
+    yield "token", token
+    yield "public-key", Element(certificate).parts()[0].parts()[6].octets
+    dh_key = Element(made.pop("dh-certificate")).parts()[0].parts()[5]
+    yield "dh-parameters", dh_key.parts()[0].parts()[1].octets
     yield "signed-data", Element(made["signed"]).parts()[1].parts()[0].octets
-    chain = sequence(sequence(made["token"]))
-    yield "evidence-record", sequence(VERSION, sequence(built.SHA256), sequence(chain))
+    yield "evidence-record", sequence(VERSION, sequence(built.SHA256), sequence(sequence(sequence(token))))
     yield from seals(certificate)
     yield "sm2-enveloped-key", sequence(sequence(oid("1.2.156.10197.1.104.1")), made["sm2-cipher"],
                                         bit_string(b"\4" + bytes(64)), bit_string(DIGEST))
-    search = wrap(0x63, octet_string(b"o=a"), integer(2, 10), integer(0, 10), integer(0), integer(0), boolean(False),
-                  context(7, b"objectClass", primitive=True), sequence())
-    yield "ldap-message", sequence(integer(2), search)
     references = context(0, context(0, Element(certificate).content))
     request = sequence(sequence(references, sequence(BASIC_PATH), POLICY))
     yield "scvp-request", messages.content_info("1.2.840.113549.1.9.16.1.10", request)
@@ -153,16 +119,12 @@ def by_hand(made, work):
     yield "algorithm", sequence(oid("1.2.840.113549.1.1.10"), sequence(context(2, integer(32))))
 
 
-def main(kinds):
-    with tempfile.TemporaryDirectory() as folder:
-        work = pathlib.Path(folder)
-        prepare(work)
-        made = {kind: openssl(*command.split(), cwd=work) for kind, command in COMMANDS.items()}
-        made.update(by_hand(made, work))
-    for kind, octets in made.items():
-        if not kinds or kind in kinds:
-            (HERE / f"{kind}.der").write_bytes(octets)
+def main(corpus, *kinds):
+    made = dict(found(corpus))
+    made |= {"authenticated": authenticated(corpus), **dict(by_hand(made))}
+    for kind in kinds or made:
+        (HERE / f"{kind}.der").write_bytes(made[kind])
 
 
 if __name__ == "__main__":
-    main(sys.argv[1:])
+    main(pathlib.Path(sys.argv[1]), *sys.argv[2:])
