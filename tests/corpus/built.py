@@ -1,12 +1,11 @@
 """To-be-signed objects that the openssl command signs but cannot write: attribute certificates (RFC 5755),
 unique identifiers, version 2, unusual strings and times, CRLs of other authorities or without an end."""
 
-from der import (Element, bit_string, boolean, context, extension, integer, name, octet_string, oid, rdn, sequence,
-                 set_of, text, time, wrap)
+from der import (SHA256, Element, attribute, bit_string, boolean, context, extension, integer, name, octet_string, oid,
+                 rdn, sequence, set_of, text, time, wrap)
 
 PRINTABLE, TELETEX, IA5, UNIVERSAL, BMP = 0x13, 0x14, 0x16, 0x1C, 0x1E
 COMMON_NAME, ORGANIZATION = "2.5.4.3", "2.5.4.10"
-SHA256 = sequence(oid("2.16.840.1.101.3.4.2.1"))
 START, END = time("20240101000000Z"), time("20500101000000Z")
 ISSUER = name(rdn((COMMON_NAME, text("Corpus CA"))))
 
@@ -76,16 +75,12 @@ def crls():
 
 # ---- Attribute certificates
 
-def issuer_serial(issuer=ISSUER, uid=b""):
-    return sequence(sequence(directory(issuer)), integer(2 ** 63), uid)
+def issuer_serial(uid=b""):
+    return sequence(sequence(directory()), integer(2 ** 63), uid)
 
 
 def digest_info(kind, other=b""):
     return sequence(integer(kind, 0x0A), other, SHA256, bit_string(bytes(range(32))))
-
-
-def attribute(kind, *values):
-    return sequence(oid(kind), set_of(*values))
 
 
 def acinfo(holder, issuer=context(0, sequence(directory())), attributes=None, tail=b"", serial=1, version=1):

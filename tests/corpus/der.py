@@ -78,6 +78,14 @@ def extension(kind, value, critical=False):
     return sequence(oid(kind), boolean(True) if critical else b"", octet_string(value))
 
 
+def attribute(kind, *values):
+    return sequence(oid(kind), set_of(*values))
+
+
+SHA256 = sequence(oid("2.16.840.1.101.3.4.2.1"))
+ECDSA_WITH_SHA256 = sequence(oid("1.2.840.10045.4.3.2"))
+
+
 class Element:
     """One element of definite length that is read: first identifier octet, all of them, content, all octets of it."""
 

@@ -229,10 +229,9 @@ class Maker:
     def build(self):
         """What openssl cannot write, but can sign."""
         def sign(body):
-            algorithm = der.sequence(der.oid("1.2.840.10045.4.3.2"))
-            whole = body(algorithm)
+            whole = body(der.ECDSA_WITH_SHA256)
             signature = openssl("dgst", "-sha256", "-sign", "ec.key", cwd=self.work, data=whole)
-            return der.sequence(whole, algorithm, der.bit_string(signature))
+            return der.sequence(whole, der.ECDSA_WITH_SHA256, der.bit_string(signature))
         key = der.Element(from_pem(self.work / "ec.pub")).octets
         for kind, name, body in built.bodies(key):
             (self.folder / kind / f"{name}.der").write_bytes(sign(body))

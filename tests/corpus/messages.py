@@ -8,7 +8,7 @@ import zlib
 
 import der
 import oracle
-from der import context, integer, octet_string, oid, sequence, set_of
+from der import attribute, context, integer, octet_string, oid, sequence, set_of
 
 # Types by the content types whose values they are. Others are not opened.
 HELD = {"1.2.840.113549.1.7.2": "pkcs7signeddata", "1.2.840.113549.1.7.3": "cmsenvelopeddata",
@@ -85,22 +85,17 @@ def content_info(kind, content):
     return sequence(oid(kind), context(0, content))
 
 
-def attribute(kind, value):
-    return sequence(oid(kind), set_of(value))
-
-
 def countersigned(signer, work, times):
     """A SignerInfo with one more unsigned attribute, by the key called ec, that is countersigned itself."""
     if times == 0:
         return signer
     parts = der.Element(signer).parts()
     signature = next(part for part in parts if part.identifier == 0x04).content
-    sha256 = "2.16.840.1.101.3.4.2.1"
     digest = der.openssl("dgst", "-sha256", "-binary", data=signature)
     attributes = set_of(attribute("1.2.840.113549.1.9.4", octet_string(digest)))
     signed = der.openssl("dgst", "-sha256", "-sign", "ec.key", cwd=work, data=attributes)
-    own = sequence(integer(1), parts[1].octets, sequence(oid(sha256)), context(0, der.Element(attributes).content),
-                   sequence(oid("1.2.840.10045.4.3.2")), octet_string(signed))
+    own = sequence(integer(1), parts[1].octets, der.SHA256, context(0, der.Element(attributes).content),
+                   der.ECDSA_WITH_SHA256, octet_string(signed))
     own = countersigned(own, work, times - 1)
     return sequence(*[part.octets for part in parts], context(1, attribute("1.2.840.113549.1.9.6", own)))
 

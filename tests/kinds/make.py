@@ -13,8 +13,8 @@ sys.path.insert(0, str(HERE.parent / "corpus"))
 
 import built  # noqa: E402
 import messages  # noqa: E402
-from der import (Element, bit_string, boolean, context, extension, integer, octet_string, oid, sequence,  # noqa: E402
-                 text, time)
+from der import (SHA256, Element, bit_string, boolean, context, extension, integer, octet_string, oid,  # noqa: E402
+                 sequence, text, time)
 
 # Kind, and the files of the corpus of which the smallest is taken; if it has to hold an OBJECT IDENTIFIER, that.
 FOUND = """
@@ -94,7 +94,7 @@ def by_hand(made):
     dh_key = Element(made.pop("dh-certificate")).parts()[0].parts()[5]
     yield "dh-parameters", dh_key.parts()[0].parts()[1].octets
     yield "signed-data", Element(made["signed"]).parts()[1].parts()[0].octets
-    yield "evidence-record", sequence(VERSION, sequence(built.SHA256), sequence(sequence(sequence(token))))
+    yield "evidence-record", sequence(VERSION, sequence(SHA256), sequence(sequence(sequence(token))))
     yield from seals(certificate)
     yield "sm2-enveloped-key", sequence(sequence(oid("1.2.156.10197.1.104.1")), made["sm2-cipher"],
                                         bit_string(b"\4" + bytes(64)), bit_string(DIGEST))
@@ -115,7 +115,7 @@ def by_hand(made):
                                               messages.content_info("1.2.840.113549.1.7.1", octet_string(DIGEST)))
     yield "name", built.ISSUER
     yield "extensions", sequence(extension("2.5.29.19", sequence(boolean(True)), True))
-    yield "digest-info", sequence(built.SHA256, octet_string(DIGEST))
+    yield "digest-info", sequence(SHA256, octet_string(DIGEST))
     yield "algorithm", sequence(oid("1.2.840.113549.1.1.10"), sequence(context(2, integer(32))))
 
 
