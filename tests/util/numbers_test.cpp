@@ -46,11 +46,7 @@ std::string digits_of(size_t count) {
 }
 
 TEST(BigInteger, octets_and_decimal_text_agree_with_each_other) {
-  const struct {
-    const char *text;
-    Octets octets;
-    int64_t bits;
-  } cases[] = {
+  const std::tuple<std::string, Octets, int64_t> cases[] = {
       {"0", {0}, 0},
       {"18446744073709551616", {1, 0, 0, 0, 0, 0, 0, 0, 0}, 65},
       {"-12345678901234567890123",

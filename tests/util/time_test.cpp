@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <string>
+#include <tuple>
 
 #include "quarn_util.h"
 
@@ -28,11 +29,7 @@ TEST(Time, accepts_calendar_dates_and_times_of_day_only) {
 
 // Days between dates are python's.
 TEST(Time, days_and_minutes_move_along_the_calendar_both_ways_and_keep_the_second) {
-  const struct {
-    Fields from;
-    int64_t minutes;
-    Fields to;
-  } cases[] = {
+  const std::tuple<Fields, int64_t, Fields> cases[] = {
       {{1582, 1, 1, 23, 59, 60, 7}, int64_t{1440} * 3074610, {9999, 12, 31, 23, 59, 60, 7}},
       {{2017, 1, 1, 0, 59, 60, 5}, 1501, {2017, 1, 2, 2, 0, 60, 5}},
   };
@@ -62,11 +59,7 @@ TEST(Time, leaving_the_years_fails_and_changes_nothing) {
 }
 
 TEST(LocalTime, becomes_utc_by_the_zone_in_force_if_that_is_within_the_years) {
-  const struct {
-    const char *zone;
-    Fields local;
-    Fields utc;
-  } cases[] = {
+  const std::tuple<std::string, Fields, Fields> cases[] = {
       // From python's zoneinfo; the gap and -1 second to the epoch included.
       {"Europe/Berlin", {2024, 7, 1, 12, 0, 0, 9}, {2024, 7, 1, 10, 0, 0, 9}},
       {"Europe/Berlin", {2024, 3, 31, 2, 30, 0, 0}, {2024, 3, 31, 1, 30, 0, 0}},
@@ -79,9 +72,8 @@ TEST(LocalTime, becomes_utc_by_the_zone_in_force_if_that_is_within_the_years) {
       {"XYZ8", {9999, 12, 31, 16, 0, 0, 0}, {}},
   };
   for (const auto &[zone, local, utc] : cases) {
-    const std::string name = zone;
-    if (name[0] != 'X' && !std::ifstream("/usr/share/zoneinfo/" + name)) continue;
-    setenv("TZ", zone, 1);
+    if (zone[0] != 'X' && !std::ifstream("/usr/share/zoneinfo/" + zone)) continue;
+    setenv("TZ", zone.c_str(), 1);
     Fields f = local;
     const int expected = utc.year > 0 ? 1 : 0;
     EXPECT_EQ(quarn_time_fields_localtoutc(&f), expected) << zone;
