@@ -9,11 +9,6 @@ from concurrent.futures import ThreadPoolExecutor
 
 import der
 
-# Keys beside those of make_corpus.py.
-KEYS = {
-    "three": "-algorithm RSA -pkeyopt rsa_keygen_bits:2048 -pkeyopt rsa_keygen_primes:3",
-    "explicit": "-algorithm EC -pkeyopt ec_paramgen_curve:P-384 -pkeyopt ec_param_enc:explicit",
-}
 REPLIES = ["sha256 ess_cert_id_chain = yes", "sha1 accuracy = secs:1, millisecs:500, microsecs:100",
            "sha512 ordering = yes", "sha256 clock_precision_digits = 3", "sha384 tsa_name = yes"]
 TSA = """[tsa]
@@ -165,8 +160,6 @@ def prepare(work):
         digest, _, line = words.partition(" ")
         (work / f"tsa{number}").write_text(TSA.format(digest, line))
     openssl("genpkey -genparam -algorithm DH -pkeyopt group:ffdhe2048 -out dh.params")
-    for key, arguments in KEYS.items():
-        openssl(f"genpkey {arguments} -out {key}.key")
     openssl("req -x509 -new -key ec.key -config corpus.cnf -extensions stamps -subj /CN=tsa -out tsa.pem")
     openssl("ocsp -issuer ca_ec.pem -serial 1 -serial 2 -serial 3 -reqout request")
     openssl("ts -query -data text -cert -out query")

@@ -42,7 +42,9 @@ KEYS = [
     ("pss", "-algorithm RSA-PSS -pkeyopt rsa_keygen_bits:1024"),
     ("psslimited", "-algorithm RSA-PSS -pkeyopt rsa_keygen_bits:1024 -pkeyopt rsa_pss_keygen_md:sha256"
      " -pkeyopt rsa_pss_keygen_mgf1_md:sha256 -pkeyopt rsa_pss_keygen_saltlen:32"),
+    ("three", "-algorithm RSA -pkeyopt rsa_keygen_bits:2048 -pkeyopt rsa_keygen_primes:3"),
     ("ec", "-algorithm EC -pkeyopt ec_paramgen_curve:P-256"),
+    ("explicit", "-algorithm EC -pkeyopt ec_paramgen_curve:P-384 -pkeyopt ec_param_enc:explicit"),
     ("ed25519", "-algorithm ED25519"),
     ("ed448", "-algorithm ED448"),
     ("x25519", "-algorithm X25519"),
