@@ -39,6 +39,7 @@ curve-parameters ecpkparameters/other* 1.2.840.10045.1.1
 dh-certificate x509pubkeycert/key_dh.der
 dsa-parameters dssparams/other*
 signature ecdsasigvalue/other*
+code-time-stamp-request authenticode_timestampreq/other*
 ocsp-request ocsp_ocsprequest/other*
 ocsp-response ocsp_ocspresponse/other*
 time-stamp-request tsp_timestampreq/other*
@@ -111,8 +112,6 @@ def by_hand(made):
     yield "cross-pair", sequence(context(0, certificate))
     yield "certificate-bag", sequence(oid("1.2.840.113549.1.9.22.1"), context(0, octet_string(certificate)))
     yield "crl-bag", sequence(oid("1.2.840.113549.1.9.23.1"), context(0, octet_string(made["crl"])))
-    yield "code-time-stamp-request", sequence(oid("1.3.6.1.4.1.311.3.2.1"),
-                                              messages.content_info("1.2.840.113549.1.7.1", octet_string(DIGEST)))
     yield "name", built.ISSUER
     yield "extensions", sequence(extension("2.5.29.19", sequence(boolean(True)), True))
     yield "digest-info", sequence(SHA256, octet_string(DIGEST))

@@ -192,15 +192,6 @@ TEST(Pem, decodes_the_first_block_whose_label_is_exactly_the_one_asked_for) {
   EXPECT_EQ(decode("OTHER", text + "-----BEGIN OTHER-----\nYg==\n-----END OTHER-----\n"), kNothing);
 }
 
-TEST(Pem, writes_lines_of_64_characters) {
-  const std::string full = "YWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFh\n";
-  for (const auto &[count, lines] : {std::pair{48, full}, {49, full + "YQ==\n"}}) {
-    const std::string a(49, 'a');
-    EXPECT_EQ(made<char>(quarn_pemencode, "NEW X", octets_of(a.data()), count),
-              "-----BEGIN NEW X-----\n" + lines + "-----END NEW X-----\n");
-  }
-}
-
 // Text that starts a block, or seems to, again and again. A scanner that looks for each missing END
 // to the end of the text would need hours.
 TEST(Pem, hostile_repetition_takes_linear_time) {
