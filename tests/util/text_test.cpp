@@ -192,6 +192,13 @@ TEST(Pem, decodes_the_first_block_whose_label_is_exactly_the_one_asked_for) {
   EXPECT_EQ(decode("OTHER", text + "-----BEGIN OTHER-----\nYg==\n-----END OTHER-----\n"), kNothing);
 }
 
+// A last line that is not full is compared with openssl's by the tests of the command.
+TEST(Pem, writes_no_empty_line_behind_a_full_one) {
+  const std::string full = "YWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFhYWFh\n";
+  EXPECT_EQ(made<char>(quarn_pemencode, "X", octets_of(std::string(48, 'a').data()), 48),
+            "-----BEGIN X-----\n" + full + "-----END X-----\n");
+}
+
 // Text that starts a block, or seems to, again and again. A scanner that looks for each missing END
 // to the end of the text would need hours.
 TEST(Pem, hostile_repetition_takes_linear_time) {
