@@ -55,7 +55,6 @@ constexpr char kBothWays[] = R"(
 1C 04 0000D800 | {"type":"UNIVERSALSTRING","user defined":{"content":"0000D800","length":4}}
 1E 03 004100 | {"type":"BMPSTRING","user defined":{"content":"004100","length":3}}
 37 80 04 01 32 0000 | {"type":"UTCTIME","constructed":true,"indefinite":true,"value":[{"type":"OCTETSTRING","value":"32"}]}
-07 01 41 | {"type":"UNKNOWN","user defined":{"content":"070141","identifier":"","length":""}}
 A0 00 | {"type":"TAGGEDTYPE","class":"CONTEXT","implicit":true,"number":0,"value":{"type":"SEQUENCE","value":[]}}
 A0 80 0500 0000 | {"type":"TAGGEDTYPE","class":"CONTEXT","implicit":false,"indefinite":true,"number":0,"value":{"type":"NULL"}}
 DF 87FFFFFF7F 00 | {"type":"TAGGEDTYPE","class":"PRIVATE","implicit":true,"number":2147483647,"value":{"type":"OCTETSTRING","value":""}}
