@@ -43,7 +43,6 @@ constexpr char kBothWays[] = R"(
 0A 04 80000000 | {"type":"ENUM","value":-2147483648}
 02 05 0080000000 | {"type":"INTEGER","value":"0X80000000"}
 02 05 FF00000000 | {"type":"INTEGER","value":"-0X0100000000"}
-03 02 07 FF | {"type":"BITSTRING","value":{"unused bits":7,"value":"FF"}}
 06 03 883703 | {"type":"OID","value":"2.999.3"}
 0D 03 813403 | {"type":"ROID","value":"180.3"}
 0C 05 E282AC 00 1F | {"type":"UTF8STRING","value":"€\u0000\u001f"}
