@@ -43,7 +43,6 @@ constexpr char kBothWays[] = R"(
 0A 04 80000000 | {"type":"ENUM","value":-2147483648}
 02 05 0080000000 | {"type":"INTEGER","value":"0X80000000"}
 02 05 FF00000000 | {"type":"INTEGER","value":"-0X0100000000"}
-03 02 07 FF | {"type":"BITSTRING","value":{"unused bits":7,"value":"FF"}}
 06 03 883703 | {"type":"OID","value":"2.999.3"}
 0D 03 813403 | {"type":"ROID","value":"180.3"}
 0C 05 E282AC 00 1F | {"type":"UTF8STRING","value":"€\u0000\u001f"}
@@ -55,7 +54,6 @@ constexpr char kBothWays[] = R"(
 1C 04 0000D800 | {"type":"UNIVERSALSTRING","user defined":{"content":"0000D800","length":4}}
 1E 03 004100 | {"type":"BMPSTRING","user defined":{"content":"004100","length":3}}
 37 80 04 01 32 0000 | {"type":"UTCTIME","constructed":true,"indefinite":true,"value":[{"type":"OCTETSTRING","value":"32"}]}
-07 01 41 | {"type":"UNKNOWN","user defined":{"content":"070141","identifier":"","length":""}}
 A0 00 | {"type":"TAGGEDTYPE","class":"CONTEXT","implicit":true,"number":0,"value":{"type":"SEQUENCE","value":[]}}
 A0 80 0500 0000 | {"type":"TAGGEDTYPE","class":"CONTEXT","implicit":false,"indefinite":true,"number":0,"value":{"type":"NULL"}}
 DF 87FFFFFF7F 00 | {"type":"TAGGEDTYPE","class":"PRIVATE","implicit":true,"number":2147483647,"value":{"type":"OCTETSTRING","value":""}}

@@ -41,8 +41,7 @@ TEST(Primitive, content_encoders_check_the_stream_and_then_the_length) {
     const Held value(type, element);
     const auto size = static_cast<std::int64_t>(hex(element).size());
     EXPECT_EQ(quarn_asn1_content_length(type, value.get()), size - 2);
-    SlowSink sink;
-    const Stream s = sink.stream();
+    const Stream s = growable();
     const Context ctx(quarn_err_ctx_new());
     EXPECT_EQ(quarn_asn1_encode_content(nullptr, type, value.get(), size, nullptr, ctx.get()), 0);
     EXPECT_EQ(quarn_asn1_encode_content(s.get(), type, value.get(), size, nullptr, ctx.get()), 0);

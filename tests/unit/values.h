@@ -83,6 +83,26 @@ class Held {
   std::int64_t consumed_ = -1;
 };
 
+// What a string does over a store: it is decoded into it and written, and the OCTET STRING in it is
+// decoded. True when that and what else is asked for, given a stream in memory, all succeeded.
+template <typename T, typename Decode, typename GetObject, typename Also>
+bool use_over(
+    Store &from, Store &to, std::int64_t type, Decode decode, GetObject get_object, Also also) {
+  const Stream source = from.stream();
+  const Stream held = to.stream();
+  const Stream memory(quarn_stream_new_mem(0, nullptr));
+  if (source == nullptr || held == nullptr || memory == nullptr) return false;
+  T *string = nullptr;
+  decode(source.get(), held.get(), &string, nullptr, nullptr);
+  const Held owned(type, string);
+  const auto write = quarn_asn1_encode;
+  if (string == nullptr || write(memory.get(), type, string, nullptr, nullptr) != 1) return false;
+  void *object = nullptr;
+  const int got = get_object(string, QUARN_ASN1_OCTETSTRING, &object, nullptr);
+  quarn_asn1_value_free(QUARN_ASN1_OCTETSTRING, object);  // the caller's after a failure, too
+  return got == 1 && also(string, memory);
+}
+
 }  // namespace quarn::test
 
 #endif
