@@ -278,8 +278,9 @@ constexpr Candidate kCandidates[] = {
 }  // namespace
 
 bool Candidate::has_label(const std::string &label) const {
+  if (label.empty()) return false;
   const std::vector<std::string> all = split(labels);
-  return !label.empty() && std::find(all.begin(), all.end(), label) != all.end();
+  return std::find(all.begin(), all.end(), label) != all.end();
 }
 
 std::span<const Candidate> candidates() {
