@@ -19,7 +19,8 @@ STRUCTURED = {100: ("point", "Point", 16, "constructed"), 101: ("points", "Point
 def registry():
     made = []
     for number in range(107):
-        name, stem, tag, form = STRUCTURED.get(number, (f"u{number}", f"u{number}", TAGS.get(number, number), "primitive"))
+        universal = (f"u{number}", f"u{number}", TAGS.get(number, number), "primitive")
+        name, stem, tag, form = STRUCTURED.get(number, universal)
         codec = "-" if number in STRUCTURED else "own"
         made.append(model.Row(number, name, stem, tag, "universal", form, 0x10200 + number, codec))
     return made
@@ -83,7 +84,8 @@ class Mistakes(unittest.TestCase):
                 ("the default of x is not between -128 and 127", SEQUENCE + "{ x INTEGER DEFAULT 128 }"),
                 ("form=exact is for OPTIONAL components and alternatives without an EXPLICIT tag",
                  "--- T.\n--@ type id=102\nT ::= CHOICE {\nx [0] EXPLICIT NULL --@ form=exact\n}"),
-                ("form=inside is for components without a tag that may be absent", SEQUENCE + "{\nx NULL --@ form=inside\n}"),
+                ("form=inside is for components without a tag that may be absent",
+                 SEQUENCE + "{\nx NULL --@ form=inside\n}"),
                 ("when is a number up to 127, for OPTIONAL components without a tag",
                  SEQUENCE + "{\ny INTEGER,\nx NULL --@ when=1\n}"),
                 ("1.2 is there twice as bag", "a BAG ::= { 1.2 NULL }\nb BAG ::= { 1.2 ANY }"),

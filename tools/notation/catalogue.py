@@ -75,7 +75,8 @@ class Catalogue:
             [*(components(definition, numbers[definition.name]) for definition in definitions),
              "constexpr Definition kDefinitions[] = {\n" +
              "".join(self.entry(definition, numbers[definition.name]) for definition in definitions) + "};\n",
-             "// By type id; behind those of callers, the ids of definitions that are only parts of others.\nconstexpr std::int16_t kDefinitionOf[] = {\n" +
+             "// By type id; behind those of callers, the ids of definitions that are only parts of others.\n"
+             "constexpr std::int16_t kDefinitionOf[] = {\n" +
              textwrap.fill(", ".join(of), 99, initial_indent="    ", subsequent_indent="    ") + ",\n};\n"])
 
     def entry(self, definition, number):
